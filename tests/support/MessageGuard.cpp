@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "support/MessageGuard.h"
+
+#include <QMutex>
+#include <QtTest>
+
+namespace {
+
+QMutex mutex;
+QStringList messages; // guarded by mutex
+
+void record(QtMsgType, const QMessageLogContext &, const QString &text)
+{
+    QMutexLocker lock(&mutex);
+    messages.append(text);
+}
+
+} // namespace
+
+MessageGuard::MessageGuard()
+    : m_previous(qInstallMessageHandler(record))
+{
+    takeMessages();
+}
+
+MessageGuard::~MessageGuard()
+{
+    qInstallMessageHandler(m_previous);
+    const QStringList left = takeMessages();
+    if (!left.isEmpty())
+        QTest::qFail(qPrintable("unannounced messages: " + left.join(" | ")), __FILE__, __LINE__);
+}
+
+QStringList MessageGuard::takeMessages()
+{
+    QMutexLocker lock(&mutex);
+    QStringList taken;
+    taken.swap(messages);
+    return taken;
+}
+
+bool MessageGuard::take(const QString &text)
+{
+    QMutexLocker lock(&mutex);
+    return messages.removeOne(text);
+}
