@@ -1,0 +1,133 @@
+# SPDX-FileCopyrightText: 2026 The Hintreels authors
+# SPDX-License-Identifier: MIT
+# shellcheck shell=bash
+#
+# What the commands in this folder share. A command sources it first, names each of its steps with
+# `step`, and ends with the exit status of the step that failed, named in the last line.
+
+set -euo pipefail
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+command_name=scripts/$(basename "$0")
+current_step="start"
+started_processes=()
+temporary_directory=
+
+# Names what happens from here on.
+step() {
+    current_step=$1
+    printf '== %s\n' "$current_step"
+}
+
+# Ends the command with a message.
+fail() {
+    printf '%s: %s\n' "$command_name" "$1" >&2
+    exit 1
+}
+
+# Ends what the command started, the last first, and names the step that failed.
+finish() {
+    local status=$? i
+    for ((i = ${#started_processes[@]} - 1; i >= 0; --i)); do
+        kill "${started_processes[i]}" 2>/dev/null || true
+        wait "${started_processes[i]}" 2>/dev/null || true
+    done
+    [[ -z $temporary_directory ]] || rm -rf "$temporary_directory"
+    ((status == 0)) || printf '%s: failed at: %s\n' "$command_name" "$current_step" >&2
+    exit "$status"
+}
+trap finish EXIT
+trap 'exit 130' INT
+trap 'exit 143' TERM
+
+# Makes $temporary_directory, which goes when the command ends.
+make_temporary_directory() {
+    [[ -n $temporary_directory ]] || temporary_directory=$(mktemp -d)
+}
+
+# The packages of some groups in packages.txt, one a line.
+packages_of() {
+    awk -v groups=" $* " '
+        /^\[/ { wanted = index(groups, " " substr($1, 2, length($1) - 2) " ") }
+        /^[a-z0-9]/ && wanted { print $1 }' "$root/scripts/packages.txt"
+}
+
+# Those of the packages given as arguments that dpkg does not know as installed.
+missing_of() {
+    dpkg-query -W -f '${Package} ${db:Status-Status}\n' "$@" 2>/dev/null |
+        awk '$2 == "installed" { print $1 }' | sort -u |
+        comm -13 - <(printf '%s\n' "$@" | sort -u) || true
+}
+
+# Runs a command as root, through sudo where that is needed.
+as_root() {
+    if ((EUID == 0)); then
+        "$@"
+    elif command -v sudo >/dev/null; then
+        sudo "$@"
+    else
+        fail "needs root or sudo for: $*"
+    fi
+}
+
+# require_packages GROUP...: installs what is missing of these groups, and says what.
+require_packages() {
+    local packages missing
+    mapfile -t packages < <(packages_of "$@")
+    ((${#packages[@]} > 0)) || fail "scripts/packages.txt has no group of: $*"
+    command -v dpkg-query >/dev/null ||
+        fail "no dpkg here; install what scripts/packages.txt names, then use the CMake presets"
+    mapfile -t missing < <(missing_of "${packages[@]}")
+    ((${#missing[@]} > 0)) || return 0
+    step "install ${missing[*]}"
+    as_root apt-get update -qq
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends \
+        "${missing[@]}"
+    mapfile -t missing < <(missing_of "${packages[@]}")
+    ((${#missing[@]} == 0)) || fail "could not install ${missing[*]}"
+}
+
+# build PRESET [TARGET...]: configures where that was not done yet, and builds.
+build() {
+    local preset=$1
+    shift
+    step "build ($preset)"
+    (
+        cd "$root"
+        [[ -f build/$preset/build.ninja ]] || cmake --preset "$preset"
+        cmake --build --preset "$preset" ${1:+--target "$@"}
+    )
+}
+
+# Starts an X server of our own with a window manager, and points DISPLAY to it.
+start_display() {
+    step "start Xvfb and openbox"
+    make_temporary_directory
+    local number_file=$temporary_directory/display
+    Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$number_file" \
+        2>"$temporary_directory/xvfb.log" &
+    started_processes+=($!)
+    wait_until 10 test -s "$number_file" || fail "Xvfb did not start: $(cat "$temporary_directory/xvfb.log")"
+    DISPLAY=:$(tr -d '\n' <"$number_file")
+    export DISPLAY
+    unset WAYLAND_DISPLAY
+    export QT_QPA_PLATFORM=xcb
+    openbox --sm-disable >"$temporary_directory/openbox.log" 2>&1 &
+    started_processes+=($!)
+    wait_until 10 window_manager_runs || fail "openbox did not start: $(cat "$temporary_directory/openbox.log")"
+}
+
+# A window manager names its supporting window on the root window once it is ready.
+window_manager_runs() {
+    xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'
+}
+
+# wait_until SECONDS COMMAND...: runs the command every 50 ms until it succeeds; fails after that time.
+wait_until() {
+    local end=$((${EPOCHREALTIME//[!0-9]/} + $1 * 1000000))
+    shift
+    until "$@"; do
+        ((${EPOCHREALTIME//[!0-9]/} < end)) || return 1
+        sleep 0.05
+    done
+}
