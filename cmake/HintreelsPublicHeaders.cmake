@@ -42,6 +42,8 @@ function(hintreels_install_headers target)
         add_library(hintreels_header_check OBJECT ${check_sources})
         set_target_properties(hintreels_header_check PROPERTIES AUTOMOC OFF)
         hintreels_compile_options(hintreels_header_check)
+        # Hosts may treat warnings as errors, deprecation included.
+        target_compile_options(hintreels_header_check PRIVATE -Wdeprecated-declarations)
         target_link_libraries(hintreels_header_check PRIVATE ${target})
     endif()
 endfunction()

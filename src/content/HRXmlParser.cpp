@@ -1,0 +1,245 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "content/HRXmlParser.h"
+
+#include "content/HRXmlElement.h"
+
+#include <QDebug>
+#include <QMap>
+#include <QMetaMethod>
+#include <QMetaProperty>
+#include <QPointer>
+#include <QVector>
+
+namespace Hintreels {
+
+namespace {
+
+// The modes of reading, and the bits of a filter's answer.
+const int askMode = 1;
+const int takeMode = 2;
+const int dropBit = 4; // in answers only
+const int skipMode = 8;
+
+/// An element that was opened and not yet closed.
+struct OpenElement
+{
+    QPointer<QObject> object; // null where the element makes none
+    int mode; // that of its children
+};
+
+int modeOfAnswer(int answer)
+{
+    if (answer & skipMode)
+        return skipMode;
+    return answer & takeMode ? takeMode : askMode;
+}
+
+/// Writes every attribute to the property of its name; false where there is no such property.
+bool writeProperties(
+    QObject *object, const QMetaObject &metaObject, const QXmlAttributes &attributes)
+{
+    for (int i = 0; i < attributes.length(); ++i) {
+        const QString name = attributes.localName(i);
+        const int index = metaObject.indexOfProperty(name.toLatin1().constData());
+        if (index < 0) {
+            qDebug().noquote()
+                << QStringLiteral("No Property named %1 on %2").arg(name, metaObject.className());
+            return false;
+        }
+        if (!metaObject.property(index).write(object, attributes.value(i))) {
+            qDebug().noquote() << QStringLiteral("Could not write \"%1\" to property %2 of %3")
+                                      .arg(attributes.value(i), name, metaObject.className());
+        }
+    }
+    return true;
+}
+
+void writeIfPresent(
+    QObject *object, const QMetaObject &metaObject, const char *property, const QString &value)
+{
+    const int index = metaObject.indexOfProperty(property);
+    if (index >= 0)
+        metaObject.property(index).write(object, value);
+}
+
+/// Makes an object of the class, or logs why there is none. A class that takes the attributes
+/// itself gets them; of others the properties are written.
+QObject *makeObject(const QMetaObject *metaObject, QObject *parent, const QString &localName,
+    const QXmlAttributes &attributes)
+{
+    QObject *object = nullptr;
+    if (metaObject)
+        object
+            = metaObject->newInstance(Q_ARG(QObject *, parent), Q_ARG(QXmlAttributes, attributes));
+    if (object)
+        return object;
+    if (metaObject)
+        object = metaObject->newInstance(Q_ARG(QObject *, parent));
+    if (!object) {
+        qDebug().noquote()
+            << QStringLiteral("Could not find object for element: %1").arg(localName);
+        return nullptr;
+    }
+    if (writeProperties(object, *metaObject, attributes))
+        return object;
+    delete object;
+    return nullptr;
+}
+
+} // namespace
+
+struct HRXmlParserPrivate
+{
+    QMap<QString, const QMetaObject *> registry; // class by local name
+    const QMetaObject *defaultElement;
+    HRXmlParser::Filter callback;
+    void *context;
+    QVector<OpenElement> stack; // the root comes first
+    int mode; // of the elements read next
+
+    int answerFor(const QString &qName, const QXmlAttributes &attributes) const
+    {
+        return callback && (mode & askMode) ? callback(qName, attributes, context) : mode;
+    }
+
+    /// The object nearest around the next element: elements that make none are seen through.
+    QObject *enclosingObject() const
+    {
+        for (auto open = stack.crbegin(); open != stack.crend(); ++open) {
+            if (open->object)
+                return open->object;
+        }
+        return nullptr;
+    }
+
+    const QMetaObject *classFor(const QString &localName) const
+    {
+        const QMetaObject *registered = registry.value(localName);
+        return registered ? registered : defaultElement;
+    }
+
+    void push(QObject *object, int childMode)
+    {
+        stack.append({ object, childMode });
+        mode = childMode;
+    }
+};
+
+HRXmlParser::HRXmlParser(Filter callback, void *context)
+    : d(new HRXmlParserPrivate{
+        {}, &HRXmlElement::staticMetaObject, callback, context, {}, askMode })
+{
+}
+
+HRXmlParser::~HRXmlParser()
+{
+    for (const OpenElement &open : qAsConst(d->stack))
+        delete open.object;
+}
+
+void HRXmlParser::registerElement(const QString &localName, const QMetaObject *metaObject)
+{
+    d->registry.insert(localName, metaObject);
+}
+
+void HRXmlParser::unregisterElement(const QString &localName)
+{
+    d->registry.remove(localName);
+}
+
+void HRXmlParser::setDefaultElement(const QMetaObject *metaObject)
+{
+    d->defaultElement = metaObject;
+}
+
+const QMetaObject *HRXmlParser::defaultElement() const
+{
+    return d->defaultElement;
+}
+
+const QMetaObject *HRXmlParser::metaObjectForElement(const QString &localName) const
+{
+    return d->registry.value(localName);
+}
+
+QList<QObject *> HRXmlParser::read(const QXmlInputSource *source)
+{
+    d->stack.clear();
+    d->push(new HRXmlElement, askMode);
+    setContentHandler(this);
+    setErrorHandler(this);
+    parse(source);
+
+    QObject *root = d->stack.first().object;
+    if (!root)
+        return {};
+    const QList<QObject *> objects = root->children();
+    for (QObject *object : objects)
+        object->setParent(nullptr);
+    delete root;
+    return objects;
+}
+
+QList<QObject *> HRXmlParser::read(const QXmlInputSource &source)
+{
+    return read(&source);
+}
+
+bool HRXmlParser::startElement(const QString &namespaceURI, const QString &localName,
+    const QString &qName, const QXmlAttributes &attributes)
+{
+    if (d->mode & skipMode) {
+        d->push(nullptr, skipMode);
+        return true;
+    }
+    const int answer = d->answerFor(qName, attributes);
+    if (answer & dropBit) {
+        d->push(nullptr, modeOfAnswer(answer));
+        return true;
+    }
+    const QMetaObject *metaObject = d->classFor(localName);
+    QObject *object = makeObject(metaObject, d->enclosingObject(), localName, attributes);
+    if (!object)
+        return false;
+    writeIfPresent(object, *metaObject, "tagNameSpace", namespaceURI.trimmed());
+    writeIfPresent(object, *metaObject, "tagName", qName.trimmed());
+    d->push(object, modeOfAnswer(answer));
+    return true;
+}
+
+bool HRXmlParser::endElement(const QString &, const QString &, const QString &)
+{
+    d->stack.removeLast();
+    d->mode = d->stack.last().mode;
+    return true;
+}
+
+bool HRXmlParser::characters(const QString &text)
+{
+    QObject *object = d->stack.last().object;
+    if (!object)
+        return true;
+    const QMetaObject *metaObject = object->metaObject();
+    const int index = metaObject->indexOfMethod("appendContent(QString)");
+    if (index >= 0)
+        metaObject->method(index).invoke(object, Qt::DirectConnection, Q_ARG(QString, text));
+    return true;
+}
+
+bool HRXmlParser::ignorableWhitespace(const QString &text)
+{
+    return characters(text);
+}
+
+bool HRXmlParser::fatalError(const QXmlParseException &exception)
+{
+    qDebug().noquote() << QStringLiteral("Fatal error at %1,%2 : %3")
+                              .arg(exception.lineNumber())
+                              .arg(exception.columnNumber())
+                              .arg(exception.message());
+    return false;
+}
+
+} // namespace Hintreels

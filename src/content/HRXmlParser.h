@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "context/HRExport.h"
+
+#include <QList>
+#include <QXmlAttributes>
+#include <QXmlDefaultHandler>
+#include <QXmlInputSource>
+#include <QXmlSimpleReader>
+
+#include <memory>
+
+QT_WARNING_PUSH
+QT_WARNING_DISABLE_DEPRECATED
+
+namespace Hintreels {
+
+struct HRXmlParserPrivate;
+
+/// Builds objects from an XML document, one per element, as a filter decides.
+///
+/// An element's class is the one registered under its local name, or the default class. A class
+/// with an invokable constructor of (QObject *, QXmlAttributes) takes the attributes itself;
+/// with one of (QObject *) alone, every attribute must name a property, which is written. Text
+/// goes to an invokable appendContent(QString), where the class has one.
+///
+/// The filter is asked for elements with their qualified name and attributes, and answers with the
+/// sum of these:
+/// - 1: make an object, and ask for the children as well; the same as 0
+/// - 2: make objects for the element and all below it without asking
+/// - 4: make no object for this element; its children go to the nearest object around it
+/// - 8: make no objects below this element, and do not ask for them
+///
+/// Errors end the reading; they are written to Qt's debug output with line and column. So are
+/// documents that would exhaust the host: elements nested so deeply that the stack runs short, and
+/// entities that are too many or grow too much. External entities are never opened.
+///
+/// A parser may read several documents in turn. Use one parser on one thread.
+class HINTREELS_EXPORT HRXmlParser : public QXmlSimpleReader, private QXmlDefaultHandler
+{
+public:
+    /// Answers for an element by a sum of 1, 2, 4 and 8; @p context is what the parser was given.
+    using Filter = int (*)(const QString &qName, const QXmlAttributes &attributes, void *context);
+
+    /// Makes a parser with HRXmlElement as the default class. Without a filter, every element
+    /// becomes an object.
+    explicit HRXmlParser(Filter callback = nullptr, void *context = nullptr);
+
+    /// Deletes those objects that a failed reading left open, even though they were returned.
+    ~HRXmlParser() override;
+
+    /// Makes objects of @p metaObject for elements with this local name from now on.
+    void registerElement(const QString &localName, const QMetaObject *metaObject);
+    void unregisterElement(const QString &localName);
+
+    /// The class of elements that are not registered.
+    void setDefaultElement(const QMetaObject *metaObject);
+    const QMetaObject *defaultElement() const;
+
+    /// The class registered under this name, or null; the default class does not count.
+    const QMetaObject *metaObjectForElement(const QString &localName) const;
+
+    /// Reads a document and returns its top-level objects in document order; the caller owns them.
+    ///
+    /// After an error this is what was built until then. The elements that were open at the error
+    /// go with the parser: guard the result by a QPointer, or be done with it before.
+    QList<QObject *> read(const QXmlInputSource *source);
+    QList<QObject *> read(const QXmlInputSource &source);
+
+private:
+    bool startElement(const QString &namespaceURI, const QString &localName, const QString &qName,
+        const QXmlAttributes &attributes) override;
+    bool endElement(
+        const QString &namespaceURI, const QString &localName, const QString &qName) override;
+    bool characters(const QString &text) override;
+    bool ignorableWhitespace(const QString &text) override;
+    bool fatalError(const QXmlParseException &exception) override;
+
+    std::unique_ptr<HRXmlParserPrivate> d;
+};
+
+} // namespace Hintreels
+
+QT_WARNING_POP
