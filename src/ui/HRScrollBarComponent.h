@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "context/HRExport.h"
+
+#include <QPointer>
+#include <QQuickPaintedItem>
+#include <QScrollBar>
+
+/// A QML item that drives a native scroll bar: `HRScrollBar`.
+///
+/// Range and position are fractions, kept by the bar as whole hundredths: 0.999 becomes 0.99. The
+/// bar is a window of its own, which the item neither moves nor deletes; it lives until the
+/// application ends. A UI that wants a bar inside the popup draws one in QML.
+///
+/// A new bar has the range 0 to 0.99 and, like every QScrollBar, keeps its position inside it.
+class HINTREELS_EXPORT HRScrollBarComponent : public QQuickPaintedItem
+{
+    Q_OBJECT
+    Q_PROPERTY(float start READ start WRITE setStart NOTIFY startChanged)
+    Q_PROPERTY(float end READ end WRITE setEnd NOTIFY endChanged)
+    Q_PROPERTY(float position READ position WRITE setPosition NOTIFY positionChanged)
+    Q_PROPERTY(bool orientHorizontal READ orientHorizontal WRITE setOrientHorizontal NOTIFY
+            orientHorizontalChanged)
+    Q_PROPERTY(float scrollBarWidth READ scrollBarWidth NOTIFY scrollBarWidthChanged)
+
+public:
+    explicit HRScrollBarComponent(QQuickPaintedItem *parent = nullptr);
+
+    float start() const;
+    void setStart(float start);
+
+    float end() const;
+    void setEnd(float end);
+
+    float position() const;
+    void setPosition(float position);
+
+    bool orientHorizontal() const;
+    void setOrientHorizontal(bool horizontal);
+
+    /// The bar's thickness in pixels.
+    float scrollBarWidth() const;
+
+    void paint(QPainter *painter) override;
+
+Q_SIGNALS:
+    void startChanged();
+    void endChanged();
+    void positionChanged();
+    void orientHorizontalChanged();
+    void scrollBarWidthChanged();
+
+public Q_SLOTS:
+    void scrollBarPositionChanged(int value);
+
+public:
+    /// Gives the bar the item's size.
+    Q_INVOKABLE void updateDimensions();
+
+    /// Moves the bar; positionChanged() follows later, and only where the position changed.
+    Q_INVOKABLE void setPositionExternal(float value);
+
+protected:
+    void itemChange(ItemChange change, const ItemChangeData &value) override;
+
+private:
+    // Guarded, since nothing keeps others from deleting a top-level widget.
+    QPointer<QScrollBar> m_bar;
+};

@@ -1,0 +1,162 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "content/HRXmlElement.h"
+#include "context/HRContext.h"
+#include "context/HRExport.h"
+
+#include <QDir>
+#include <QList>
+#include <QPointer>
+#include <QQmlError>
+#include <QQuickPaintedItem>
+#include <QQuickView>
+#include <QString>
+
+#include <memory>
+
+namespace Hintreels {
+
+class HRManager;
+class HROverrideCursors;
+
+/// Renders the QML user interface of one popup, and serves the scripts in it.
+///
+/// Chooses the QML file and resolves resources by the content element that it holds. QML finds it
+/// as `hintreelView`. Everything that goes wrong in QML becomes a message of type messageDebug.
+///
+/// Works without a manager too, also after the manager is gone: settings then have their defaults,
+/// texts come back as they are and nothing is opened. GUI thread only.
+class HINTREELS_EXPORT HRView : public QQuickView
+{
+    Q_OBJECT
+    // QML sees signals, slots, methods and properties in the order in which they stand here.
+    Q_PROPERTY(bool stayOpen READ stayOpen WRITE setStayOpen NOTIFY stayOpenChanged)
+    Q_PROPERTY(bool reserved READ reserved WRITE setReserved NOTIFY reservedChanged)
+    Q_PROPERTY(Hintreels::HRXmlElement *content READ content WRITE setContent NOTIFY contentChanged)
+    Q_PROPERTY(bool documentationAvailable READ documentationAvailable NOTIFY
+            documentationAvailableChanged)
+    // Without notification: QML binds to `hintreel`, which changes whenever this can.
+    Q_PROPERTY(QString resourceDirectory READ resourceDirectoryPath)
+
+public:
+    /// @param manager not owned; may be null
+    HRView(HRManager *manager, QWindow *parent);
+
+    /// Deletes the content, together with the root element that it was read with.
+    ~HRView() override;
+
+    HRManager *manager() const;
+
+    /// Whether the popup stays when the pointer leaves it.
+    bool stayOpen() const;
+
+    /// Stores the value and emits stayOpenChanged(), also where it stays the same.
+    void setStayOpen(bool stayOpen);
+
+    /// Whether the popup is to be detached from the pointer.
+    bool reserved() const;
+
+    /// Asks for the popup to become a window of its own, or does nothing for the same value.
+    void setReserved(bool reserved);
+
+    /// The element that is shown; null before the first hint and when somebody deleted it.
+    HRXmlElement *content() const;
+
+    /// Takes an element over without a signal. The old one is not deleted: whoever replaces it
+    /// does that.
+    void setContent(HRXmlElement *content);
+
+    /// Whether the UI offers documentation: the setting allowNamedResourcesKey, false by default.
+    bool documentationAvailable() const;
+
+    /// Name of the directory for resources: the content's attribute "resource", else the setting.
+    QString resourceDirectoryPath() const;
+
+    /// The directory of the current package.
+    QDir packageRoot() const;
+    void setPackageRoot(const QDir &directory);
+
+    /// Moves the window, in coordinates of its parent.
+    void setViewPos(int x, int y);
+
+    /// Absolute path of the QML root file for the content, or its name where no package has it.
+    QString uiRootFilePath() const;
+
+    /// A name that content may choose: the attribute of the content, else of its parent element,
+    /// else the setting.
+    QString categoryPath(
+        const QString &attributeName, const QString &defaultValue, HRContextKey key) const;
+
+    /// Searches the content's packages for the file that categoryPath() names.
+    /// @param relativePath a file below that directory; empty for the file itself
+    /// @return the absolute path of the first one that exists, else what categoryPath() names
+    QString findComponent(const QString &attributeName, HRContextKey key,
+        const QString &defaultValue, const QString &relativePath) const;
+
+    /// Takes back the override cursors that QML has set and not restored.
+    ///
+    /// As many later restores by QML are swallowed, so that they do not take the host's cursor.
+    void releaseOverrideCursors();
+
+Q_SIGNALS:
+    void stayOpenChanged();
+    void reservedChanged();
+    /// Never emitted: QML binds to `hintreel`.
+    void contentChanged();
+    void contentSizeChanged();
+    void documentationAvailableChanged();
+    /// Never emitted: QML binds to `hintreel`.
+    void resourceDirectoryChanged();
+
+public Q_SLOTS:
+    void handleWarnings(const QList<QQmlError> &warnings);
+    void statusHasChanged(QQuickView::Status s);
+
+    /// Loads a QML file unless it is the one that is loaded; a missing file changes nothing.
+    void loadQML(const QString &path);
+
+    /// Sets the root item's state to the base state.
+    void resetState();
+    void managerContextSettingDidChange(const HRContextKey &key);
+
+public:
+    /// Sets an item's cursor by name, or unsets it for an empty name; a null item is ignored.
+    /// @param shape "PointingHandCursor", "IBeamCursor" or "BlankCursor"; others mean the arrow
+    /// @param tag not used
+    Q_INVOKABLE void setItemCursor(
+        QQuickPaintedItem *object, const QString &shape, const QString &tag);
+
+    Q_INVOKABLE void debugLog(const QString &msg);
+    Q_INVOKABLE void openExternalResource(const QString &resourceLocator);
+    Q_INVOKABLE QString interpolate(const QString &string);
+
+    /// Sets the application's cursor by name until restoreOverrideCursor(), or until the popup
+    /// hides.
+    Q_INVOKABLE void setOverrideCursor(const QString &shape);
+    Q_INVOKABLE void restoreOverrideCursor();
+
+    /// The host's translation; null where the package's translation file lacks the text.
+    Q_INVOKABLE QString translate(const QString &string, const QString &context);
+
+    /// Absolute path of a resource of the content's packages, or the resource directory's name.
+    Q_INVOKABLE QString findResource(const QString &relativePath);
+    Q_INVOKABLE int getScaledSize(int size);
+
+protected:
+    // The base is left out: the window follows its root item, and UI files never size from the
+    // window.
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    QPointer<HRManager> m_manager;
+    QPointer<HRXmlElement> m_content;
+    QString m_packageRoot;
+    bool m_stayOpen = false;
+    bool m_reserved = false;
+    std::unique_ptr<HROverrideCursors> m_cursors;
+};
+
+} // namespace Hintreels
