@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "index/HRControlTree_p.h"
+
+#include "content/HRXmlElement.h"
+#include "index/HRElementFilters_p.h"
+#include "index/HRIndex.h"
+#include "index/HRPosixFile_p.h"
+
+#include <QFile>
+#include <QLocale>
+#include <QPointer>
+#include <QXmlInputSource>
+
+namespace Hintreels {
+
+namespace {
+
+/// A file's top-level elements, which live as long as this.
+class TopLevel
+{
+public:
+    TopLevel(const QString &filePath, HRXmlParser::Filter filter, void *data)
+        : m_parser(filter, data)
+    {
+        m_parser.setDefaultElement(&HRXmlElement::staticMetaObject);
+        m_parser.registerElement(QStringLiteral("HRXmlElement"), &HRXmlElement::staticMetaObject);
+        QFile file;
+        if (openRegularFile(file, filePath))
+            m_objects = m_parser.read(QXmlInputSource(&file));
+    }
+    ~TopLevel() { qDeleteAll(m_objects); }
+    Q_DISABLE_COPY(TopLevel)
+
+    HRXmlElement *first() const
+    {
+        return m_objects.isEmpty() ? nullptr : qobject_cast<HRXmlElement *>(m_objects.first());
+    }
+
+    QObject *takeOnly() { return m_objects.size() == 1 ? m_objects.takeFirst() : nullptr; }
+
+private:
+    HRXmlParser m_parser; // deletes what an error left open, after the rest is gone
+    QList<QObject *> m_objects;
+};
+
+QMap<QString, QString> attributesOf(const HRXmlElement &element)
+{
+    QMap<QString, QString> attributes;
+    const QStringList names = element.attributeNames();
+    for (const QString &name : names)
+        attributes.insert(name, element.attribute(name));
+    return attributes;
+}
+
+} // namespace
+
+std::unique_ptr<HRXmlElement> readOnlyTree(
+    const QString &filePath, HRXmlParser::Filter filter, const QString &key)
+{
+    QString wanted = key;
+    // What an error left open goes with the parser at the end of this line.
+    const QPointer<QObject> tree = TopLevel(filePath, filter, &wanted).takeOnly();
+    return std::unique_ptr<HRXmlElement>(qobject_cast<HRXmlElement *>(tree.data()));
+}
+
+QStringList keysOfControlFile(const QString &filePath)
+{
+    const TopLevel topLevel(filePath, HRIndex::indexDataShouldGenerateElement, nullptr);
+    if (!topLevel.first())
+        return {};
+    QStringList keys;
+    for (const QObject *child : topLevel.first()->children()) {
+        const auto *entry = qobject_cast<const HRXmlElement *>(child);
+        if (entry && entry->hasAttribute(QStringLiteral("key")))
+            keys.append(entry->attribute(QStringLiteral("key")));
+    }
+    return keys;
+}
+
+QMap<QString, QString> keyDataAttributes(const QString &filePath, const QString &key)
+{
+    QString wanted = key;
+    const TopLevel topLevel(filePath, generateKeyDataElement, &wanted);
+    if (!topLevel.first() || topLevel.first()->children().isEmpty())
+        return {};
+    const auto *element
+        = qobject_cast<const HRXmlElement *>(topLevel.first()->children().constFirst());
+    if (!element)
+        return {};
+    QMap<QString, QString> attributes = attributesOf(*element);
+    attributes.remove(QStringLiteral("name"));
+    return attributes;
+}
+
+bool servesLocale(const HRXmlElement &root, const QLocale &locale)
+{
+    const QString name = root.attribute(QStringLiteral("locale"));
+    return name.isEmpty() || QLocale(name) == locale;
+}
+
+} // namespace Hintreels

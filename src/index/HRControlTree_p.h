@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "content/HRXmlParser.h"
+
+#include <QMap>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+
+class QLocale;
+
+namespace Hintreels {
+
+class HRXmlElement;
+
+/// Reads a file's only top-level element with a filter that is told the key.
+///
+/// Null where the file cannot be read, where another number of elements remains at the top, and
+/// where the file ends in an error inside of the element.
+std::unique_ptr<HRXmlElement> readOnlyTree(
+    const QString &filePath, HRXmlParser::Filter filter, const QString &key);
+
+/// The keys of a control file in the order of its entries, up to an error in it.
+QStringList keysOfControlFile(const QString &filePath);
+
+/// The attributes that a key-data file has for a key, without the `name` that tells the key.
+QMap<QString, QString> keyDataAttributes(const QString &filePath, const QString &key);
+
+/// Whether the file of this root serves a locale; without an attribute `locale` it serves all.
+bool servesLocale(const HRXmlElement &root, const QLocale &locale);
+
+} // namespace Hintreels

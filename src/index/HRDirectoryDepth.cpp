@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "index/HRDirectoryDepth_p.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace Hintreels {
+
+namespace {
+
+QString canonicalDirectory(const QString &path)
+{
+    return QDir(path).canonicalPath();
+}
+
+} // namespace
+
+std::optional<int> levelsBelowPackage(const QString &filePath, const QString &packagePath)
+{
+    if (!filePath.startsWith(packagePath))
+        return std::nullopt;
+    const QString package = canonicalDirectory(packagePath);
+    if (package.isEmpty())
+        return std::nullopt;
+    QString place = QDir::cleanPath(QFileInfo(filePath).absoluteFilePath());
+    for (int depth = 0;; ++depth) {
+        // Compared before the root is tested for: the root may be the package.
+        const QString canonical = canonicalDirectory(place);
+        if (canonical == package)
+            return depth;
+        const QString parent = QFileInfo(place).path();
+        if (canonical.isEmpty() || parent == place)
+            return std::nullopt;
+        place = parent;
+    }
+}
+
+} // namespace Hintreels

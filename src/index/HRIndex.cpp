@@ -1,0 +1,209 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "index/HRIndex.h"
+
+#include "content/HRXmlElement.h"
+#include "content/HRXmlParser.h"
+#include "context/HRContext.h"
+#include "context/HRSetting_p.h"
+#include "index/HRControlFileProbe_p.h"
+#include "index/HRControlRecords_p.h"
+#include "index/HRControlTree_p.h"
+#include "index/HRDirectoryDepth_p.h"
+#include "index/HRElementFilters_p.h"
+#include "index/HRPackageMap_p.h"
+#include "index/HRPosixFile_p.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLocale>
+#include <QPointer>
+
+namespace Hintreels {
+
+struct HRIndexPrivate
+{
+    QPointer<HRContext> context;
+    QStringList paths;
+    HRControlRecords records;
+    HRPackageMap packages;
+    HRControlFileProbe probe;
+    bool inUpdate = false;
+};
+
+HRIndex::HRIndex(HRContext *context, const QStringList &paths)
+    : d(new HRIndexPrivate)
+{
+    d->context = context;
+    d->paths = paths;
+}
+
+HRIndex::~HRIndex() = default;
+
+HRContext &HRIndex::context()
+{
+    if (!d->context)
+        d->context = new HRContext(this);
+    return *d->context;
+}
+
+const HRContext &HRIndex::context() const
+{
+    return const_cast<HRIndex *>(this)->context();
+}
+
+bool HRIndex::open()
+{
+    return true;
+}
+
+bool HRIndex::setup()
+{
+    if (setting(context(), clearIndexKey, true))
+        clear();
+    return true;
+}
+
+bool HRIndex::clear()
+{
+    return true;
+}
+
+bool HRIndex::close()
+{
+    return true;
+}
+
+bool HRIndex::remove()
+{
+    return true;
+}
+
+HRXmlElement *HRIndex::retrieve(
+    const QString &key, const QLocale &locale, QString &directory, int &depth, HRXmlElement *&root)
+{
+    for (const HRControlRecord &record : d->records) {
+        HRXmlElement *entry = load(key, record.path, locale, root);
+        if (!entry)
+            continue;
+        depth = record.depth;
+        directory = QFileInfo(record.path).absolutePath();
+        return entry;
+    }
+    return nullptr;
+}
+
+bool HRIndex::store(HRXmlElement *, const QLocale &, const QString &filePath, int depth)
+{
+    d->records.addLast(filePath, depth);
+    return true;
+}
+
+void HRIndex::startUpdate()
+{
+    d->inUpdate = true;
+}
+
+void HRIndex::endUpdate()
+{
+    d->inUpdate = false;
+}
+
+QStringList HRIndex::keys()
+{
+    QStringList keys;
+    for (const HRControlRecord &record : d->records)
+        keys += keysOfControlFile(record.path);
+    return keys;
+}
+
+void HRIndex::indexControlFile(const QString &filePath, const QString &packagePath)
+{
+    const std::optional<int> depth = levelsBelowPackage(filePath, packagePath);
+    if (!depth)
+        return;
+    QFile file;
+    if (!openRegularFile(file, filePath) || !d->probe.isControlFile(file))
+        return;
+    if (d->records.addFirst(filePath, *depth))
+        mapControlFile(QString(), packagePath);
+}
+
+HRXmlElement *HRIndex::load(
+    const QString &key, const QString &filePath, const QLocale &locale, HRXmlElement *&root)
+{
+    std::unique_ptr<HRXmlElement> tree = readOnlyTree(filePath, generateContentElement, key);
+    if (!tree)
+        return nullptr;
+    root = nullptr;
+    if (tree->children().size() != 1 || !servesLocale(*tree, locale))
+        return nullptr;
+    auto *entry = qobject_cast<HRXmlElement *>(tree->children().constFirst());
+    // Key data comes first, so that it cannot forge where the entry comes from.
+    loadKeyData(key, QString(), entry);
+    entry->setAttribute(QStringLiteral("HRLocation"), filePath);
+    entry->setAttribute(QStringLiteral("HRPackagName"), packageNameForLocation(filePath));
+    root = tree.release();
+    return entry;
+}
+
+void HRIndex::loadKeyData(const QString &key, const QString &, HRXmlElement *entry)
+{
+    const QString filePath = setting(context(), keyDataFileKey, QString());
+    if (filePath.isEmpty())
+        return;
+    const QMap<QString, QString> attributes = keyDataAttributes(filePath, key);
+    for (auto it = attributes.cbegin(); it != attributes.cend(); ++it)
+        entry->setAttribute(it.key(), it.value());
+}
+
+QString HRIndex::packageNameForLocation(const QString &path) const
+{
+    return packageNameOf(path, setting(context(), packageSuffixKey, QStringLiteral("hintreels")));
+}
+
+void HRIndex::mapControlFile(const QString &, const QString &packagePath)
+{
+    d->packages.add(packageNameForLocation(packagePath), packagePath);
+}
+
+QStringList HRIndex::componentPathsForPackageNamed(const QString &name) const
+{
+    QStringList paths = d->packages.paths(name);
+    const QString shared = setting(context(), componentDirectoryKey, QString());
+    if (!shared.isEmpty())
+        paths.append(shared);
+    return paths;
+}
+
+QStringList HRIndex::componentPathsForElement(
+    const HRXmlElement *element, const QString &relativePath) const
+{
+    QStringList paths
+        = componentPathsForPackageNamed(element->attribute(QStringLiteral("HRPackagName")));
+    if (const auto *root = qobject_cast<const HRXmlElement *>(element->parent())) {
+        const QString search = root->attribute(QStringLiteral("search"));
+        if (!search.isEmpty())
+            paths += d->packages.pathsOfSearchList(search);
+    }
+    if (relativePath.isEmpty())
+        return paths;
+    for (QString &path : paths)
+        path = QDir(path).absoluteFilePath(relativePath);
+    return paths;
+}
+
+int HRIndex::indexDataShouldGenerateElement(const QString &tag, const QXmlAttributes &, void *)
+{
+    const bool isIndexed = tag == QLatin1String("hintreels") || tag == QLatin1String("hintreel");
+    return isIndexed ? 1 : 4;
+}
+
+bool HRIndex::isInUpdate() const
+{
+    return d->inUpdate;
+}
+
+} // namespace Hintreels
