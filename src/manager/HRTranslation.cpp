@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "manager/HRTranslation_p.h"
+
+#include "manager/HRTranslationCheck_p.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace Hintreels {
+
+namespace {
+
+// Empty for anything but a regular file: opening a pipe would block the host.
+QByteArray readRegularFile(const QString &path)
+{
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+        return {};
+    return file.readAll();
+}
+
+} // namespace
+
+HRTranslation::HRTranslation(QObject *translatorParent)
+    : m_translatorParent(translatorParent)
+{
+}
+
+QString HRTranslation::translate(const QString &path, const QString &text, const QString &context)
+{
+    if (!m_translator)
+        m_translator = new QTranslator(m_translatorParent);
+    if (path != m_loadedPath && !load(path)) {
+        m_loadedPath = QString();
+        return text;
+    }
+    return m_translator->translate(context.toUtf8().constData(), text.toUtf8().constData());
+}
+
+bool HRTranslation::load(const QString &path)
+{
+    const QByteArray data = readRegularFile(path);
+    if (!isSafeTranslation(data))
+        return false;
+    if (!m_translator->load(reinterpret_cast<const uchar *>(data.constData()), data.size()))
+        return false;
+    m_data = data;
+    m_loadedPath = path;
+    return true;
+}
+
+} // namespace Hintreels

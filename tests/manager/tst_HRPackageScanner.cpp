@@ -1,0 +1,150 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "context/HRContext.h"
+#include "index/HRIndex.h"
+#include "manager/HRPackageScanner_p.h"
+#include "support/TestPackage.h"
+
+#include <QtTest>
+
+using namespace Hintreels;
+
+namespace {
+
+class RecordingIndex : public HRIndex
+{
+public:
+    using HRIndex::HRIndex;
+
+    void indexControlFile(const QString &filePath, const QString &packagePath) override
+    {
+        calls.append(filePath + " in " + packagePath);
+    }
+
+    QStringList calls;
+};
+
+struct Fixture
+{
+    HRContext context;
+    RecordingIndex index{ &context, {} };
+    QStringList reports;
+    HRPackageScanner scanner{ context, index, [this](const QString &text) { reports += text; } };
+    TestPackages packages;
+    const QString path = packages.path();
+};
+
+} // namespace
+
+class tst_HRPackageScanner : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void scanDataPaths_indexesControlFilesOnly();
+    void scanDataPaths_reportsEachStep();
+    void scanDataPaths_passesOverWhatIsNoDirectory();
+    void scanDataPaths_followsSuffixAndControlDirectorySettings();
+    void scanDataPaths_remembersDirectoryOnce_butScansItTwice();
+    void scanDataPaths_passesOverLinks();
+    void scanPackage_isSilent_whenControlDirectoryIsMissing();
+};
+
+void tst_HRPackageScanner::scanDataPaths_indexesControlFilesOnly()
+{
+    Fixture f;
+    f.packages.write("A.hintreels/Control/a.xml", "<hintreels/>");
+    f.packages.write("A.hintreels/Control/b.txt", "<hintreels/>");
+    f.packages.write("A.hintreels/Control/sub/c.xml", "<hintreels/>");
+    f.packages.write("A.hintreels/d.xml", "<hintreels/>");
+    f.packages.write("B.other/Control/e.xml", "<hintreels/>");
+    f.packages.write("C.hintreels", "a file");
+
+    f.scanner.scanDataPaths({ f.path });
+
+    QCOMPARE(f.index.calls,
+        QStringList{ f.path + "/A.hintreels/Control/a.xml in " + f.path + "/A.hintreels" });
+}
+
+void tst_HRPackageScanner::scanDataPaths_reportsEachStep()
+{
+    Fixture f;
+    f.packages.write("A%2.hintreels/Control/a.xml", "<hintreels/>");
+
+    f.scanner.scanDataPaths({ f.path });
+
+    const QStringList expected{
+        "indexing packages (*.hintreels) in " + f.path + " ",
+        "indexing control files in " + f.path + "/A%2.hintreels",
+        "looking for control files in :" + f.path + "/A%2.hintreels/Control",
+        "found control file :" + f.path + "/A%2.hintreels/Control/a.xml",
+    };
+    QCOMPARE(f.reports, expected);
+}
+
+void tst_HRPackageScanner::scanDataPaths_passesOverWhatIsNoDirectory()
+{
+    Fixture f;
+    const QString file = f.packages.write("A.hintreels", "a file");
+
+    f.scanner.scanDataPaths({ file, f.path + "/missing", "" });
+
+    QVERIFY(f.index.calls.isEmpty());
+    QVERIFY(f.reports.isEmpty());
+    QVERIFY(f.scanner.scannedDirectories().isEmpty());
+}
+
+void tst_HRPackageScanner::scanDataPaths_followsSuffixAndControlDirectorySettings()
+{
+    Fixture f;
+    f.context.set(packageSuffixKey, "reels");
+    f.context.set(controlDirectoryKey, "Files");
+    f.packages.write("A.reels/Files/a.xml", "<hintreels/>");
+    f.packages.write("B.hintreels/Control/b.xml", "<hintreels/>");
+
+    f.scanner.scanDataPaths({ f.path });
+
+    QCOMPARE(
+        f.index.calls, QStringList{ f.path + "/A.reels/Files/a.xml in " + f.path + "/A.reels" });
+}
+
+void tst_HRPackageScanner::scanDataPaths_remembersDirectoryOnce_butScansItTwice()
+{
+    Fixture f;
+    f.packages.write("A.hintreels/Control/a.xml", "<hintreels/>");
+
+    f.scanner.scanDataPaths({ f.path, f.path + "/A.hintreels/.." });
+
+    QCOMPARE(f.index.calls.size(), 2);
+    QCOMPARE(f.scanner.scannedDirectories(), QStringList{ f.path });
+}
+
+void tst_HRPackageScanner::scanDataPaths_passesOverLinks()
+{
+    Fixture f;
+    const TestPackages elsewhere;
+    elsewhere.write("A.hintreels/Control/a.xml", "<hintreels/>");
+    QVERIFY(QFile::link(elsewhere.path() + "/A.hintreels", f.path + "/A.hintreels"));
+    f.packages.write("B.hintreels/Control/readme.txt", "");
+    QVERIFY(QFile::link(
+        elsewhere.path() + "/A.hintreels/Control/a.xml", f.path + "/B.hintreels/Control/a.xml"));
+
+    f.scanner.scanDataPaths({ f.path });
+
+    QVERIFY(f.index.calls.isEmpty());
+}
+
+void tst_HRPackageScanner::scanPackage_isSilent_whenControlDirectoryIsMissing()
+{
+    Fixture f;
+    f.packages.write("A.hintreels/readme.txt", "");
+
+    f.scanner.scanPackage(QFileInfo(f.path + "/A.hintreels"));
+
+    QCOMPARE(f.reports.size(), 2);
+    QVERIFY(f.index.calls.isEmpty());
+}
+
+QTEST_APPLESS_MAIN(tst_HRPackageScanner)
+#include "tst_HRPackageScanner.moc"
