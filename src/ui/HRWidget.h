@@ -95,7 +95,6 @@ public Q_SLOTS:
     QRect findVisibleGeometry(QRect geometry, bool *move = nullptr);
 
 protected:
-    bool event(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 

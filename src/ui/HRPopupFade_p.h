@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QMetaObject>
+
+#include <functional>
+
+class QPropertyAnimation;
+class QWidget;
+
+namespace Hintreels {
+
+/// Fades a window in and out by its opacity.
+///
+/// The animation is a child of the window. One fade runs at a time; stopping it tells nobody.
+class HRPopupFade
+{
+public:
+    using Ended = std::function<void()>;
+
+    /// @param window must outlive the fade
+    explicit HRPopupFade(QWidget *window);
+
+    bool isRunning() const;
+
+    /// Animates the opacity from its current value; @p ended is called when that is done.
+    /// @param duration in milliseconds, above zero
+    void fadeTo(qreal opacity, int duration, const Ended &ended);
+
+    /// Stops without calling back; the opacity stays as it is.
+    void stop();
+
+private:
+    QWidget *m_window;
+    QPropertyAnimation *m_animation;
+    QMetaObject::Connection m_ended;
+};
+
+} // namespace Hintreels

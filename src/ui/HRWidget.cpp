@@ -1,0 +1,466 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "ui/HRWidget.h"
+
+#include "context/HRSetting_p.h"
+#include "manager/HRManager.h"
+#include "ui/HRContentTree_p.h"
+#include "ui/HRPointerWatch_p.h"
+#include "ui/HRPopupFade_p.h"
+#include "ui/HRPopupGeometry_p.h"
+#include "ui/HRPopupScreen_p.h"
+#include "ui/HRView.h"
+#include "ui/HRViewEmbedding_p.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QFileInfo>
+#include <QPointer>
+#include <QQmlContext>
+#include <QQuickItem>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <QWindow>
+
+#include <limits>
+
+namespace Hintreels {
+
+namespace {
+
+// Low enough to fade in from, high enough for window managers to map the window at all.
+constexpr qreal fadeInStart = 0.1;
+
+QSize sizeOf(const QQuickItem *root)
+{
+    const QRectF bounds = root->boundingRect();
+    return QSize(int(bounds.width()), int(bounds.height()));
+}
+
+/// What the popup's own pixels should look like, beside the content.
+QColor backgroundOf(const HRView *view)
+{
+    const QColor color = view->rootObject()->property("color").value<QColor>();
+    return color.isValid() ? color : view->color();
+}
+
+void freeSize(QWidget *widget)
+{
+    widget->setMinimumSize(0, 0);
+    widget->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+}
+
+QLayout *layoutFor(QWidget *window)
+{
+    if (QLayout *layout = window->layout())
+        return layout;
+    auto *layout = new QVBoxLayout(window);
+    layout->setContentsMargins(0, 0, 0, 0);
+    return layout;
+}
+
+} // namespace
+
+struct HRWidgetPrivate
+{
+    HRWidgetPrivate(HRWidget *q, HRManager *hrManager, QWidget *referenceWidget);
+
+    template <typename T>
+    T setting(contextKey key, const T &defaultValue) const
+    {
+        return manager ? Hintreels::setting(manager->context(), key, defaultValue) : defaultValue;
+    }
+
+    QRect screen() const { return availableGeometry(reference, q->window()->pos()); }
+    QQuickItem *root() const { return view ? view->rootObject() : nullptr; }
+
+    void setContextProperties(HRXmlElement *content, const QString &rootPath);
+    void takeContentSize();
+    void matchBackground();
+    void fitContainer(const QSize &size, const HRContentFit &fit);
+    void settle();
+    void followReferenceWindow();
+    void keepTimeFor(const QPoint &pointer);
+    void endFadeIn();
+    void stopHiding();
+    void becomeOrdinaryWindow();
+    void moveInto(QWidget *window);
+    void moveIntoOwnWindow();
+
+    HRWidget *q;
+    QPointer<HRManager> manager;
+    QPointer<HRView> view;
+    QPointer<QWidget> container;
+    QPointer<QWidget> reference;
+    HRPopupFade fade;
+    QTimer *timer;
+    HRPointerWatch watch;
+    HRViewEmbedding embedding;
+    bool detached = false;
+};
+
+HRWidgetPrivate::HRWidgetPrivate(HRWidget *widget, HRManager *hrManager, QWidget *referenceWidget)
+    : q(widget)
+    , manager(hrManager)
+    , reference(referenceWidget)
+    , fade(widget)
+    , timer(new QTimer(widget))
+    , watch([widget](const QPoint &position) { widget->checkMousePosition(position); })
+{
+    timer->setSingleShot(true);
+}
+
+void HRWidgetPrivate::setContextProperties(HRXmlElement *content, const QString &rootPath)
+{
+    QQmlContext *context = view->rootContext();
+    context->setContextProperty(QStringLiteral("hintreel"), content);
+    context->setContextProperty(QStringLiteral("dataLocation"), rootPath);
+    // Once for each view, since the context keeps a connection for every object that it is given.
+    if (!context->contextProperty(QStringLiteral("hintreelView")).isValid())
+        context->setContextProperty(QStringLiteral("hintreelView"), view.data());
+}
+
+/// So that the popup does not appear in another size first, and sticks out of the screen.
+void HRWidgetPrivate::takeContentSize()
+{
+    if (!root() || q->isVisible())
+        return;
+    freeSize(q);
+    if (container)
+        freeSize(container);
+    q->resize(sizeOf(root()));
+    matchBackground();
+}
+
+/// The popup is one pixel wider and higher than its content: that seam should not be seen.
+void HRWidgetPrivate::matchBackground()
+{
+    QPalette palette = q->palette();
+    const QColor color = backgroundOf(view);
+    if (palette.color(QPalette::Window) == color)
+        return;
+    palette.setColor(QPalette::Window, color);
+    q->setPalette(palette);
+}
+
+void HRWidgetPrivate::fitContainer(const QSize &size, const HRContentFit &fit)
+{
+    if (!container)
+        return;
+    container->setFixedSize(size);
+    container->update();
+    // A global position for a child: the popup's layout puts it right again.
+    if (fit.pushed)
+        container->move(fit.geometry.topLeft());
+}
+
+/// What follows from a new size: the container's place, the seam and the popup's place.
+void HRWidgetPrivate::settle()
+{
+    if (QLayout *layout = q->layout()) {
+        layout->invalidate();
+        layout->activate();
+    }
+    matchBackground();
+    if (!detached && q->isVisible())
+        q->reposition();
+}
+
+/// On Wayland a popup has its position only beside a window that it belongs to.
+void HRWidgetPrivate::followReferenceWindow()
+{
+    if (QWindow *window = q->windowHandle())
+        window->setTransientParent(reference ? reference->window()->windowHandle() : nullptr);
+}
+
+/// Decides anew whether the time until hiding runs.
+void HRWidgetPrivate::keepTimeFor(const QPoint &pointer)
+{
+    if (q->isSafe(pointer))
+        timer->stop();
+    else
+        q->setTimer();
+}
+
+/// A time-out during the fade-in hid nothing: it counts from here.
+void HRWidgetPrivate::endFadeIn()
+{
+    if (!timer->isActive())
+        keepTimeFor(QCursor::pos());
+}
+
+void HRWidgetPrivate::stopHiding()
+{
+    fade.stop();
+    timer->stop();
+    watch.stop();
+}
+
+/// From now on the popup is used like any window, with the keyboard too, and hides for nothing.
+void HRWidgetPrivate::becomeOrdinaryWindow()
+{
+    detached = true;
+    stopHiding();
+    q->setWindowOpacity(1.0);
+    q->setAttribute(Qt::WA_ShowWithoutActivating, false);
+    view->setFlag(Qt::WindowDoesNotAcceptFocus, false);
+    embedding.release();
+}
+
+void HRWidgetPrivate::moveInto(QWidget *window)
+{
+    const QPoint position = q->pos();
+    q->setParent(window);
+    if (view->content())
+        window->setWindowTitle(view->content()->attribute(QStringLiteral("title")));
+    layoutFor(window)->addWidget(q);
+    q->contentResized();
+    window->move(position);
+    q->show();
+    window->show();
+}
+
+void HRWidgetPrivate::moveIntoOwnWindow()
+{
+    const QPoint position = q->pos();
+    q->setAttribute(Qt::WA_DeleteOnClose);
+    q->setParent(reference ? reference->window() : nullptr,
+        Qt::Tool | Qt::WindowTitleHint | Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint);
+    q->setWindowModality(Qt::NonModal);
+    // The property, not the attribute: content names such a window only where it sets one.
+    if (view->content())
+        q->setWindowTitle(view->content()->property("title").toString());
+    q->move(position);
+    q->show();
+}
+
+HRWidget::HRWidget(HRManager *manager, QWidget *parent, QWidget *reference)
+    : QWidget(parent)
+    , d(std::make_unique<HRWidgetPrivate>(this, manager, reference))
+{
+    if (!d->setting(embeddedPopupKey, false))
+        setWindowFlags(Qt::ToolTip);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setAutoFillBackground(true);
+    connect(d->timer, &QTimer::timeout, this, &HRWidget::hideAnimated);
+    d->timer->stop();
+}
+
+HRWidget::~HRWidget()
+{
+    // Before the container goes, which would delete the view's window too.
+    delete d->view;
+}
+
+HRManager *HRWidget::manager() const
+{
+    return d->manager;
+}
+
+HRView *HRWidget::view() const
+{
+    return d->view;
+}
+
+void HRWidget::setView(HRView *view)
+{
+    if (d->view == view)
+        return;
+    delete d->view;
+    d->view = view;
+    d->embedding.setView(view);
+    if (!view)
+        return;
+    connect(view, &HRView::reservedChanged, this, &HRWidget::contentReservedChanged);
+    connect(view, &HRView::contentSizeChanged, this, &HRWidget::contentResized);
+    // A press inside a popup leaves the keyboard focus where it is.
+    view->setFlag(Qt::WindowDoesNotAcceptFocus, !d->detached);
+    view->setViewPos(0, 0);
+}
+
+QWidget *HRWidget::referenceWidget() const
+{
+    return d->reference;
+}
+
+void HRWidget::SetContainerWidget(QWidget *container)
+{
+    d->container = container;
+    d->embedding.setContainer(container);
+    // Where the popup is larger than its content, the content stays where the popup begins.
+    if (container && layout())
+        layout()->setAlignment(container, Qt::AlignLeft | Qt::AlignTop);
+}
+
+bool HRWidget::isSafe(const QPoint &pos) const
+{
+    if (d->reference && QApplication::widgetAt(pos) == d->reference)
+        return true;
+    const QRect area(mapToGlobal(QPoint(0, 0)), frameGeometry().size());
+    return isNear(area, d->setting(safeMarginKey, QSize(20, 20)), pos);
+}
+
+void HRWidget::checkMousePosition(const QPoint &pos)
+{
+    if (isSafe(pos) == d->timer->isActive())
+        d->keepTimeFor(pos);
+}
+
+void HRWidget::cancelHiding()
+{
+    if (!d->fade.isRunning())
+        return;
+    d->fade.stop();
+    setWindowOpacity(1.0);
+}
+
+void HRWidget::setVisible(bool visible)
+{
+    if (!visible || isVisible() || !isWindow()) {
+        QWidget::setVisible(visible);
+        return;
+    }
+    create();
+    if (!d->detached)
+        d->followReferenceWindow();
+    d->embedding.defer();
+    QWidget::setVisible(true);
+    d->embedding.embed();
+}
+
+void HRWidget::showWithContent(
+    QObject *reference, QPoint pos, HRXmlElement *content, const QString &rootPath)
+{
+    if (!content || !d->view)
+        return;
+    cancelHiding();
+    d->reference = qobject_cast<QWidget *>(reference);
+    d->view->setPackageRoot(rootPath);
+    const QPointer<HRXmlElement> previous = d->view->content();
+    d->view->setContent(content);
+    move(pos);
+    if (isVisible())
+        reposition();
+    d->setContextProperties(content, rootPath);
+    // Not before the scene has let go of it, or its bindings would see null on the way.
+    if (previous != content)
+        deleteContentTree(previous);
+    d->view->loadQML(QFileInfo(d->view->uiRootFilePath()).absoluteFilePath());
+    d->takeContentSize();
+    if (isVisible())
+        d->keepTimeFor(QCursor::pos());
+    showAnimated();
+}
+
+void HRWidget::reposition()
+{
+    const QRect frame = window()->frameGeometry();
+    const QRect inside = movedInside(frame, d->screen());
+    if (inside != frame)
+        window()->move(inside.topLeft());
+}
+
+void HRWidget::hideAnimated()
+{
+    if (d->detached || !isVisible() || d->fade.isRunning())
+        return;
+    const int duration = d->setting(hideAnimationDurationKey, 300);
+    if (duration <= 0) {
+        hideAnimationFinished();
+        return;
+    }
+    d->fade.fadeTo(0.0, duration, [this] { hideAnimationFinished(); });
+    d->timer->stop();
+}
+
+void HRWidget::hideAnimationFinished()
+{
+    if (d->view)
+        d->view->resetState();
+    hide();
+}
+
+void HRWidget::showAnimated()
+{
+    if (isVisible())
+        return;
+    const int duration = d->setting(showAnimationDurationKey, 0);
+    if (duration <= 0) {
+        setWindowOpacity(1.0);
+        show();
+        return;
+    }
+    setWindowOpacity(fadeInStart);
+    show();
+    contentResized();
+    d->fade.fadeTo(1.0, duration, [this] { d->endFadeIn(); });
+}
+
+void HRWidget::setTimer()
+{
+    d->timer->stop();
+    if (d->detached || (d->view && d->view->stayOpen()))
+        return;
+    const double delay = double(d->setting(hideDelayKey, 3000.0f));
+    if (delay > 0)
+        d->timer->start(int(qMin(delay, double(std::numeric_limits<int>::max()))));
+}
+
+void HRWidget::contentReservedChanged()
+{
+    QWidget *window = nullptr;
+    if (!d->view || !d->view->reserved() || !d->manager || !d->manager->reserve(this, window))
+        return;
+    d->becomeOrdinaryWindow();
+    if (window)
+        d->moveInto(window);
+    else
+        d->moveIntoOwnWindow();
+}
+
+void HRWidget::contentResized()
+{
+    if (!d->root())
+        return;
+    const QSize size = sizeOf(d->root());
+    const QRect frame = window()->frameGeometry();
+    const int titleBar = frame.top() - window()->geometry().top();
+    const HRContentFit fit = fitContent(size, frame.topLeft(), titleBar, d->screen());
+    const QSize outer = fit.geometry.size() + QSize(1, 1);
+    d->fitContainer(size, fit);
+    setFixedSize(outer);
+    window()->setFixedSize(outer);
+    d->settle();
+}
+
+QRect HRWidget::findVisibleGeometry(QRect geometry, bool *move)
+{
+    const QRect inside = movedInside(geometry, d->screen());
+    if (move)
+        *move = inside != geometry;
+    return inside;
+}
+
+void HRWidget::showEvent(QShowEvent *)
+{
+    if (!isSafe(QCursor::pos()))
+        setTimer();
+    reposition();
+    if (!d->detached)
+        d->watch.start();
+    else if (!isWindow())
+        d->embedding.renewLater();
+}
+
+void HRWidget::hideEvent(QHideEvent *)
+{
+    d->stopHiding();
+    if (!d->view)
+        return;
+    d->view->releaseOverrideCursors();
+    if (d->detached)
+        d->embedding.release();
+}
+
+} // namespace Hintreels
