@@ -1,8 +1,0 @@
-// SPDX-FileCopyrightText: 2026 The Hintreels authors
-// SPDX-License-Identifier: MIT
-
-MarkdownText {
-    property var block
-
-    text: words.content(block.text)
-}
