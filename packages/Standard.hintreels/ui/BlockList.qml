@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+// The blocks of the content in their order. A block that shows nothing takes no room.
+import QtQuick 2.15
+
+Column {
+    id: list
+
+    readonly property var componentOfBlock: ({
+        "text": "TextBlock.qml",
+        "keys": "KeysBlock.qml",
+        "picture": "PictureBlock.qml",
+        "note": "NoteBlock.qml",
+        "link": "LinkBlock.qml"
+    })
+
+    spacing: 3 * look.step
+
+    Repeater {
+        model: hint.values.blocks
+
+        Loader {
+            width: list.width
+            Component.onCompleted: setSource(list.componentOfBlock[modelData.block], { "block": modelData })
+        }
+    }
+}

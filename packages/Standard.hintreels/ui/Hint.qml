@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+// The hint reel on show, as plain values.
+//
+// They outlast the element: between two hints it is deleted, and the popup must not shrink meanwhile.
+import QtQuick 2.15
+
+QtObject {
+    readonly property QtObject element: hintreel
+    property var values: ({})
+    readonly property bool rightToLeft: values.rightToLeft === true
+    readonly property string documentation: hintreelView.documentationAvailable && values.documentation || ""
+
+    // Another hint's UI may have left the popup open for good; that wish ends with its hint.
+    function take() {
+        if (!element)
+            return
+        if (hintreelView.stayOpen)
+            hintreelView.stayOpen = false
+        values = hintreelReader.read(element)
+    }
+
+    onElementChanged: take()
+    Component.onCompleted: take()
+}

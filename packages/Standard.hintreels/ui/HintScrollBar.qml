@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+// A slim scroll bar that is there only when there is something to scroll.
+import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
+
+T.ScrollBar {
+    id: bar
+
+    implicitWidth: 3 * look.step
+    padding: look.step
+    minimumSize: 0.1
+    visible: size < 1
+
+    contentItem: Rectangle {
+        radius: width / 2
+        color: bar.pressed || bar.hovered ? look.secondaryText : look.capEdge
+    }
+}

@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+// A small square button that shows an icon only.
+import QtQuick 2.15
+
+Pressable {
+    id: button
+
+    property alias path: icon.path
+    property alias filled: icon.filled
+
+    implicitWidth: look.scaled(24)
+    implicitHeight: implicitWidth
+
+    Rectangle {
+        anchors.fill: parent
+        radius: look.radius
+        color: button.pressed ? look.line : button.hovered ? look.hover : "transparent"
+    }
+
+    Icon {
+        id: icon
+        anchors.centerIn: parent
+        color: button.hovered ? look.text : look.secondaryText
+    }
+}

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+// What a key combination or gesture does, with its caps at the end of the line as menus have them.
+import QtQuick 2.15
+
+Item {
+    id: row
+
+    property var block
+    readonly property bool beside: caps.naturalWidth <= 0.55 * width
+
+    implicitHeight: Math.max(text.height, caps.y + caps.height)
+
+    Text {
+        id: text
+        anchors.left: parent.left
+        y: row.beside ? Math.max(0, Math.round((caps.height - contentHeight / lineCount) / 2)) : 0
+        width: row.beside ? parent.width - caps.width - 4 * look.step : parent.width
+        text: words.content(row.block.text)
+        color: look.text
+        font.pixelSize: look.bodySize
+        horizontalAlignment: Text.AlignLeft
+        textFormat: Text.PlainText
+        wrapMode: Text.Wrap
+    }
+
+    KeyCaps {
+        id: caps
+        anchors.right: row.beside ? parent.right : undefined
+        anchors.left: row.beside ? undefined : parent.left
+        y: row.beside || !text.text ? 0 : text.height + look.step
+        shortcut: words.content(row.block.press)
+        availableWidth: row.width
+    }
+}

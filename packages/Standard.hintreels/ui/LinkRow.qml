@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+// A line that opens something outside the popup.
+import QtQuick 2.15
+
+Pressable {
+    id: row
+
+    property alias text: label.text
+    property real availableWidth
+
+    name: text
+    width: label.width + look.step + icon.width
+    height: label.height
+    Accessible.role: Accessible.Link
+
+    Text {
+        id: label
+        anchors.left: parent.left
+        width: Math.min(implicitWidth, row.availableWidth - icon.width - look.step)
+        color: look.link
+        font.pixelSize: look.bodySize
+        font.underline: row.hovered
+        horizontalAlignment: Text.AlignLeft
+        textFormat: Text.PlainText
+        wrapMode: Text.Wrap
+    }
+
+    Icon {
+        id: icon
+        anchors.left: label.right
+        anchors.leftMargin: look.step
+        y: Math.round((label.contentHeight / label.lineCount - height) / 2)
+        width: look.scaled(12)
+        height: width
+        color: look.link
+        path: "M5 11 L11 5 M6 5 L11 5 L11 10"
+        transform: Scale {
+            origin.x: icon.width / 2
+            xScale: hint.rightToLeft ? -1 : 1
+        }
+    }
+}

@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+// Colours, type and measures of the standard UI, all taken from the host's palette and font.
+//
+// Each root file has one with the id "look", and what it is made of finds it there; it is the same
+// with "hint" and "words".
+import QtQuick 2.15
+import QtQuick.Window 2.15
+
+QtObject {
+    // The widget around the content fills the pixel that it has more with this very colour.
+    readonly property color background: palette.window
+    readonly property color text: readable(palette.windowText)
+    readonly property color secondaryText: readable(mix(palette.windowText, 0.72))
+    readonly property color link: readable(palette.highlight)
+    readonly property color focus: link
+    readonly property color line: mix(palette.windowText, 0.14)
+    readonly property color hover: mix(palette.windowText, 0.08)
+    readonly property color cap: dark ? mix(palette.windowText, 0.10) : palette.base
+    readonly property color capEdge: mix(palette.windowText, 0.30)
+    readonly property color code: mix(palette.windowText, 0.07)
+    readonly property bool dark: palette.window.hslLightness < 0.5
+    readonly property var noteColors: ({
+        "tip": "#2e9e5b", "note": palette.highlight, "warning": "#d98a00"
+    })
+
+    readonly property int bodySize: scaled(hostFontSize)
+    readonly property int titleSize: scaled(hostFontSize * 1.25)
+    readonly property int smallSize: scaled(hostFontSize * 0.92)
+    readonly property int strong: Font.DemiBold
+
+    // One step of the grid; everything else is a multiple of it.
+    readonly property int step: scaled(4)
+    readonly property int padding: 4 * step
+    readonly property int radius: scaled(6)
+    readonly property int width: scaled(hostFontSize * 28)
+
+    readonly property real hostFontSize: Math.max(12, probe.fontInfo.pixelSize)
+    readonly property Text probe: Text {}
+    readonly property SystemPalette palette: SystemPalette {}
+
+    function scaled(size) {
+        return hintreelView.getScaledSize(Math.round(size))
+    }
+
+    // Opaque on purpose: a contrast can only be told of a colour that hides what is beneath.
+    function mix(color, part) {
+        return Qt.tint(palette.window, Qt.rgba(color.r, color.g, color.b, part))
+    }
+
+    function readable(color) {
+        return hintreelReader.readable(color, palette.window)
+    }
+}

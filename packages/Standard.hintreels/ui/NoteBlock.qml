@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+// A tip, note or warning: a tinted panel with a slim coloured bar at its start.
+import QtQuick 2.15
+
+Rectangle {
+    id: note
+
+    property var block
+    readonly property string kind: words.noteTitles[block.kind] ? block.kind : "note"
+    readonly property color accent: look.noteColors[kind]
+
+    implicitHeight: column.height + 4 * look.step
+    radius: look.radius
+    color: look.mix(accent, 0.10)
+
+    Rectangle {
+        anchors.left: parent.left
+        anchors.top: parent.top
+        anchors.bottom: parent.bottom
+        anchors.margins: 2 * look.step
+        anchors.topMargin: anchors.margins
+        width: look.scaled(3)
+        radius: width / 2
+        color: note.accent
+    }
+
+    Column {
+        id: column
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.leftMargin: 5 * look.step
+        anchors.rightMargin: 3 * look.step
+        y: 2 * look.step
+        spacing: look.step / 2
+
+        Text {
+            width: parent.width
+            text: words.noteTitles[note.kind]
+            color: hintreelReader.readable(note.accent, note.color)
+            font.pixelSize: look.smallSize
+            font.weight: look.strong
+            horizontalAlignment: Text.AlignLeft
+            textFormat: Text.PlainText
+        }
+
+        MarkdownText {
+            width: parent.width
+            text: words.content(note.block.text)
+        }
+    }
+}

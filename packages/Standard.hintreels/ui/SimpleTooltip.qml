@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+// The simple UI: title, shortcut and summary on a card no wider than they need.
+import QtQuick 2.15
+
+Rectangle {
+    implicitWidth: title.width + 6 * look.step
+    implicitHeight: Math.ceil(title.height) + 4 * look.step
+    color: look.background
+    border.width: hintreelView.reserved ? 0 : 1
+    border.color: look.line
+    Hint { id: hint }
+    Look { id: look }
+    Words { id: words }
+
+    LayoutMirroring.enabled: hint.rightToLeft
+    LayoutMirroring.childrenInherit: true
+
+    Title {
+        id: title
+        x: 3 * look.step
+        y: 2 * look.step
+        width: Math.min(naturalWidth, look.width)
+    }
+}

@@ -1,0 +1,8 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+MarkdownText {
+    property var block
+
+    text: words.content(block.text)
+}

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+// Every text passes here: first translated, then interpolated.
+//
+// A text is asked for once per hint. Translations come from the package of the newest popup's hint,
+// so a detached one could no longer find its own.
+import QtQuick 2.15
+
+QtObject {
+    readonly property string documentation: own("Documentation")
+    readonly property string pin: own("Keep open in a window")
+    readonly property var noteTitles: ({
+        "tip": own("Tip"), "note": own("Note"), "warning": own("Warning")
+    })
+
+    function content(text) {
+        return said(text, "Content")
+    }
+
+    // Reading the values makes the UI's own words follow the hint.
+    function own(text) {
+        return hint.values ? said(text, "StandardUI") : ""
+    }
+
+    function said(text, context) {
+        return text ? hintreelView.interpolate(hintreelView.translate(text, context) || text) : ""
+    }
+}

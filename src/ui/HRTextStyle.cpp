@@ -1,0 +1,135 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "ui/HRTextStyle_p.h"
+
+#include <QFontDatabase>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextList>
+
+namespace Hintreels {
+
+namespace {
+
+constexpr qreal lineHeight = 120; // percent; DejaVu and Noto read well with it at 13 px
+constexpr qreal indentPerSpacing = 2.5; // a list's bullet stands clear of the text above it
+
+// What Qt's Markdown reader sets code in; it does not always come with the fixed-pitch property.
+QString fixedFamily()
+{
+    return QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
+}
+
+bool isListItem(const QTextBlock &block)
+{
+    return block.textList() != nullptr;
+}
+
+bool isCode(const QTextBlock &block)
+{
+    return block.blockFormat().hasProperty(QTextFormat::BlockCodeFence)
+        || block.blockFormat().hasProperty(QTextFormat::BlockCodeLanguage);
+}
+
+qreal spaceBelow(const QTextBlock &block, qreal spacing)
+{
+    const QTextBlock next = block.next();
+    if (!next.isValid() || (isCode(block) && isCode(next)))
+        return 0;
+    return isListItem(block) && isListItem(next) ? spacing / 2 : spacing;
+}
+
+void styleBlock(const QTextBlock &block, const HRTextLook &look)
+{
+    QTextBlockFormat format = block.blockFormat();
+    const int quotation = format.intProperty(QTextFormat::BlockQuoteLevel);
+    const qreal indent = look.spacing * indentPerSpacing;
+    format.setTopMargin(0);
+    format.setLeftMargin(isCode(block) ? indent : quotation * indent);
+    format.setRightMargin(0);
+    format.setBottomMargin(spaceBelow(block, look.spacing));
+    format.setLineHeight(lineHeight, QTextBlockFormat::ProportionalHeight);
+    QTextCursor(block).setBlockFormat(format);
+}
+
+QTextCharFormat styledFormat(
+    const QTextCharFormat &markdown, const QTextBlock &block, const HRTextLook &look)
+{
+    const bool fixed = markdown.fontFixedPitch() || markdown.fontFamily() == fixedFamily();
+    const bool inlineCode = fixed && !isCode(block);
+    QTextCharFormat format = markdown;
+    format.clearProperty(QTextFormat::FontSizeAdjustment);
+    if (format.fontWeight() > QFont::Normal)
+        format.setFontWeight(QFont::DemiBold);
+    if (inlineCode)
+        format.setBackground(look.codeBackground);
+    if (format.isAnchor())
+        format.setForeground(look.link);
+    return format;
+}
+
+QVector<QTextFragment> fragmentsOf(const QTextBlock &block)
+{
+    QVector<QTextFragment> fragments;
+    for (auto it = block.begin(); !it.atEnd(); ++it)
+        fragments.append(it.fragment());
+    return fragments;
+}
+
+void styleCharacters(QTextDocument &document, const QTextBlock &block, const HRTextLook &look)
+{
+    const QVector<QTextFragment> fragments = fragmentsOf(block);
+    for (const QTextFragment &fragment : fragments) {
+        QTextCursor cursor(&document);
+        cursor.setPosition(fragment.position());
+        cursor.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
+        cursor.setCharFormat(styledFormat(fragment.charFormat(), block, look));
+    }
+}
+
+// Qt's Markdown reader lets an empty line of code follow each code block.
+bool isLeftoverOfCode(const QTextBlock &block)
+{
+    return isCode(block) && block.length() == 1 && !isCode(block.next());
+}
+
+void removeLeftovers(QTextDocument &document)
+{
+    for (int number = document.blockCount() - 1; number > 0; --number) {
+        const QTextBlock block = document.findBlockByNumber(number);
+        if (isLeftoverOfCode(block))
+            QTextCursor(block).deletePreviousChar();
+    }
+}
+
+} // namespace
+
+void styleMarkdown(QTextDocument &document, const HRTextLook &look)
+{
+    removeLeftovers(document);
+    document.setIndentWidth(look.spacing * indentPerSpacing);
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        styleBlock(block, look);
+        styleCharacters(document, block, look);
+    }
+}
+
+QVariantList linksIn(const QTextDocument &document)
+{
+    QVariantList links;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        const QVector<QTextFragment> fragments = fragmentsOf(block);
+        for (const QTextFragment &fragment : fragments) {
+            if (!fragment.charFormat().isAnchor())
+                continue;
+            links.append(QVariantMap{ { "href", fragment.charFormat().anchorHref() },
+                { "text", fragment.text() }, { "start", fragment.position() },
+                { "end", fragment.position() + fragment.length() } });
+        }
+    }
+    return links;
+}
+
+} // namespace Hintreels

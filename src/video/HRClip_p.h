@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "video/HRMediaDecoder_p.h"
+#include "video/HRMediaDemuxer_p.h"
+#include "video/HRPictureConverter_p.h"
+
+namespace Hintreels {
+
+/// What is known of a clip when it is open.
+struct HRClipFacts
+{
+    QSize size; // pixels
+    double duration = 0.0; // seconds; 0 where it is not known
+    double timeBase = 0.0; // seconds per tick of the codec; 0 where it has none
+    double frameRate = 0.0; // pictures per second; 0 where it is not known
+};
+
+/// A clip, from file to pictures in order of presentation. Lock-free; one thread at a time.
+class HRClip
+{
+public:
+    /// @param shouldStop asked during every long operation; true ends that as a failure
+    explicit HRClip(HRMediaDemuxer::ShouldStop shouldStop);
+
+    /// Opens the file at @p path in place of what was open.
+    /// @return null, or else what failed, with %1 for the path; then nothing is open
+    QString open(const QString &path);
+    void close();
+    bool isOpen() const { return m_demuxer.isOpen(); }
+
+    /// While it is open.
+    HRClipFacts facts() const;
+    /// While it is open: the next picture, without its time; null at the end, also where the rest
+    /// cannot be read or allocated, and when asked to stop. A picture that cannot be decoded is
+    /// passed over.
+    HRVideoFrame readPicture();
+    /// While it is open: goes to @p seconds, as near as the format allows.
+    void seek(double seconds, bool backward);
+    /// While it is open: goes to the first byte.
+    void rewind();
+
+private:
+    QString tryOpen(const QString &path);
+    void feedDecoder();
+
+    HRMediaDemuxer::ShouldStop m_shouldStop;
+    HRMediaDemuxer m_demuxer;
+    HRMediaDecoder m_decoder;
+    HRPictureConverter m_converter;
+    HRFFmpegHandle<AVPacket> m_packet;
+};
+
+} // namespace Hintreels

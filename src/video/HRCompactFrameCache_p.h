@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "video/HRVideoFrameCache.h"
+
+#include <memory>
+#include <vector>
+
+namespace Hintreels {
+
+/// A cache that stores of each picture only the tiles that differ from the picture before.
+///
+/// Every picture has a map that says where each of its tiles lies, be it in its own store or in
+/// that of an earlier picture, so any picture is put together in one pass, whatever its index. It
+/// comes back bit for bit: size, format, pixels and time. The picture read last is kept, so reading
+/// it again only shares it. Pictures that do not have 32 bits a pixel are stored as they are.
+class HRCompactFrameCache : public HRVideoFrameCache
+{
+    Q_OBJECT
+
+public:
+    explicit HRCompactFrameCache(const QString &name);
+    ~HRCompactFrameCache() override;
+
+    /// A picture for which there is no memory is left out.
+    void addFrame(const HRVideoFrame &frame) override;
+    HRVideoFrame frame(size_t index) override;
+    size_t length() override;
+
+private:
+    using TileMap = std::vector<const QRgb *>; // row by row; a tile's pixels stand without gaps
+
+    struct Picture
+    {
+        QSize size;
+        QImage::Format format = QImage::Format_Invalid;
+        double pts = 0.0;
+        std::shared_ptr<const TileMap> tiles; // shared with the picture before where it is the same
+        std::unique_ptr<QRgb[]> store; // of the tiles that changed with this picture
+        QImage whole; // instead of tiles
+    };
+
+    std::vector<bool> changedTiles(const QImage &image) const;
+    bool storeTiles(const QImage &image, Picture *picture) const;
+    static HRVideoFrame assemble(const Picture &picture);
+
+    std::vector<Picture> m_pictures;
+    QImage m_lastAdded;
+    HRVideoFrame m_lastRead;
+    size_t m_lastReadIndex = 0;
+};
+
+} // namespace Hintreels

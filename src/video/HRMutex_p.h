@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QMutex>
+
+#include <mutex>
+
+#ifdef __SANITIZE_THREAD__
+#include <sanitizer/tsan_interface.h>
+#endif
+
+namespace Hintreels {
+
+/// A recursive QMutex that ThreadSanitizer knows about.
+///
+/// Qt's mutexes live in a library that the sanitizer does not see into, so in a build with
+/// -fsanitize=thread this class tells it of each step; in any other it is the mutex alone.
+class HRMutex
+{
+public:
+#ifdef __SANITIZE_THREAD__
+    HRMutex()
+    {
+        __tsan_mutex_create(this, __tsan_mutex_write_reentrant);
+    }
+    ~HRMutex()
+    {
+        __tsan_mutex_destroy(this, __tsan_mutex_write_reentrant);
+    }
+#else
+    HRMutex() = default;
+#endif
+    Q_DISABLE_COPY(HRMutex)
+
+    void lock()
+    {
+        beforeLock(0);
+        m_mutex.lock();
+        afterLock(0);
+    }
+
+    /// @return false where the lock cannot be had within @p milliseconds
+    bool tryLock(int milliseconds)
+    {
+#ifdef __SANITIZE_THREAD__
+        beforeLock(__tsan_mutex_try_lock);
+        const bool locked = m_mutex.tryLock(milliseconds);
+        afterLock(__tsan_mutex_try_lock | (locked ? 0 : __tsan_mutex_try_lock_failed));
+        return locked;
+#else
+        return m_mutex.tryLock(milliseconds);
+#endif
+    }
+
+    void unlock()
+    {
+#ifdef __SANITIZE_THREAD__
+        __tsan_mutex_pre_unlock(this, 0);
+        m_mutex.unlock();
+        __tsan_mutex_post_unlock(this, 0);
+#else
+        m_mutex.unlock();
+#endif
+    }
+
+private:
+#ifdef __SANITIZE_THREAD__
+    void beforeLock(unsigned flags)
+    {
+        __tsan_mutex_pre_lock(this, flags);
+    }
+    void afterLock(unsigned flags)
+    {
+        __tsan_mutex_post_lock(this, flags, 1);
+    }
+#else
+    void beforeLock(unsigned) { }
+    void afterLock(unsigned) { }
+#endif
+
+    QRecursiveMutex m_mutex;
+};
+
+using HRMutexLocker = std::lock_guard<HRMutex>;
+
+} // namespace Hintreels

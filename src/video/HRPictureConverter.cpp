@@ -1,0 +1,114 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "video/HRPictureConverter_p.h"
+
+#include <QtEndian>
+
+namespace Hintreels {
+
+namespace {
+
+// The scaler works on blocks of pixels: rows of exactly width x 3 bytes leave it columns that it
+// does not convert, and at small widths it writes past their end.
+constexpr int rowPixels = 64;
+constexpr int slack = 256; // bytes behind the last row
+
+constexpr int directWidthStep = 16; // pixels; of other widths the scaler leaves columns out
+
+/// Four bytes a pixel from three. Reads one byte past the last pixel: the slack.
+void unpackRow(const uint8_t *rgb, QRgb *target, int width)
+{
+    for (int x = 0; x < width; ++x)
+        target[x] = 0xff000000u | qFromBigEndian<quint32>(rgb + 3 * x) >> 8;
+}
+
+} // namespace
+
+bool HRPictureConverter::allocate(const QSize &size)
+{
+    close();
+    if (size.isEmpty())
+        return false;
+    m_size = size;
+    const qint64 stride = (qint64(size.width()) + rowPixels - 1) / rowPixels * rowPixels * 3;
+    const qint64 bytes = stride * size.height() + slack;
+    if (bytes > std::numeric_limits<int>::max())
+        return false;
+    m_rgbStride = int(stride);
+    m_rgb.reset(static_cast<uint8_t *>(av_malloc(size_t(bytes))));
+    return m_rgb != nullptr;
+}
+
+bool HRPictureConverter::prepare(const QSize &size, AVPixelFormat format)
+{
+    // The scaler aborts the process on a picture without a format.
+    if (size.isEmpty() || !sws_isSupportedInput(format))
+        return false;
+    m_direct = isDirect(size, format);
+    m_sourceSize = size;
+    m_sourceFormat = format;
+    m_scaler.reset(sws_getCachedContext(nullptr, size.width(), size.height(), format,
+        m_size.width(), m_size.height(), m_direct ? AV_PIX_FMT_RGB32 : AV_PIX_FMT_RGB24,
+        SWS_BICUBIC, nullptr, nullptr, nullptr));
+    return m_scaler != nullptr;
+}
+
+HRVideoFrame HRPictureConverter::convert(const AVFrame *picture)
+{
+    // Size and format may change in the middle of a stream.
+    const QSize size(picture->width, picture->height);
+    const auto format = AVPixelFormat(picture->format);
+    const bool changed = size != m_sourceSize || format != m_sourceFormat;
+    if (changed && !prepare(size, format))
+        return HRVideoFrame();
+    HRVideoFrame target(m_size.width(), m_size.height(), QImage::Format_RGB32, 0);
+    if (target.isNull())
+        return target;
+    const bool converted
+        = m_direct ? convertDirectly(picture, &target) : convertByRgb24(picture, &target);
+    return converted ? target : HRVideoFrame();
+}
+
+void HRPictureConverter::close()
+{
+    m_scaler.reset();
+    m_rgb.reset();
+    m_size = QSize();
+    m_sourceSize = QSize();
+}
+
+// Measured for 8-bit 4:2:0 of even height, and held by a test over formats and sizes. The others
+// differ by up to 255: the scaler rounds and filters colour by other code for packed RGB24.
+bool HRPictureConverter::isDirect(const QSize &size, AVPixelFormat format) const
+{
+    const bool planar420 = format == AV_PIX_FMT_YUV420P || format == AV_PIX_FMT_YUVJ420P;
+    return planar420 && size == m_size && size.height() % 2 == 0
+        && size.width() % directWidthStep == 0;
+}
+
+bool HRPictureConverter::convertDirectly(const AVFrame *picture, HRVideoFrame *target)
+{
+    uint8_t *planes[4] = { target->bits() };
+    const int strides[4] = { target->bytesPerLine() };
+    return sws_scale(m_scaler.get(), picture->data, picture->linesize, 0, picture->height, planes,
+               strides)
+        > 0;
+}
+
+bool HRPictureConverter::convertByRgb24(const AVFrame *picture, HRVideoFrame *target)
+{
+    uint8_t *planes[4] = { m_rgb.get() };
+    const int strides[4] = { m_rgbStride };
+    const int rows = sws_scale(
+        m_scaler.get(), picture->data, picture->linesize, 0, picture->height, planes, strides);
+    if (rows <= 0)
+        return false;
+    for (int y = 0; y < m_size.height(); ++y) {
+        unpackRow(m_rgb.get() + qint64(y) * m_rgbStride,
+            reinterpret_cast<QRgb *>(target->scanLine(y)), m_size.width());
+    }
+    return true;
+}
+
+} // namespace Hintreels

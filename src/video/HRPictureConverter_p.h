@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "video/HRFFmpegHandle_p.h"
+#include "video/HRVideoFrame.h"
+
+#include <QSize>
+
+namespace Hintreels {
+
+/// Converts decoded pictures of any format and size to 32-bit RGB of one size.
+///
+/// The result is what a bicubic conversion to packed RGB24 gives, with opaque alpha. Where
+/// converting straight to 32 bits gives the same pixels, it takes that shorter road. Lock-free;
+/// one thread at a time.
+class HRPictureConverter
+{
+public:
+    HRPictureConverter() = default;
+    Q_DISABLE_COPY(HRPictureConverter)
+
+    // Opening, in this order; each is false on failure.
+
+    /// Makes room for pictures of @p size, which the results have.
+    bool allocate(const QSize &size);
+    /// Gets ready for pictures of @p size and @p format.
+    bool prepare(const QSize &size, AVPixelFormat format);
+
+    /// The converted picture; a null one where it cannot be allocated or converted.
+    HRVideoFrame convert(const AVFrame *picture);
+    void close();
+
+private:
+    bool isDirect(const QSize &size, AVPixelFormat format) const;
+    bool convertDirectly(const AVFrame *picture, HRVideoFrame *target);
+    bool convertByRgb24(const AVFrame *picture, HRVideoFrame *target);
+
+    QSize m_size; // of the results
+    QSize m_sourceSize; // that the scaler is ready for, as is the format
+    AVPixelFormat m_sourceFormat = AV_PIX_FMT_NONE;
+    int m_rgbStride = 0; // bytes
+    HRFFmpegHandle<uint8_t> m_rgb;
+    HRFFmpegHandle<SwsContext> m_scaler;
+    bool m_direct = false;
+};
+
+} // namespace Hintreels

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "context/HRExport.h"
+
+#include <QImage>
+
+namespace Hintreels {
+
+/// One decoded picture of a clip: an image and the time at which it is shown.
+///
+/// Copies share the pixels until one holder writes to them, so a picture crosses threads by value.
+class HINTREELS_EXPORT HRVideoFrame : public QImage
+{
+public:
+    /// A null image at time 0.
+    HRVideoFrame();
+    /// An image with uninitialised pixels; null where they cannot be allocated.
+    /// @param pts the presentation time in whole seconds
+    HRVideoFrame(int width, int height, QImage::Format format, size_t pts);
+    /// Shares the pixels of @p image.
+    HRVideoFrame(const QImage &image, size_t pts);
+    HRVideoFrame(const HRVideoFrame &other);
+    HRVideoFrame &operator=(const HRVideoFrame &other);
+    ~HRVideoFrame() override;
+
+    /// The presentation time in seconds. A source's clock runs on from clip to clip.
+    double pts() const { return m_pts; }
+    void setPts(double pts) { m_pts = pts; }
+
+private:
+    double m_pts = 0.0;
+};
+
+} // namespace Hintreels

@@ -1,0 +1,230 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "video/HRVideoSource.h"
+
+#include "video/HRVideoSource_p.h"
+
+#include <QDebug>
+
+namespace Hintreels {
+
+namespace {
+
+constexpr unsigned long quitTime = 10000; // ms, before and after terminating
+constexpr std::chrono::milliseconds longestRest(100);
+
+} // namespace
+
+HRVideoSourceChange::HRVideoSourceChange(HRVideoSource::Action theAction)
+    : action(theAction)
+{
+}
+
+HRVideoSourceChange::~HRVideoSourceChange() = default;
+
+int HRVideoSourceChange::type() const
+{
+    return 1;
+}
+
+void HRVideoSourceChange::apply(HRVideoSource *source)
+{
+    source->changeSetAction(action);
+}
+
+HRVideoSourceSourceChange::HRVideoSourceSourceChange(const QUrl &theUrl)
+    : HRVideoSourceChange(HRVideoSource::loadAction)
+    , url(theUrl)
+{
+}
+
+int HRVideoSourceSourceChange::type() const
+{
+    return 3;
+}
+
+void HRVideoSourceSourceChange::apply(HRVideoSource *source)
+{
+    source->changeSetSource(url);
+    source->changeSetAction(action);
+}
+
+HRVideoSource::HRVideoSource(QObject *parent)
+    : QThread(parent)
+    , d(new HRVideoSourcePrivate)
+{
+}
+
+HRVideoSource::~HRVideoSource()
+{
+    quit();
+}
+
+void HRVideoSource::close()
+{
+    setSource(QUrl());
+}
+
+void HRVideoSource::changeSetAction(Action action)
+{
+    if (action == -1)
+        return;
+    {
+        const HRMutexLocker lock(d->stateMutex);
+        d->action = action;
+    }
+    Q_EMIT actionChanged();
+}
+
+void HRVideoSource::changeSetSource(const QUrl &url)
+{
+    const HRMutexLocker lock(d->stateMutex);
+    d->source = url;
+}
+
+bool HRVideoSource::loadSource()
+{
+    Q_EMIT sourceLoaded();
+    return true;
+}
+
+bool HRVideoSource::setSource(const QUrl &url)
+{
+    const HRMutexLocker lock(d->stateMutex);
+    if (!url.isValid() || url == d->source)
+        return false;
+    d->changes.append(std::make_unique<HRVideoSourceSourceChange>(url));
+    return true;
+}
+
+void HRVideoSource::setAction(Action action)
+{
+    d->changes.append(std::make_unique<HRVideoSourceChange>(action));
+}
+
+void HRVideoSource::setShouldQuit()
+{
+    {
+        const HRMutexLocker lock(d->stateMutex);
+        d->shouldQuit = true;
+    }
+    d->changes.wake();
+}
+
+void HRVideoSource::quit()
+{
+    setShouldQuit();
+    if (wait(quitTime))
+        return;
+    qDebug("HRVideoSource did not quit in a timely fashion");
+    terminate();
+    if (!wait(quitTime))
+        qDebug("HRVideoSource did not quit at all");
+}
+
+QUrl HRVideoSource::source()
+{
+    const HRMutexLocker lock(d->stateMutex);
+    return d->source;
+}
+
+HRVideoSource::Action HRVideoSource::action()
+{
+    const HRMutexLocker lock(d->stateMutex);
+    return d->action;
+}
+
+bool HRVideoSource::shouldQuit()
+{
+    const HRMutexLocker lock(d->stateMutex);
+    return d->shouldQuit;
+}
+
+void HRVideoSource::pushFrame(const HRVideoFrame &frame)
+{
+    std::shared_ptr<HRWakeup> readerOfFirst;
+    {
+        const HRMutexLocker lock(d->frameMutex);
+        if (!d->cache)
+            return;
+        if (d->cache->length() == 0)
+            readerOfFirst = d->reader;
+        d->cache->addFrame(frame);
+    }
+    if (readerOfFirst)
+        readerOfFirst->ring();
+}
+
+HRVideoFrame HRVideoSource::getFrame(unsigned int index)
+{
+    const HRMutexLocker lock(d->frameMutex);
+    return isFrameAvailable(index) ? d->cache->frame(index) : HRVideoFrame();
+}
+
+bool HRVideoSource::isFrameAvailable(size_t index)
+{
+    const HRMutexLocker lock(d->frameMutex);
+    return d->cache && d->cache->length() > index;
+}
+
+size_t HRVideoSource::loadedFrameCount()
+{
+    return totalFrameCount();
+}
+
+size_t HRVideoSource::totalFrameCount()
+{
+    const HRMutexLocker lock(d->frameMutex);
+    return d->cache ? d->cache->length() : 0;
+}
+
+void HRVideoSource::clearChanges()
+{
+    const HRMutexLocker lock(d->stateMutex);
+    d->changes.clear();
+}
+
+void HRVideoSource::setupSource()
+{
+    const QString name = source().toString();
+    std::unique_ptr<HRVideoFrameCache> previous = createCache(name);
+    {
+        const HRMutexLocker lock(d->frameMutex);
+        d->cache.swap(previous);
+    }
+    // Freeing a long clip takes a while, and nobody waits for it here.
+    previous.reset();
+    setAction(source().isEmpty() ? idleAction : decodeAction);
+    Q_EMIT sourceChanged();
+}
+
+void HRVideoSource::notifyStreamEnded()
+{
+    Q_EMIT streamEnded();
+}
+
+void HRVideoSource::processActionQueue()
+{
+    const std::unique_ptr<HRVideoSourceChange> change = d->changes.takeFirst();
+    if (change)
+        change->apply(this);
+}
+
+void HRVideoSource::rest()
+{
+    d->changes.wait(longestRest);
+}
+
+void HRVideoSource::setReader(const std::shared_ptr<HRWakeup> &reader)
+{
+    const HRMutexLocker lock(d->frameMutex);
+    d->reader = reader;
+}
+
+std::unique_ptr<HRVideoFrameCache> HRVideoSource::createCache(const QString &name) const
+{
+    return std::make_unique<HRVideoFrameCache>(name);
+}
+
+} // namespace Hintreels

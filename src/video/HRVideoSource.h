@@ -1,0 +1,167 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "context/HRExport.h"
+#include "video/HRVideoFrame.h"
+
+#include <QThread>
+#include <QUrl>
+
+#include <memory>
+
+namespace Hintreels {
+
+class HRVideoFrameCache;
+class HRWakeup;
+struct HRVideoSourcePrivate;
+
+/// A thread that fills a cache with the pictures of a clip, as other threads tell it to.
+///
+/// The base owns the clip's cache, the URL in effect, the thread's action and the queue of changes
+/// by which other threads steer it. A derived source supplies run() and what concerns the media.
+/// It calls quit() in its own destructor: the base's comes too late for its members.
+/// All signals are emitted from the source's thread, with no lock held.
+class HINTREELS_EXPORT HRVideoSource : public QThread
+{
+    Q_OBJECT
+
+public:
+    /// What the thread does in each pass of its loop. -1 stands for "no change".
+    enum Action : int
+    {
+        quitAction = 0, ///< leaves its loop and ends
+        loadAction = 1, ///< opens the source
+        closeAction = 2, ///< closes the media, then idles
+        seekAction = 3, ///< repositions the demuxer
+        decodeAction = 4, ///< decodes the next picture into the cache
+        idleAction = 5 ///< rests until a request comes in
+    };
+
+    explicit HRVideoSource(QObject *parent = nullptr);
+    /// Quits the thread first.
+    ~HRVideoSource() override;
+
+    // Derived sources rely on the order of the virtual operations.
+
+    /// Does nothing here; a derived source releases its media first, then calls this.
+    virtual void close();
+    virtual bool isOpen() = 0;
+    /// Wall-clock time in seconds.
+    virtual double getTime() = 0;
+    /// Makes @p action the thread's action and emits actionChanged(); -1 changes nothing.
+    virtual void changeSetAction(Action action);
+    /// @param index picture to go on decoding from
+    virtual void changeSetPosition(size_t index) = 0;
+    /// Makes @p url the URL in effect, in silence.
+    virtual void changeSetSource(const QUrl &url);
+    /// In seconds; 0 where it is not known.
+    virtual double duration() = 0;
+    /// Seconds per tick of the codec; 0 where it is not known.
+    virtual double timeBase() = 0;
+    /// Pictures per second; 0 where it is not known.
+    virtual double frameRate() = 0;
+    /// In pixels.
+    virtual double frameWidth() const = 0;
+    /// In pixels.
+    virtual double frameHeight() const = 0;
+
+protected:
+    /// Emits sourceLoaded(). A derived source opens its media, then calls this.
+    virtual bool loadSource();
+
+public:
+    // Requests, from any thread: they return at once, and wake the thread when it rests.
+
+    /// Asks for the clip at @p url.
+    /// @return false, with nothing asked for, where @p url is invalid or already in effect; what
+    /// was asked for before and is still to come does not count
+    bool setSource(const QUrl &url);
+    /// Asks for @p action.
+    void setAction(Action action);
+    /// Asks the thread to end.
+    void setShouldQuit();
+    /// Asks the thread to end and waits for it, at most 10 s; then terminates it, with a message.
+    void quit();
+
+    // Queries, from any thread.
+
+    QUrl source();
+    Action action();
+    bool shouldQuit();
+
+    // Pictures, from any thread, under the frame lock.
+
+    /// Appends a picture to the cache of the current clip.
+    void pushFrame(const HRVideoFrame &frame);
+    /// The picture at @p index, or a null one where there is none.
+    HRVideoFrame getFrame(unsigned int index);
+    bool isFrameAvailable(size_t index);
+    /// The number of pictures decoded so far.
+    size_t loadedFrameCount();
+    /// The same: all pictures that are known of are loaded.
+    size_t totalFrameCount();
+
+    // For the source's own thread.
+
+    /// Drops all changes that were asked for and not yet applied.
+    void clearChanges();
+    /// Starts a fresh cache for the source in effect, asks for decodeAction (for idleAction where
+    /// the source is empty) and emits sourceChanged().
+    void setupSource();
+    /// Emits streamEnded().
+    void notifyStreamEnded();
+
+Q_SIGNALS:
+    // Listeners rely on this order.
+    void frameReady(); ///< for derived sources; none of the library's emits it
+    void sourceChanged();
+    void streamEnded(); ///< the whole clip is in the cache
+    void sourceLoaded(); ///< the media is open; its sizes and rates are known
+    void actionChanged();
+    void positionChanged();
+    void loadProgressChanged(); ///< for derived sources; none of the library's emits it
+
+protected:
+    /// Applies the oldest change that was asked for, if any.
+    void processActionQueue();
+    /// Returns as soon as a change or an end is asked for, after 100 ms at the latest.
+    void rest();
+
+private:
+    friend class HRVideoController; // rests until the first picture of a clip arrives
+
+    void setReader(const std::shared_ptr<HRWakeup> &reader);
+    /// The cache for a clip, called @p name.
+    virtual std::unique_ptr<HRVideoFrameCache> createCache(const QString &name) const;
+
+    std::unique_ptr<HRVideoSourcePrivate> d;
+};
+
+/// A change of a source's action that was asked for, on its way to the source's thread.
+struct HINTREELS_EXPORT HRVideoSourceChange
+{
+    explicit HRVideoSourceChange(HRVideoSource::Action action);
+    virtual ~HRVideoSourceChange();
+
+    /// 1 for a change of the action, 3 for one of the source as well.
+    virtual int type() const;
+    /// Carries the change out. On the source's thread, with no lock held.
+    virtual void apply(HRVideoSource *source);
+
+    HRVideoSource::Action action;
+};
+
+/// A change of a source's URL, which is loaded then.
+struct HINTREELS_EXPORT HRVideoSourceSourceChange : public HRVideoSourceChange
+{
+    explicit HRVideoSourceSourceChange(const QUrl &url);
+
+    int type() const override;
+    void apply(HRVideoSource *source) override;
+
+    QUrl url;
+};
+
+} // namespace Hintreels

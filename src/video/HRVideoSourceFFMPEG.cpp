@@ -1,0 +1,252 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "video/HRVideoSourceFFMPEG.h"
+
+#include "video/HRCompactFrameCache_p.h"
+#include "video/HRVideoSourceFFMPEG_p.h"
+
+#include <QDebug>
+
+extern "C" {
+#include <libavutil/time.h>
+}
+
+namespace Hintreels {
+
+namespace {
+
+// What the size is said to be while no media is open.
+constexpr double closedWidth = 200.0;
+constexpr double closedHeight = 150.0;
+
+constexpr double microseconds = 1000000.0; // in a second
+
+void silenceFFmpegOnce()
+{
+    static const bool silenced = (av_log_set_level(AV_LOG_QUIET), true);
+    Q_UNUSED(silenced)
+}
+
+} // namespace
+
+HRVideoSourceFFMPEGPrivate::HRVideoSourceFFMPEGPrivate(HRVideoSourceFFMPEG *source)
+    : clip([source] { return source->shouldQuit(); })
+{
+}
+
+HRClipStatus HRVideoSourceFFMPEGPrivate::currentStatus()
+{
+    const HRMutexLocker lock(statusMutex);
+    return status;
+}
+
+void HRVideoSourceFFMPEGPrivate::publishFacts()
+{
+    const HRMutexLocker lock(statusMutex);
+    status.facts = clip.facts();
+    status.open = true;
+}
+
+void HRVideoSourceFFMPEGPrivate::publishProgress(double pts)
+{
+    const HRMutexLocker lock(statusMutex);
+    const double duration = status.facts.duration;
+    status.progress = duration > 0.0 ? pts / duration : 0.0;
+}
+
+void HRVideoSourceFFMPEGPrivate::release()
+{
+    clip.close();
+    const HRMutexLocker lock(statusMutex);
+    status.open = false;
+}
+
+HRVideoSourceFFMPEG::HRVideoSourceFFMPEG(QObject *parent)
+    : HRVideoSource(parent)
+    , d(new HRVideoSourceFFMPEGPrivate(this))
+{
+    setObjectName(QStringLiteral("FFMPEG"));
+    silenceFFmpegOnce();
+}
+
+HRVideoSourceFFMPEG::~HRVideoSourceFFMPEG()
+{
+    quit();
+}
+
+void HRVideoSourceFFMPEG::close()
+{
+    releaseMedia();
+    HRVideoSource::close();
+}
+
+bool HRVideoSourceFFMPEG::isOpen()
+{
+    return d->currentStatus().open;
+}
+
+double HRVideoSourceFFMPEG::getTime()
+{
+    return double(av_gettime()) / microseconds;
+}
+
+void HRVideoSourceFFMPEG::changeSetPosition(size_t index)
+{
+    {
+        const HRMutexLocker lock(d->decoderMutex);
+        if (d->clip.isOpen()) {
+            const double rate = frameRate();
+            const double target = rate > 0.0 ? double(index) / rate : 0.0;
+            d->clip.seek(target, d->clock.time() > target);
+            d->clock.setTime(target);
+        } else {
+            d->clock.setTime(0.0);
+            d->publishProgress(0.0);
+        }
+    }
+    Q_EMIT positionChanged();
+}
+
+double HRVideoSourceFFMPEG::duration()
+{
+    return d->currentStatus().facts.duration;
+}
+
+double HRVideoSourceFFMPEG::timeBase()
+{
+    return d->currentStatus().facts.timeBase;
+}
+
+double HRVideoSourceFFMPEG::frameRate()
+{
+    return d->currentStatus().facts.frameRate;
+}
+
+double HRVideoSourceFFMPEG::frameWidth() const
+{
+    const HRClipStatus status = d->currentStatus();
+    return status.open ? status.facts.size.width() : closedWidth;
+}
+
+double HRVideoSourceFFMPEG::frameHeight() const
+{
+    const HRClipStatus status = d->currentStatus();
+    return status.open ? status.facts.size.height() : closedHeight;
+}
+
+size_t HRVideoSourceFFMPEG::position()
+{
+    return 0;
+}
+
+double HRVideoSourceFFMPEG::progress()
+{
+    return d->currentStatus().progress;
+}
+
+void HRVideoSourceFFMPEG::run()
+{
+    while (!shouldQuit()) {
+        processActionQueue();
+        switch (action()) {
+        case quitAction:
+            return;
+        case loadAction:
+            loadSource();
+            break;
+        case closeAction:
+            close();
+            setAction(idleAction);
+            break;
+        case seekAction:
+            seekToStart();
+            break;
+        case decodeAction:
+            if (!decodeNextFrame())
+                setAction(idleAction);
+            break;
+        case idleAction:
+            rest();
+            break;
+        }
+    }
+}
+
+bool HRVideoSourceFFMPEG::loadSource()
+{
+    if (source().isEmpty()) {
+        setAction(idleAction);
+        close();
+        return false;
+    }
+    setupSource();
+    if (!openMedia()) {
+        setAction(idleAction);
+        return false;
+    }
+    const bool loaded = HRVideoSource::loadSource();
+    setAction(decodeAction);
+    return loaded;
+}
+
+std::unique_ptr<HRVideoFrameCache> HRVideoSourceFFMPEG::createCache(const QString &name) const
+{
+    return std::make_unique<HRCompactFrameCache>(name);
+}
+
+bool HRVideoSourceFFMPEG::openMedia()
+{
+    const QString path = source().toLocalFile();
+    const HRMutexLocker lock(d->decoderMutex);
+    d->release();
+    const QString failure = d->clip.open(path);
+    if (failure.isNull()) {
+        d->publishFacts();
+        return true;
+    }
+    // An opening that was broken off says nothing about the file.
+    if (!shouldQuit())
+        qDebug().noquote() << failure.arg(path);
+    return false;
+}
+
+void HRVideoSourceFFMPEG::releaseMedia()
+{
+    const HRMutexLocker lock(d->decoderMutex);
+    d->release();
+}
+
+bool HRVideoSourceFFMPEG::decodeNextFrame()
+{
+    HRVideoFrame picture;
+    {
+        const HRMutexLocker lock(d->decoderMutex);
+        if (!d->clip.isOpen())
+            return false;
+        picture = d->clip.readPicture();
+        if (picture.isNull()) {
+            d->clip.rewind();
+            d->release();
+        } else {
+            picture.setPts(d->clock.tick(frameRate()));
+            d->publishProgress(picture.pts());
+        }
+    }
+    if (!picture.isNull())
+        pushFrame(picture);
+    else if (!shouldQuit())
+        notifyStreamEnded();
+    return !picture.isNull();
+}
+
+void HRVideoSourceFFMPEG::seekToStart()
+{
+    const HRMutexLocker lock(d->decoderMutex);
+    if (d->clip.isOpen())
+        d->clip.seek(0.0, false);
+    else
+        setAction(idleAction);
+}
+
+} // namespace Hintreels

@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "video/HRVideoSource.h"
+
+#include <memory>
+
+namespace Hintreels {
+
+struct HRVideoSourceFFMPEGPrivate;
+
+/// Decodes the first video stream of a local file with FFmpeg, as fast as it can, into the cache.
+///
+/// Pictures are 32-bit RGB of the size that the clip had when it was opened. Only a regular file
+/// is opened, and nothing that it names: neither playlists nor the network. A file that cannot be
+/// played leaves one line in the debug output, and the thread idles.
+/// The media is closed as soon as the last picture is decoded.
+class HINTREELS_EXPORT HRVideoSourceFFMPEG : public HRVideoSource
+{
+    Q_OBJECT
+
+public:
+    /// Silences FFmpeg's own log, once per process.
+    explicit HRVideoSourceFFMPEG(QObject *parent = nullptr);
+    /// Quits the thread, then frees the media.
+    ~HRVideoSourceFFMPEG() override;
+
+    void close() override;
+    /// True while the media is open, which it is no longer when all of it is decoded.
+    bool isOpen() override;
+    double getTime() override;
+    void changeSetPosition(size_t index) override;
+    double duration() override;
+    double timeBase() override;
+    double frameRate() override;
+    /// In pixels; 200 while no media is open. Never waits for a picture being decoded.
+    double frameWidth() const override;
+    /// In pixels; 150 while no media is open. Never waits for a picture being decoded.
+    double frameHeight() const override;
+
+    /// Always 0.
+    virtual size_t position();
+    /// How far decoding is, from 0 to 1 by the clip's duration; 0 where that is not known.
+    virtual double progress();
+
+protected:
+    void run() override;
+    bool loadSource() override;
+
+private:
+    std::unique_ptr<HRVideoFrameCache> createCache(const QString &name) const override;
+    bool openMedia();
+    void releaseMedia();
+    bool decodeNextFrame();
+    void seekToStart();
+
+    std::unique_ptr<HRVideoSourceFFMPEGPrivate> d;
+};
+
+} // namespace Hintreels

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "video/HRClip_p.h"
+#include "video/HRMutex_p.h"
+#include "video/HRVideoClock_p.h"
+#include "video/HRVideoSourceFFMPEG.h"
+
+namespace Hintreels {
+
+/// What the source tells others of its clip.
+struct HRClipStatus
+{
+    HRClipFacts facts;
+    double progress = 0.0; // of decoding, 0 to 1
+    bool open = false;
+};
+
+struct HRVideoSourceFFMPEGPrivate
+{
+    explicit HRVideoSourceFFMPEGPrivate(HRVideoSourceFFMPEG *source);
+
+    // Order: decoderMutex, then statusMutex or the base's stateMutex. The base's frameMutex is
+    // never held together with decoderMutex. decoderMutex is held while a picture is read, decoded
+    // and converted; what others ask for therefore stands in status, under a lock that is held
+    // shortly.
+    HRMutex decoderMutex;
+    HRClip clip; // guarded by decoderMutex
+    HRVideoClock clock; // guarded by decoderMutex
+    HRMutex statusMutex;
+    HRClipStatus status; // guarded by statusMutex
+
+    HRClipStatus currentStatus();
+    /// While the clip is open.
+    void publishFacts();
+    void publishProgress(double pts);
+    /// Closes the clip. Its rates and its progress stay known; its size does not.
+    void release();
+};
+
+} // namespace Hintreels

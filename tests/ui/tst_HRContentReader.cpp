@@ -1,0 +1,347 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "support/TestPackage.h"
+#include "ui/HRContentReader_p.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <QtTest>
+
+#include <memory>
+
+using namespace Hintreels;
+
+namespace {
+
+HRContentReader germanReader()
+{
+    return HRContentReader([] { return QLocale("de_DE"); });
+}
+
+HRXmlElement *addChild(HRXmlElement *parent, const QString &tag, const QString &text = {},
+    const QMap<QString, QString> &attributes = {})
+{
+    auto *child = new HRXmlElement(parent);
+    child->setTagName(tag);
+    child->setContent(text);
+    for (auto it = attributes.begin(); it != attributes.end(); ++it)
+        child->setAttribute(it.key(), it.value());
+    return child;
+}
+
+QVariantList blocksOf(HRXmlElement &element)
+{
+    return germanReader().read(&element).value("blocks").toList();
+}
+
+QByteArray png(const QSize &size)
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QBuffer buffer;
+    image.save(&buffer, "PNG");
+    return buffer.data();
+}
+
+// The header of a PNG file is 8 bytes of signature, then length, type, width and height of its
+// first chunk; the checksum behind them is not looked at before the pixels are read.
+QByteArray withWidthOf(qint32 width, QByteArray file)
+{
+    qToBigEndian(width, file.data() + 16);
+    return file;
+}
+
+} // namespace
+
+class tst_HRContentReader : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void dedent_takesTheIndentationAway_data();
+    void dedent_takesTheIndentationAway();
+    void keyCaps_splitsStrokesAndKeys_data();
+    void keyCaps_splitsStrokesAndKeys();
+    void read_returnsNothing_whenElementIsNull();
+    void read_returnsAttributesAndSummary();
+    void read_returnsBlocksInDocumentOrder();
+    void read_leavesOut_whatShowsNothing_data();
+    void read_leavesOut_whatShowsNothing();
+    void read_keepsTagAndText_whenAttributesHaveTheirNames();
+    void read_takesDirectChildrenOnly();
+    void read_tellsTheDirectionOfWriting_data();
+    void read_tellsTheDirectionOfWriting();
+    void picture_answersPicturesOnly_data();
+    void picture_answersPicturesOnly();
+    void styleText_findsNothing_whenDocumentIsNull();
+};
+
+void tst_HRContentReader::dedent_takesTheIndentationAway_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("expected");
+
+    QTest::newRow("empty") << ""
+                           << "";
+    QTest::newRow("blank lines only") << "\n   \n\t\n"
+                                      << "";
+    QTest::newRow("one line") << "text"
+                              << "text";
+    QTest::newRow("indented block") << "\n    one\n    two\n  "
+                                    << "one\ntwo";
+    QTest::newRow("blank line inside") << "\n    one\n\n    two\n"
+                                       << "one\n\ntwo";
+    QTest::newRow("line of blanks inside") << "\n    one\n \n    two\n"
+                                           << "one\n\ntwo";
+    QTest::newRow("nested list") << "\n    - one\n      - inner\n    - two"
+                                 << "- one\n  - inner\n- two";
+    QTest::newRow("code block") << "\n    Text\n\n        code\n          more"
+                                << "Text\n\n    code\n      more";
+    QTest::newRow("tabs") << "\n\t\tone\n\t\t\ttwo"
+                          << "one\n\ttwo";
+    QTest::newRow("tabs and blanks share nothing") << "\n\tone\n  two"
+                                                   << "\tone\n  two";
+    QTest::newRow("first line after the tag") << "one\n    two\n    three"
+                                              << "one\ntwo\nthree";
+    QTest::newRow("first line after the tag, list") << " one\n  - two\n    - three"
+                                                    << "one\n- two\n  - three";
+    QTest::newRow("carriage returns") << "\r\n  one\r\n  two\r\n"
+                                      << "one\r\ntwo\r";
+    QTest::newRow("trailing blanks make line breaks") << "\n  one  \n  two"
+                                                      << "one  \ntwo";
+}
+
+void tst_HRContentReader::dedent_takesTheIndentationAway()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, expected);
+
+    QCOMPARE(dedent(text), expected);
+}
+
+void tst_HRContentReader::keyCaps_splitsStrokesAndKeys_data()
+{
+    QTest::addColumn<QString>("shortcut");
+    QTest::addColumn<QVariantList>("strokes");
+
+    const auto strokes = [](const QList<QStringList> &list) {
+        QVariantList result;
+        for (const QStringList &keys : list)
+            result.append(QVariant(keys));
+        return result;
+    };
+    QTest::newRow("empty") << "" << strokes({});
+    QTest::newRow("blank") << "  " << strokes({});
+    QTest::newRow("one key") << "P" << strokes({ { "P" } });
+    QTest::newRow("modifiers") << "Ctrl+Shift+S" << strokes({ { "Ctrl", "Shift", "S" } });
+    QTest::newRow("the plus key") << "Ctrl+Shift++" << strokes({ { "Ctrl", "Shift", "+" } });
+    QTest::newRow("the plus key alone") << "+" << strokes({ { "+" } });
+    QTest::newRow("a chord") << "Ctrl+K, Ctrl+C" << strokes({ { "Ctrl", "K" }, { "Ctrl", "C" } });
+    QTest::newRow("a chord of plus")
+        << "Ctrl++, Ctrl++" << strokes({ { "Ctrl", "+" }, { "Ctrl", "+" } });
+    QTest::newRow("the comma key") << "Ctrl+," << strokes({ { "Ctrl", "," } });
+    QTest::newRow("a chord of comma")
+        << "Ctrl+,, Ctrl+C" << strokes({ { "Ctrl", "," }, { "Ctrl", "C" } });
+    QTest::newRow("a gesture") << "Shift+Drag" << strokes({ { "Shift", "Drag" } });
+    QTest::newRow("a key of two words") << "Ctrl+Page Up" << strokes({ { "Ctrl", "Page Up" } });
+    QTest::newRow("blanks around") << " Shift + Drag " << strokes({ { "Shift", "Drag" } });
+    QTest::newRow("native symbols")
+        << QString::fromUtf8("⌘S") << strokes({ { QString::fromUtf8("⌘S") } });
+}
+
+void tst_HRContentReader::keyCaps_splitsStrokesAndKeys()
+{
+    QFETCH(QString, shortcut);
+    QFETCH(QVariantList, strokes);
+
+    QCOMPARE(germanReader().keyCaps(shortcut), strokes);
+}
+
+void tst_HRContentReader::read_returnsNothing_whenElementIsNull()
+{
+    QVERIFY(germanReader().read(nullptr).isEmpty());
+}
+
+void tst_HRContentReader::read_returnsAttributesAndSummary()
+{
+    HRXmlElement element;
+    element.setAttribute("title", " The\n  Pen ");
+    element.setAttribute("shortcut", "Ctrl+P");
+    element.setAttribute("documentation", "tools/pen");
+    addChild(&element, "text", "first");
+    addChild(&element, "summary", "\n  Draws a\n  line.\n");
+    addChild(&element, "summary", "second");
+
+    const QVariantMap hint = germanReader().read(&element);
+
+    QCOMPARE(hint["title"].toString(), QString("The Pen"));
+    QCOMPARE(hint["shortcut"].toString(), QString("Ctrl+P"));
+    QCOMPARE(hint["documentation"].toString(), QString("tools/pen"));
+    QCOMPARE(hint["summary"].toString(), QString("Draws a line."));
+    QCOMPARE(hint["blocks"].toList().size(), 1);
+}
+
+void tst_HRContentReader::read_returnsBlocksInDocumentOrder()
+{
+    HRXmlElement element;
+    addChild(&element, "note", "\n  Mind\n  **this**.\n", { { "kind", "tip" } });
+    addChild(&element, "keys", "\n  Draws\n  straight.\n", { { "press", "Shift+Drag" } });
+    addChild(&element, "text", "\n  Text.\n");
+
+    QCOMPARE(blocksOf(element),
+        (QVariantList{
+            QVariantMap{ { "block", "note" }, { "kind", "tip" }, { "text", "Mind\n**this**." } },
+            QVariantMap{
+                { "block", "keys" }, { "press", "Shift+Drag" }, { "text", "Draws straight." } },
+            QVariantMap{ { "block", "text" }, { "text", "Text." } } }));
+}
+
+void tst_HRContentReader::read_leavesOut_whatShowsNothing_data()
+{
+    QTest::addColumn<QString>("tag");
+    QTest::addColumn<QString>("attribute");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("shown");
+
+    QTest::newRow("text") << "text"
+                          << ""
+                          << "Text" << true;
+    QTest::newRow("blank text") << "text"
+                                << ""
+                                << " \n " << false;
+    QTest::newRow("note") << "note"
+                          << ""
+                          << "Text" << true;
+    QTest::newRow("blank note") << "note"
+                                << ""
+                                << "" << false;
+    QTest::newRow("keys without text") << "keys"
+                                       << "press"
+                                       << "" << true;
+    QTest::newRow("keys without keys") << "keys"
+                                       << ""
+                                       << "Text" << false;
+    QTest::newRow("picture without caption") << "picture"
+                                             << "source"
+                                             << "" << true;
+    QTest::newRow("picture without source") << "picture"
+                                            << ""
+                                            << "Caption" << false;
+    QTest::newRow("link without label") << "link"
+                                        << "to"
+                                        << "" << true;
+    QTest::newRow("link without target") << "link"
+                                         << ""
+                                         << "Label" << false;
+    QTest::newRow("unknown element") << "blink"
+                                     << ""
+                                     << "Text" << false;
+    QTest::newRow("known element in upper case") << "Text"
+                                                 << ""
+                                                 << "Text" << false;
+}
+
+void tst_HRContentReader::read_leavesOut_whatShowsNothing()
+{
+    QFETCH(QString, tag);
+    QFETCH(QString, attribute);
+    QFETCH(QString, text);
+    QFETCH(bool, shown);
+    HRXmlElement element;
+    HRXmlElement *child = addChild(&element, tag, text);
+    if (!attribute.isEmpty())
+        child->setAttribute(attribute, "something");
+
+    QCOMPARE(blocksOf(element).size(), shown ? 1 : 0);
+}
+
+void tst_HRContentReader::read_keepsTagAndText_whenAttributesHaveTheirNames()
+{
+    HRXmlElement element;
+    addChild(&element, "text", "real", { { "block", "forged" }, { "text", "forged" } });
+
+    const QVariantMap block = blocksOf(element).value(0).toMap();
+
+    QCOMPARE(block["block"].toString(), QString("text"));
+    QCOMPARE(block["text"].toString(), QString("real"));
+}
+
+void tst_HRContentReader::read_takesDirectChildrenOnly()
+{
+    HRXmlElement element;
+    HRXmlElement *unknown = addChild(&element, "section");
+    addChild(unknown, "text", "inner");
+    addChild(unknown, "summary", "inner");
+    new QObject(&element);
+
+    const QVariantMap hint = germanReader().read(&element);
+
+    QVERIFY(hint["blocks"].toList().isEmpty());
+    QVERIFY(hint["summary"].toString().isEmpty());
+}
+
+void tst_HRContentReader::read_tellsTheDirectionOfWriting_data()
+{
+    QTest::addColumn<QString>("contentLocale");
+    QTest::addColumn<QString>("currentLocale");
+    QTest::addColumn<bool>("rightToLeft");
+
+    QTest::newRow("of the content") << "he_IL"
+                                    << "en_US" << true;
+    QTest::newRow("of the content, not the current one") << "en_US"
+                                                         << "ar_EG" << false;
+    QTest::newRow("current, when the content has none") << ""
+                                                        << "ar_EG" << true;
+    QTest::newRow("current, left to right") << ""
+                                            << "de_DE" << false;
+}
+
+void tst_HRContentReader::read_tellsTheDirectionOfWriting()
+{
+    QFETCH(QString, contentLocale);
+    QFETCH(QString, currentLocale);
+    QFETCH(bool, rightToLeft);
+    HRXmlElement root;
+    root.setAttribute("locale", contentLocale);
+    HRXmlElement *element = addChild(&root, "hintreel");
+    const HRContentReader reader([currentLocale] { return QLocale(currentLocale); });
+
+    QCOMPARE(reader.read(element)["rightToLeft"].toBool(), rightToLeft);
+}
+
+void tst_HRContentReader::picture_answersPicturesOnly_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<bool>("shown");
+
+    QTest::newRow("picture") << png({ 20, 10 }) << true;
+    QTest::newRow("empty file") << QByteArray() << false;
+    QTest::newRow("no picture") << QByteArray("<html>not a picture</html>") << false;
+    QTest::newRow("picture that takes too much memory")
+        << withWidthOf(30'000'000, png({ 20, 10 })) << false;
+}
+
+void tst_HRContentReader::picture_answersPicturesOnly()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(bool, shown);
+    TestPackages files;
+    const QString path = files.write("picture.png", content);
+
+    const HRContentReader reader = germanReader();
+
+    const QVariantMap picture{ { "url", QUrl::fromLocalFile(path) }, { "width", 20 },
+        { "height", 10 } };
+    QCOMPARE(reader.picture(path), shown ? picture : QVariantMap());
+    QVERIFY(reader.picture(files.path()).isEmpty());
+    QVERIFY(reader.picture("Resources").isEmpty());
+}
+
+void tst_HRContentReader::styleText_findsNothing_whenDocumentIsNull()
+{
+    QVERIFY(germanReader().styleText(nullptr, {}).isEmpty());
+}
+
+QTEST_MAIN(tst_HRContentReader)
+#include "tst_HRContentReader.moc"

@@ -1,0 +1,162 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "ui/HRTextStyle_p.h"
+
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextList>
+#include <QtTest>
+
+using namespace Hintreels;
+
+namespace {
+
+const HRTextLook look{ QColor("#0000ff"), QColor("#dddddd"), 8 };
+
+struct Styled
+{
+    explicit Styled(const QString &markdown)
+    {
+        document.setMarkdown(markdown);
+        styleMarkdown(document, look);
+    }
+
+    QTextBlock block(int number) const { return document.findBlockByNumber(number); }
+
+    QTextCharFormat formatOf(const QString &text) const { return document.find(text).charFormat(); }
+
+    QTextDocument document;
+};
+
+} // namespace
+
+class tst_HRTextStyle : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void styleMarkdown_spacesParagraphsOnlyBetween();
+    void styleMarkdown_setsListItemsCloser();
+    void styleMarkdown_keepsNestedLists();
+    void styleMarkdown_indentsCode_asOneBlock();
+    void styleMarkdown_leavesNoEmptyParagraph_whenCodeEndsTheText();
+    void styleMarkdown_indentsQuotations();
+    void styleMarkdown_setsHeadingsInTheSizeOfTheText();
+    void styleMarkdown_usesOneStrongWeight();
+    void styleMarkdown_colorsLinksAndInlineCode();
+    void styleMarkdown_keepsTheLook_whenAppliedAgain();
+    void styleMarkdown_acceptsAnEmptyDocument();
+    void linksIn_findsLinksInReadingOrder();
+};
+
+void tst_HRTextStyle::styleMarkdown_spacesParagraphsOnlyBetween()
+{
+    const Styled styled("One\n\nTwo\n\nThree");
+
+    QCOMPARE(styled.document.blockCount(), 3);
+    QCOMPARE(styled.block(0).blockFormat().topMargin(), 0.0);
+    QCOMPARE(styled.block(0).blockFormat().bottomMargin(), 8.0);
+    QCOMPARE(styled.block(1).blockFormat().bottomMargin(), 8.0);
+    QCOMPARE(styled.block(2).blockFormat().bottomMargin(), 0.0);
+}
+
+void tst_HRTextStyle::styleMarkdown_setsListItemsCloser()
+{
+    const Styled styled("- One\n- Two\n\nAfter");
+
+    QCOMPARE(styled.block(0).blockFormat().bottomMargin(), 4.0);
+    QCOMPARE(styled.block(1).blockFormat().bottomMargin(), 8.0);
+}
+
+void tst_HRTextStyle::styleMarkdown_keepsNestedLists()
+{
+    const Styled styled("- One\n  - Inner\n- Two");
+
+    QCOMPARE(styled.block(1).textList()->format().indent(), 2);
+    QCOMPARE(styled.block(2).textList(), styled.block(0).textList());
+}
+
+void tst_HRTextStyle::styleMarkdown_indentsCode_asOneBlock()
+{
+    const Styled styled("Before\n\n```\nfirst\nsecond\n```\n\nAfter");
+
+    QCOMPARE(styled.block(1).text(), QString("first"));
+    QVERIFY(styled.block(1).blockFormat().leftMargin() > 0);
+    QCOMPARE(styled.block(1).blockFormat().bottomMargin(), 0.0);
+    QCOMPARE(styled.block(2).blockFormat().bottomMargin(), 8.0);
+    QVERIFY(!styled.formatOf("first").hasProperty(QTextFormat::BackgroundBrush));
+}
+
+void tst_HRTextStyle::styleMarkdown_leavesNoEmptyParagraph_whenCodeEndsTheText()
+{
+    const Styled styled("Before\n\n```\nlast\n```\n");
+
+    QCOMPARE(styled.document.lastBlock().text(), QString("last"));
+}
+
+void tst_HRTextStyle::styleMarkdown_indentsQuotations()
+{
+    const Styled styled("> Quoted");
+
+    QCOMPARE(styled.block(0).blockFormat().leftMargin(), 20.0);
+    QCOMPARE(styled.block(0).blockFormat().rightMargin(), 0.0);
+}
+
+void tst_HRTextStyle::styleMarkdown_setsHeadingsInTheSizeOfTheText()
+{
+    const Styled styled("# Heading\n\nText");
+
+    QVERIFY(!styled.formatOf("Heading").hasProperty(QTextFormat::FontSizeAdjustment));
+    QCOMPARE(styled.formatOf("Heading").fontWeight(), int(QFont::DemiBold));
+}
+
+void tst_HRTextStyle::styleMarkdown_usesOneStrongWeight()
+{
+    const Styled styled("A **strong** word");
+
+    QCOMPARE(styled.formatOf("strong").fontWeight(), int(QFont::DemiBold));
+    QVERIFY(styled.formatOf("word").fontWeight() <= int(QFont::Normal));
+}
+
+void tst_HRTextStyle::styleMarkdown_colorsLinksAndInlineCode()
+{
+    const Styled styled("A [link](there) and `code`");
+
+    QCOMPARE(styled.formatOf("link").foreground().color(), look.link);
+    QCOMPARE(styled.formatOf("code").background().color(), look.codeBackground);
+    QVERIFY(!styled.formatOf("and").hasProperty(QTextFormat::BackgroundBrush));
+}
+
+void tst_HRTextStyle::styleMarkdown_keepsTheLook_whenAppliedAgain()
+{
+    Styled styled("# A\n\n- b `c`\n\n> [d](e)\n\n```\nf\n```");
+    const QString once = styled.document.toHtml();
+
+    styleMarkdown(styled.document, look);
+
+    QCOMPARE(styled.document.toHtml(), once);
+}
+
+void tst_HRTextStyle::styleMarkdown_acceptsAnEmptyDocument()
+{
+    const Styled styled("");
+
+    QCOMPARE(styled.document.blockCount(), 1);
+    QVERIFY(linksIn(styled.document).isEmpty());
+}
+
+void tst_HRTextStyle::linksIn_findsLinksInReadingOrder()
+{
+    const Styled styled("See [one](a/b) and\n\n- [two](https://example.org)");
+
+    const QVariantList links = linksIn(styled.document);
+
+    QCOMPARE(links.size(), 2);
+    QCOMPARE(links[0].toMap(),
+        (QVariantMap{ { "href", "a/b" }, { "text", "one" }, { "start", 4 }, { "end", 7 } }));
+    QCOMPARE(links[1].toMap()["href"].toString(), QString("https://example.org"));
+}
+
+QTEST_MAIN(tst_HRTextStyle)
+#include "tst_HRTextStyle.moc"
