@@ -3,7 +3,6 @@
 
 #include "index/HRControlTree_p.h"
 
-#include "content/HRXmlElement.h"
 #include "index/HRElementFilters_p.h"
 #include "index/HRIndex.h"
 #include "index/HRPosixFile_p.h"
@@ -17,34 +16,6 @@ namespace Hintreels {
 
 namespace {
 
-/// A file's top-level elements, which live as long as this.
-class TopLevel
-{
-public:
-    TopLevel(const QString &filePath, HRXmlParser::Filter filter, void *data)
-        : m_parser(filter, data)
-    {
-        m_parser.setDefaultElement(&HRXmlElement::staticMetaObject);
-        m_parser.registerElement(QStringLiteral("HRXmlElement"), &HRXmlElement::staticMetaObject);
-        QFile file;
-        if (openRegularFile(file, filePath))
-            m_objects = m_parser.read(QXmlInputSource(&file));
-    }
-    ~TopLevel() { qDeleteAll(m_objects); }
-    Q_DISABLE_COPY(TopLevel)
-
-    HRXmlElement *first() const
-    {
-        return m_objects.isEmpty() ? nullptr : qobject_cast<HRXmlElement *>(m_objects.first());
-    }
-
-    QObject *takeOnly() { return m_objects.size() == 1 ? m_objects.takeFirst() : nullptr; }
-
-private:
-    HRXmlParser m_parser; // deletes what an error left open, after the rest is gone
-    QList<QObject *> m_objects;
-};
-
 QMap<QString, QString> attributesOf(const HRXmlElement &element)
 {
     QMap<QString, QString> attributes;
@@ -56,22 +27,47 @@ QMap<QString, QString> attributesOf(const HRXmlElement &element)
 
 } // namespace
 
+HRControlTree::HRControlTree(const QString &filePath, HRXmlParser::Filter filter, void *data)
+    : m_parser(filter, data)
+{
+    m_parser.setDefaultElement(&HRXmlElement::staticMetaObject);
+    m_parser.registerElement(QStringLiteral("HRXmlElement"), &HRXmlElement::staticMetaObject);
+    QFile file;
+    if (openRegularFile(file, filePath))
+        m_objects = m_parser.read(QXmlInputSource(&file));
+}
+
+HRControlTree::~HRControlTree()
+{
+    qDeleteAll(m_objects);
+}
+
+HRXmlElement *HRControlTree::first() const
+{
+    return m_objects.isEmpty() ? nullptr : qobject_cast<HRXmlElement *>(m_objects.first());
+}
+
+QObject *HRControlTree::takeOnly()
+{
+    return m_objects.size() == 1 ? m_objects.takeFirst() : nullptr;
+}
+
 std::unique_ptr<HRXmlElement> readOnlyTree(
     const QString &filePath, HRXmlParser::Filter filter, const QString &key)
 {
     QString wanted = key;
     // What an error left open goes with the parser at the end of this line.
-    const QPointer<QObject> tree = TopLevel(filePath, filter, &wanted).takeOnly();
+    const QPointer<QObject> tree = HRControlTree(filePath, filter, &wanted).takeOnly();
     return std::unique_ptr<HRXmlElement>(qobject_cast<HRXmlElement *>(tree.data()));
 }
 
 QStringList keysOfControlFile(const QString &filePath)
 {
-    const TopLevel topLevel(filePath, HRIndex::indexDataShouldGenerateElement, nullptr);
-    if (!topLevel.first())
+    const HRControlTree tree(filePath, HRIndex::indexDataShouldGenerateElement, nullptr);
+    if (!tree.first())
         return {};
     QStringList keys;
-    for (const QObject *child : topLevel.first()->children()) {
+    for (const QObject *child : tree.first()->children()) {
         const auto *entry = qobject_cast<const HRXmlElement *>(child);
         if (entry && entry->hasAttribute(QStringLiteral("key")))
             keys.append(entry->attribute(QStringLiteral("key")));
@@ -82,11 +78,10 @@ QStringList keysOfControlFile(const QString &filePath)
 QMap<QString, QString> keyDataAttributes(const QString &filePath, const QString &key)
 {
     QString wanted = key;
-    const TopLevel topLevel(filePath, generateKeyDataElement, &wanted);
-    if (!topLevel.first() || topLevel.first()->children().isEmpty())
+    const HRControlTree tree(filePath, generateKeyDataElement, &wanted);
+    if (!tree.first() || tree.first()->children().isEmpty())
         return {};
-    const auto *element
-        = qobject_cast<const HRXmlElement *>(topLevel.first()->children().constFirst());
+    const auto *element = qobject_cast<const HRXmlElement *>(tree.first()->children().constFirst());
     if (!element)
         return {};
     QMap<QString, QString> attributes = attributesOf(*element);

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "content/HRXmlElement.h"
 #include "content/HRXmlParser.h"
 
 #include <QMap>
@@ -15,7 +16,25 @@ class QLocale;
 
 namespace Hintreels {
 
-class HRXmlElement;
+/// A file's top-level elements, which live as long as this; none where it cannot be read.
+class HRControlTree
+{
+public:
+    HRControlTree(const QString &filePath, HRXmlParser::Filter filter, void *data);
+    ~HRControlTree();
+    Q_DISABLE_COPY(HRControlTree)
+
+    /// Null where there are no elements.
+    HRXmlElement *first() const;
+
+    /// Hands out the only element, or null where there are others. After an error in the file it
+    /// goes with this object all the same, so the caller guards it.
+    QObject *takeOnly();
+
+private:
+    HRXmlParser m_parser; // deletes what an error left open, after the rest is gone
+    QList<QObject *> m_objects;
+};
 
 /// Reads a file's only top-level element with a filter that is told the key.
 ///

@@ -15,4 +15,11 @@ namespace Hintreels {
 /// Anything else is left alone: opening a named pipe would block the host.
 bool openRegularFile(QFile &file, const QString &path);
 
+/// Makes sure that a database's file is this user's own, where others can write to its directory.
+///
+/// Makes a missing file, readable and writable by the user alone. An existing one must be regular,
+/// no link, without a second name, and neither of another user nor writable by others; the same
+/// goes for the files that SQLite keeps beside it.
+bool takeOwnFile(const QString &path);
+
 } // namespace Hintreels

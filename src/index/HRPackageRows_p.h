@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QHash>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QString>
+
+#include <optional>
+
+namespace Hintreels {
+
+/// The keys of the rows in the table `packages`, by control file.
+///
+/// The table has no index on its paths, so asking it for each file costs time that grows with the
+/// square of the files. This copy is read once, and again only when another connection, or a
+/// statement on the schema, has changed the database.
+class HRPackageRows
+{
+public:
+    explicit HRPackageRows(const QSqlDatabase &database);
+
+    /// Makes the copy current; to be called when an update begins.
+    void refresh();
+
+    /// Makes the next refresh() read the table, whatever the versions say.
+    void forget() { m_readAtData = -1; }
+
+    std::optional<int> row(const QString &path) const;
+    void add(const QString &path, int row) { m_rows.insert(path, row); }
+
+private:
+    qint64 version(QSqlQuery &query);
+    void load();
+
+    QSqlDatabase m_database;
+    QSqlQuery m_dataVersion;
+    QSqlQuery m_schemaVersion;
+    QHash<QString, int> m_rows;
+    qint64 m_readAtData = -1;
+    qint64 m_readAtSchema = -1;
+};
+
+} // namespace Hintreels

@@ -1,0 +1,273 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "index/HRSQLiteIndex.h"
+
+#include "content/HRXmlElement.h"
+#include "context/HRContext.h"
+#include "context/HRSetting_p.h"
+#include "index/HRControlTree_p.h"
+#include "index/HRDirectoryDepth_p.h"
+#include "index/HRIndexDatabase_p.h"
+#include "index/HRIndexLookup_p.h"
+#include "index/HRIndexUpdate_p.h"
+#include "index/HRPackageRows_p.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLocale>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QVariant>
+
+#include <optional>
+
+namespace Hintreels {
+
+namespace {
+
+constexpr char PackagesTable[]
+    = "CREATE TABLE IF NOT EXISTS packages( pkey INTEGER PRIMARY KEY AUTOINCREMENT, ppath TEXT, "
+      "depth INTEGER )";
+constexpr char HintreelsTable[]
+    = "CREATE TABLE IF NOT EXISTS hintreels ( hrkey TEXT, tlocale TEXT, pkey INTEGER, PRIMARY "
+      "KEY(hrkey, tlocale ))";
+// The database can always be filled again, so speed counts for more than surviving a crash.
+constexpr const char *Pragmas[] = { "PRAGMA synchronous=OFF", "PRAGMA count_changes=OFF",
+    "PRAGMA journal_mode=MEMORY", "PRAGMA temp_store=MEMORY" };
+
+bool isUsableDirectory(const QString &path)
+{
+    return !path.isEmpty() && QFileInfo(path).isDir();
+}
+
+} // namespace
+
+struct HRSQLiteIndexPrivate
+{
+    HRIndexDatabase database;
+    QString path; // survives closing, so that the file can still be removed
+    std::optional<HRIndexLookup> lookup; // this and all that follows is gone while closed
+    std::optional<HRPackageRows> rows;
+    std::optional<HRIndexUpdate> update;
+};
+
+HRSQLiteIndex::HRSQLiteIndex(HRContext *context, const QStringList &paths)
+    : HRIndex(context, paths)
+    , d(new HRSQLiteIndexPrivate)
+{
+}
+
+HRSQLiteIndex::~HRSQLiteIndex()
+{
+    drop();
+}
+
+bool HRSQLiteIndex::open()
+{
+    HRIndex::open();
+    drop();
+    d->path.clear();
+    const QString path = databaseFilePath();
+    if (path.isEmpty())
+        return false;
+    if (openAt(path))
+        return true;
+    if (!d->database.isDamaged())
+        return false;
+    // A process that is killed while it fills the database may leave it damaged; without a new
+    // one no later start would come through.
+    return QFile::remove(path) && openAt(path);
+}
+
+bool HRSQLiteIndex::setup()
+{
+    if (!d->database.isOpen())
+        return HRIndex::setup();
+    if (!d->database.isSound())
+        return false;
+    // Taking the lock first makes one statement, and not each, wait for a locked database.
+    if (!d->update && !d->database.lock("Could not create package table:"))
+        return false;
+    HRIndex::setup();
+    const bool made = d->database.execute(PackagesTable, "Could not create package table:")
+        && d->database.execute(HintreelsTable, "Could not create hintreels table:");
+    if (!d->update)
+        d->database.handle().commit();
+    for (const char *pragma : Pragmas)
+        QSqlQuery(d->database.handle()).exec(QLatin1String(pragma));
+    return made && !d->database.isDamaged();
+}
+
+bool HRSQLiteIndex::clear()
+{
+    HRIndex::clear();
+    if (!d->database.isOpen())
+        return true;
+    d->database.execute("DROP TABLE IF EXISTS hintreels", "Could not drop package table:");
+    d->database.execute("DROP TABLE IF EXISTS packages", "Could not drop package table:");
+    if (d->rows)
+        d->rows->forget();
+    return true;
+}
+
+bool HRSQLiteIndex::close()
+{
+    drop();
+    if (setting(context(), removeIndexOnCloseKey, true))
+        remove();
+    return true;
+}
+
+bool HRSQLiteIndex::remove()
+{
+    // Not by way of close(), which calls this.
+    drop();
+    if (!d->path.isEmpty())
+        QFile::remove(d->path);
+    return true;
+}
+
+HRXmlElement *HRSQLiteIndex::retrieve(
+    const QString &key, const QLocale &locale, QString &directory, int &depth, HRXmlElement *&root)
+{
+    if (!d->database.isOpen())
+        return HRIndex::retrieve(key, locale, directory, depth, root);
+    if (!d->lookup)
+        d->lookup.emplace(d->database.handle());
+    const std::optional<HRIndexLookup::File> file = d->lookup->find(key, locale.name());
+    if (!file)
+        return nullptr;
+    depth = file->depth;
+    directory = QFileInfo(file->path).absolutePath();
+    qDebug().noquote() << QStringLiteral("SQL load from ") + file->path;
+    return load(key, file->path, locale, root);
+}
+
+bool HRSQLiteIndex::store(
+    HRXmlElement *entry, const QLocale &locale, const QString &filePath, int depth)
+{
+    if (!d->update || !entry)
+        return HRIndex::store(entry, locale, filePath, depth);
+    return d->update->store(
+        entry->attribute(QStringLiteral("key")), locale.name(), filePath, depth);
+}
+
+void HRSQLiteIndex::startUpdate()
+{
+    if (isInUpdate() || !d->database.isOpen())
+        return;
+    HRIndex::startUpdate();
+    if (!d->rows)
+        d->rows.emplace(d->database.handle());
+    d->update.emplace(d->database.handle(), *d->rows);
+}
+
+void HRSQLiteIndex::endUpdate()
+{
+    if (!isInUpdate() || !d->update)
+        return;
+    d->update->commit();
+    HRIndex::endUpdate();
+    d->update.reset();
+}
+
+QStringList HRSQLiteIndex::keys()
+{
+    if (!d->database.isOpen())
+        return HRIndex::keys();
+    QSqlQuery query(d->database.handle());
+    query.setForwardOnly(true);
+    if (!query.exec(QStringLiteral("SELECT hrkey FROM hintreels")))
+        reportSqlError("Could not retrieve keys:", query.lastError());
+    QStringList keys;
+    while (query.next())
+        keys.append(query.value(0).toString());
+    return keys;
+}
+
+void HRSQLiteIndex::indexControlFile(const QString &filePath, const QString &packagePath)
+{
+    const std::optional<int> depth = levelsBelowPackage(filePath, packagePath);
+    if (!depth)
+        return;
+    const HRControlTree tree(filePath, indexDataShouldGenerateElement, nullptr);
+    const HRXmlElement *root = tree.first();
+    if (!root)
+        return;
+    startUpdate();
+    const QLocale locale(root->attribute(QStringLiteral("locale")));
+    for (QObject *child : root->children()) {
+        auto *entry = qobject_cast<HRXmlElement *>(child);
+        if (entry && entry->hasAttribute(QStringLiteral("key")))
+            store(entry, locale, filePath, *depth);
+    }
+    endUpdate();
+}
+
+QString HRSQLiteIndex::databaseFilePath()
+{
+    QString directory = setting(context(), persistentDirectoryKey, QString());
+    if (!isUsableDirectory(directory))
+        directory = QDir::tempPath();
+    if (directory.isEmpty() || !QFileInfo::exists(directory)) {
+        qDebug().noquote() << "No persistent temp directory. Cannot create index database. Index "
+                              "will be disabled";
+        return QString();
+    }
+    QString name = setting(context(), indexFileNameKey, QString());
+    if (name.isEmpty()) {
+        const QString application = setting(context(), applicationNameKey, QString());
+        if (application.isEmpty()) {
+            qDebug().noquote() << "No Application name. Cannot create index database. Index will "
+                                  "be disabled";
+            return QString();
+        }
+        name = QStringLiteral("%1_%2_HRI.sqlite")
+                   .arg(setting(context(), organizationNameKey, QStringLiteral("Zentora")),
+                       application);
+    }
+    return QDir(directory).absoluteFilePath(name);
+}
+
+QStringList HRSQLiteIndex::tableNames() const
+{
+    return { QStringLiteral("packages"), QStringLiteral("hintreels") };
+}
+
+QSqlDatabase HRSQLiteIndex::database() const
+{
+    return d->database.handle();
+}
+
+bool HRSQLiteIndex::openAt(const QString &path)
+{
+    const QString connection
+        = setting(context(), indexConnectionKey, QStringLiteral("__Hintreels_Index__"));
+    qDebug().noquote() << QStringLiteral("Creating index database in ") + path;
+    if (!d->database.open(connection, path, tableNames())) {
+        if (!d->database.isDamaged())
+            qDebug().noquote() << "Could not open index database. Index will be disabled";
+        return false;
+    }
+    d->path = path;
+    if (setup())
+        return true;
+    drop();
+    d->path.clear(); // never to be removed: it may be another's
+    return false;
+}
+
+void HRSQLiteIndex::drop()
+{
+    // Queries go before their connection.
+    d->update.reset();
+    HRIndex::endUpdate();
+    d->rows.reset();
+    d->lookup.reset();
+    d->database.close();
+}
+
+} // namespace Hintreels

@@ -1,0 +1,761 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "content/HRXmlElement.h"
+#include "context/HRContext.h"
+#include "index/HRSQLiteIndex.h"
+#include "support/MessageGuard.h"
+#include "support/TestPackage.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QLocale>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QtTest>
+
+#include <unistd.h>
+
+using namespace Hintreels;
+
+class tst_HRSQLiteIndex : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void open_choosesTheFile_data();
+    void open_choosesTheFile();
+    void open_usesTheTemporaryDirectory_whenThereIsNoOther_data();
+    void open_usesTheTemporaryDirectory_whenThereIsNoOther();
+    void open_fails_withoutApplicationName();
+    void open_fails_withoutDirectory();
+    void open_refusesFilesThatOthersCouldHaveMade_data();
+    void open_refusesFilesThatOthersCouldHaveMade();
+    void open_refusesForeignSchemas_data();
+    void open_refusesForeignSchemas();
+    void open_makesAPrivateFile();
+    void open_makesADamagedDatabaseAnew_data();
+    void open_makesADamagedDatabaseAnew();
+    void open_leavesAFileAlone_thatIsNoDatabase();
+    void open_givesUpSoon_whenTheDatabaseIsLocked();
+    void open_clearsOrKeeps_asTheSettingSays_data();
+    void open_clearsOrKeeps_asTheSettingSays();
+    void schema_isFixed();
+    void closedIndex_leavesTheHostsDatabaseAlone();
+    void closedIndex_servesFromMemory();
+    void retrieve_tellsWhereTheEntryLies();
+    void retrieve_servesTheFileIndexedLast();
+    void retrieve_tellsPlace_whenTheFileHasLostTheKey();
+    void retrieve_reportsAMissingTable();
+    void fileWithoutLocale_servesCOnly();
+    void keys_areListedOncePerLocale();
+    void keys_ofAnEmptyDatabase_areNone();
+    void indexControlFile_storesEntriesUpToAnError();
+    void indexControlFile_passesOver_data();
+    void indexControlFile_passesOver();
+    void indexControlFile_keepsTheFirstDepth();
+    void indexControlFile_endsTheCallersUpdate();
+    void indexControlFile_seesRowsOfAnotherConnection();
+    void store_outsideAnUpdate_remembersTheFileInMemory();
+    void store_bindsValues();
+    void store_reportsAMissingTable();
+    void packageMap_staysEmpty();
+    void close_removesTheFile_asTheSettingSays_data();
+    void close_removesTheFile_asTheSettingSays();
+    void close_endsAnUpdate();
+    void remove_deletesTheFile_afterClosing();
+    void overrides_mayCallTheirBase();
+    void open_again_startsOver();
+};
+
+namespace {
+
+const QString Connection = "__Hintreels_Index__";
+
+struct Fixture
+{
+    explicit Fixture(bool open = true)
+    {
+        QDir().mkpath(databaseDirectory());
+        context.set(persistentDirectoryKey, databaseDirectory());
+        context.set(applicationNameKey, "Test");
+        if (open && !index.open())
+            qFatal("the index does not open");
+    }
+    ~Fixture() { index.close(); }
+
+    QString databaseDirectory() const { return packages.path() + "/db"; }
+    QString databaseFile() const { return databaseDirectory() + "/Zentora_Test_HRI.sqlite"; }
+
+    QString packagePath(const QString &package) const
+    {
+        return packages.path() + '/' + package + ".hintreels";
+    }
+
+    QString add(const QString &package, const QString &name, const QByteArray &entries,
+        const QByteArray &rootAttributes = "locale='en_US'")
+    {
+        const QString file = packages.writeControl(package, name, entries, rootAttributes);
+        index.indexControlFile(file, packagePath(package));
+        return file;
+    }
+
+    QString found(const QString &key, const QString &locale = "en_US")
+    {
+        HRXmlElement *root = nullptr;
+        HRXmlElement *entry = index.retrieve(key, QLocale(locale), directory, depth, root);
+        if (!entry)
+            return QString();
+        const std::unique_ptr<HRXmlElement> tree(root);
+        return entry->attribute("n");
+    }
+
+    QStringList rows(const QString &select)
+    {
+        QSqlQuery query(QSqlDatabase::database(Connection));
+        if (!query.exec(select))
+            qFatal("%s fails", qPrintable(select));
+        QStringList rows;
+        while (query.next())
+            rows.append(query.value(0).toString());
+        return rows;
+    }
+
+    MessageGuard messages;
+    TestPackages packages;
+    HRContext context;
+    HRSQLiteIndex index{ &context, {} };
+    QString directory;
+    int depth = -1;
+};
+
+/// Another program's connection to a database file.
+struct OtherConnection
+{
+    explicit OtherConnection(const QString &file)
+        : database(QSqlDatabase::addDatabase("QSQLITE", "other"))
+    {
+        database.setDatabaseName(file);
+        if (!database.open())
+            qFatal("cannot open %s", qPrintable(file));
+    }
+    ~OtherConnection()
+    {
+        database = QSqlDatabase();
+        QSqlDatabase::removeDatabase("other");
+    }
+    void execute(const QString &statement)
+    {
+        if (!QSqlQuery(database).exec(statement))
+            qFatal("%s fails", qPrintable(statement));
+    }
+
+    QSqlDatabase database;
+};
+
+const QString CouldNotOpen = "Could not open index database. Index will be disabled";
+
+} // namespace
+
+void tst_HRSQLiteIndex::open_choosesTheFile_data()
+{
+    QTest::addColumn<QString>("organization");
+    QTest::addColumn<QString>("application");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("file");
+    QTest::newRow("composed") << QString() << "Viewer"
+                              << ""
+                              << "Zentora_Viewer_HRI.sqlite";
+    QTest::newRow("organization") << "Us"
+                                  << "Viewer"
+                                  << ""
+                                  << "Us_Viewer_HRI.sqlite";
+    QTest::newRow("placeholders stay") << "%2"
+                                       << "%1"
+                                       << ""
+                                       << "%2_%1_HRI.sqlite";
+    QTest::newRow("name alone") << QString() << ""
+                                << "my.db"
+                                << "my.db";
+    QTest::newRow("relative name") << QString() << ""
+                                   << "../up.db"
+                                   << "../up.db";
+}
+
+void tst_HRSQLiteIndex::open_choosesTheFile()
+{
+    QFETCH(QString, organization);
+    QFETCH(QString, application);
+    QFETCH(QString, name);
+    QFETCH(QString, file);
+    Fixture fixture(false);
+    if (!organization.isNull())
+        fixture.context.set(organizationNameKey, organization);
+    fixture.context.set(applicationNameKey, application);
+    fixture.context.set(indexFileNameKey, name);
+    QVERIFY(fixture.index.open());
+    const QString path = fixture.databaseDirectory() + '/' + file;
+    QVERIFY(QFileInfo(path).isFile());
+    QCOMPARE(fixture.messages.takeMessages(), QStringList("Creating index database in " + path));
+}
+
+void tst_HRSQLiteIndex::open_usesTheTemporaryDirectory_whenThereIsNoOther_data()
+{
+    QTest::addColumn<QString>("directory");
+    QTest::newRow("none") << "";
+    QTest::newRow("not there") << "/nowhere/at/all";
+    QTest::newRow("a file") << "/etc/passwd";
+}
+
+void tst_HRSQLiteIndex::open_usesTheTemporaryDirectory_whenThereIsNoOther()
+{
+    QFETCH(QString, directory);
+    Fixture fixture(false);
+    fixture.context.set(persistentDirectoryKey, directory);
+    fixture.context.set(indexFileNameKey, "hr-test.sqlite");
+    const QByteArray before = qgetenv("TMPDIR");
+    qputenv("TMPDIR", QFile::encodeName(fixture.packages.path()));
+    const bool opened = fixture.index.open();
+    qputenv("TMPDIR", before);
+    QVERIFY(opened);
+    QVERIFY(QFileInfo(fixture.packages.path() + "/hr-test.sqlite").isFile());
+    fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndex::open_fails_withoutApplicationName()
+{
+    Fixture fixture(false);
+    fixture.context.set(applicationNameKey, "");
+    QVERIFY(!fixture.index.open());
+    QVERIFY(fixture.messages.take(
+        "No Application name. Cannot create index database. Index will be disabled"));
+}
+
+void tst_HRSQLiteIndex::open_fails_withoutDirectory()
+{
+    Fixture fixture(false);
+    fixture.context.set(persistentDirectoryKey, "");
+    const QByteArray before = qgetenv("TMPDIR");
+    qputenv("TMPDIR", "/nowhere/at/all");
+    const bool opened = fixture.index.open();
+    qputenv("TMPDIR", before);
+    QVERIFY(!opened);
+    QVERIFY(fixture.messages.take(
+        "No persistent temp directory. Cannot create index database. Index will be disabled"));
+}
+
+void tst_HRSQLiteIndex::open_refusesFilesThatOthersCouldHaveMade_data()
+{
+    QTest::addColumn<QString>("trap");
+    for (const char *trap : { "link", "dangling link", "second name", "writable by others",
+             "directory", "journal by link", "no directory" })
+        QTest::newRow(trap) << trap;
+}
+
+void tst_HRSQLiteIndex::open_refusesFilesThatOthersCouldHaveMade()
+{
+    QFETCH(QString, trap);
+    Fixture fixture(false);
+    const QString file = fixture.databaseFile();
+    const QString target = fixture.packages.write("target", "");
+    if (trap == "link")
+        QVERIFY(QFile::link(target, file));
+    else if (trap == "dangling link")
+        QVERIFY(QFile::link(target + "2", file));
+    else if (trap == "second name")
+        QCOMPARE(::link(qPrintable(target), qPrintable(file)), 0);
+    else if (trap == "directory")
+        QVERIFY(QDir().mkpath(file));
+    else if (trap == "journal by link")
+        QVERIFY(QFile::link(target, file + "-journal"));
+    else if (trap == "no directory")
+        fixture.context.set(indexFileNameKey, "none/x.sqlite");
+    else
+        QVERIFY(QFile(fixture.packages.write("db/Zentora_Test_HRI.sqlite", ""))
+                    .setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::WriteOther));
+    QVERIFY(!fixture.index.open());
+    QCOMPARE(fixture.messages.takeMessages().constLast(), CouldNotOpen);
+    QCOMPARE(QFileInfo(target).size(), qint64(0));
+    QVERIFY(!QFileInfo::exists(target + "2"));
+    QVERIFY(!QSqlDatabase::contains(Connection));
+}
+
+void tst_HRSQLiteIndex::open_refusesForeignSchemas_data()
+{
+    QTest::addColumn<QStringList>("statements");
+    const QString tables = "CREATE TABLE packages( pkey INTEGER PRIMARY KEY AUTOINCREMENT, ppath "
+                           "TEXT, depth INTEGER )";
+    QTest::newRow("table") << QStringList("CREATE TABLE songs (title TEXT)");
+    QTest::newRow("view") << QStringList(
+        "CREATE VIEW hintreels AS WITH RECURSIVE c(x) AS (SELECT 1 UNION ALL SELECT x+1 FROM c) "
+        "SELECT x AS hrkey FROM c");
+    QTest::newRow("trigger") << QStringList{ tables,
+        "CREATE TRIGGER t AFTER INSERT ON packages BEGIN INSERT INTO packages (ppath) VALUES "
+        "('x'); END" };
+    QTest::newRow("index") << QStringList{ tables, "CREATE INDEX i ON packages (ppath)" };
+}
+
+void tst_HRSQLiteIndex::open_refusesForeignSchemas()
+{
+    QFETCH(QStringList, statements);
+    Fixture fixture(false);
+    for (const QString &statement : statements)
+        OtherConnection(fixture.databaseFile()).execute(statement);
+    QVERIFY(!fixture.index.open());
+    QCOMPARE(fixture.messages.takeMessages().constLast(), CouldNotOpen);
+    QVERIFY(fixture.index.close());
+    QVERIFY(QFileInfo::exists(fixture.databaseFile()));
+    fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/>");
+    QCOMPARE(fixture.found("pen"), QString("1"));
+}
+
+void tst_HRSQLiteIndex::open_makesAPrivateFile()
+{
+    Fixture fixture;
+    const auto all = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther
+        | QFile::WriteOther | QFile::ExeOther;
+    QCOMPARE(QFile::permissions(fixture.databaseFile()) & all, QFile::Permissions());
+    fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndex::open_makesADamagedDatabaseAnew_data()
+{
+    QTest::addColumn<bool>("clear");
+    QTest::addColumn<int>("firstDamaged");
+    QTest::newRow("pages, cleared") << true << 4096;
+    QTest::newRow("pages, kept") << false << 4096;
+    QTest::newRow("header, cleared") << true << 16;
+    QTest::newRow("header, kept") << false << 16;
+    QTest::newRow("schema, kept") << false << 100;
+}
+
+void tst_HRSQLiteIndex::open_makesADamagedDatabaseAnew()
+{
+    QFETCH(bool, clear);
+    QFETCH(int, firstDamaged);
+    Fixture fixture;
+    fixture.context.set(removeIndexOnCloseKey, false);
+    fixture.context.set(clearIndexKey, clear);
+    for (int i = 0; i < 20; ++i)
+        fixture.add("A", QString::number(i) + ".xml", "<hintreel key='pen'/><hintreel key='x'/>");
+    fixture.index.close();
+    QFile file(fixture.databaseFile());
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    file.seek(firstDamaged);
+    file.write(QByteArray(int(file.size()) - firstDamaged, '\xa5'));
+    file.close();
+    QVERIFY(fixture.index.open());
+    fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/>");
+    QCOMPARE(fixture.found("pen"), QString("1"));
+    QCOMPARE(fixture.index.keys(), QStringList("pen"));
+    fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndex::open_leavesAFileAlone_thatIsNoDatabase()
+{
+    Fixture fixture(false);
+    const QByteArray letter("Dear diary, today I wrote no database at all. ");
+    fixture.packages.write("db/Zentora_Test_HRI.sqlite", letter.repeated(100));
+    QVERIFY(!fixture.index.open());
+    QCOMPARE(fixture.messages.takeMessages().constLast(), CouldNotOpen);
+    fixture.index.close();
+    QCOMPARE(QFileInfo(fixture.databaseFile()).size(), qint64(letter.size() * 100));
+}
+
+void tst_HRSQLiteIndex::open_givesUpSoon_whenTheDatabaseIsLocked()
+{
+    Fixture fixture;
+    fixture.context.set(removeIndexOnCloseKey, false);
+    fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/>");
+    fixture.index.close();
+    for (const char *lock : { "BEGIN IMMEDIATE", "BEGIN EXCLUSIVE" }) {
+        OtherConnection other(fixture.databaseFile());
+        other.execute(lock);
+        QElapsedTimer timer;
+        timer.start();
+        QVERIFY(!fixture.index.open());
+        QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+        QVERIFY(!QSqlDatabase::contains(Connection));
+    }
+    fixture.add("A", "a.xml", "<hintreel key='pen' n='2'/>");
+    QCOMPARE(fixture.found("pen"), QString("2"));
+    fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndex::open_clearsOrKeeps_asTheSettingSays_data()
+{
+    QTest::addColumn<QVariant>("clear");
+    QTest::addColumn<QStringList>("keys");
+    QTest::newRow("absent") << QVariant() << QStringList();
+    QTest::newRow("true") << QVariant(true) << QStringList();
+    QTest::newRow("false") << QVariant(false) << QStringList("pen");
+}
+
+void tst_HRSQLiteIndex::open_clearsOrKeeps_asTheSettingSays()
+{
+    QFETCH(QVariant, clear);
+    Fixture fixture;
+    fixture.context.set(removeIndexOnCloseKey, false);
+    if (clear.isValid())
+        fixture.context.set(clearIndexKey, clear);
+    fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/>");
+    fixture.index.close();
+    QVERIFY(fixture.index.open());
+    QTEST(fixture.index.keys(), "keys");
+    fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndex::schema_isFixed()
+{
+    Fixture fixture;
+    const QStringList expected{
+        "CREATE TABLE packages( pkey INTEGER PRIMARY KEY AUTOINCREMENT, ppath TEXT, depth INTEGER "
+        ")",
+        "CREATE TABLE hintreels ( hrkey TEXT, tlocale TEXT, pkey INTEGER, PRIMARY KEY(hrkey, "
+        "tlocale ))",
+    };
+    QCOMPARE(fixture.rows("SELECT sql FROM sqlite_master WHERE type = 'table' AND name NOT LIKE "
+                          "'sqlite%' ORDER BY rowid"),
+        expected);
+    QCOMPARE(fixture.rows("PRAGMA synchronous"), QStringList("0"));
+    QCOMPARE(fixture.rows("PRAGMA journal_mode"), QStringList("memory"));
+    QCOMPARE(fixture.rows("PRAGMA temp_store"), QStringList("2"));
+    fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndex::closedIndex_leavesTheHostsDatabaseAlone()
+{
+    Fixture fixture(false);
+    {
+        QSqlDatabase host = QSqlDatabase::addDatabase("QSQLITE");
+        host.setDatabaseName(":memory:");
+        QVERIFY(host.open());
+        QSqlQuery query(host);
+        QVERIFY(query.exec("CREATE TABLE packages (ppath TEXT)"));
+        QVERIFY(query.exec("CREATE TABLE hintreels (hrkey TEXT)"));
+        QVERIFY(query.exec("INSERT INTO hintreels VALUES ('host')"));
+    }
+    fixture.index.setup();
+    fixture.index.clear();
+    fixture.index.startUpdate();
+    fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/>");
+    QCOMPARE(fixture.found("pen"), QString("1"));
+    QCOMPARE(fixture.index.keys(), QStringList("pen"));
+    fixture.index.endUpdate();
+    QVERIFY(fixture.index.open());
+    fixture.index.close();
+    fixture.index.clear();
+    {
+        QSqlQuery query("SELECT hrkey FROM hintreels");
+        QVERIFY(query.next());
+        QCOMPARE(query.value(0).toString(), QString("host"));
+        QVERIFY(!query.next());
+    }
+    QSqlDatabase::removeDatabase(QSqlDatabase::database().connectionName());
+    fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndex::closedIndex_servesFromMemory()
+{
+    Fixture fixture(false);
+    fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/>");
+    fixture.add("A", "b.xml", "<hintreel key='pen' n='2'/><hintreel key='line' n='2'/>");
+    // In the order of indexing, unlike the index that keeps everything in memory.
+    QCOMPARE(fixture.found("pen"), QString("1"));
+    QCOMPARE(fixture.found("line"), QString("2"));
+    QCOMPARE(fixture.index.keys(), QStringList({ "pen", "pen", "line" }));
+}
+
+void tst_HRSQLiteIndex::retrieve_tellsWhereTheEntryLies()
+{
+    Fixture fixture;
+    fixture.messages.takeMessages();
+    const QString file = fixture.add("A", "%1.xml", "<hintreel key='pen' n='1'/>");
+    QCOMPARE(fixture.found("pen"), QString("1"));
+    QCOMPARE(fixture.directory, fixture.packagePath("A") + "/Control");
+    QCOMPARE(fixture.depth, 2);
+    QVERIFY(fixture.messages.take("SQL load from " + file));
+    QVERIFY(fixture.found("Pen").isNull());
+    QVERIFY(fixture.found("pen", "de_DE").isNull());
+}
+
+void tst_HRSQLiteIndex::retrieve_servesTheFileIndexedLast()
+{
+    Fixture fixture;
+    fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/><hintreel key='line' n='1'/>");
+    fixture.add("A", "b.xml", "<hintreel key='pen' n='2'/>");
+    QCOMPARE(fixture.found("pen"), QString("2"));
+    QCOMPARE(fixture.found("line"), QString("1"));
+    fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndex::retrieve_tellsPlace_whenTheFileHasLostTheKey()
+{
+    Fixture fixture;
+    fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/>");
+    fixture.packages.writeControl("A", "a.xml", "", "locale='en_US'");
+    QVERIFY(fixture.found("pen").isNull());
+    QCOMPARE(fixture.depth, 2);
+    QCOMPARE(fixture.directory, fixture.packagePath("A") + "/Control");
+    fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndex::retrieve_reportsAMissingTable()
+{
+    Fixture fixture;
+    fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/>");
+    QCOMPARE(fixture.found("pen"), QString("1"));
+    fixture.index.clear();
+    fixture.messages.takeMessages();
+    QVERIFY(fixture.found("pen").isNull());
+    QVERIFY(fixture.index.keys().isEmpty());
+    const QString messages = fixture.messages.takeMessages().join('\n');
+    for (const char *message :
+        { "Could not select element:", "Could not retrieve item:", "Could not retrieve keys:" })
+        QVERIFY2(messages.contains(message), qPrintable(messages));
+    QVERIFY(fixture.index.setup());
+    fixture.add("A", "a.xml", "<hintreel key='pen' n='2'/>");
+    QCOMPARE(fixture.found("pen"), QString("2"));
+    fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndex::fileWithoutLocale_servesCOnly()
+{
+    Fixture fixture;
+    fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/>", "");
+    QVERIFY(fixture.found("pen").isNull());
+    QCOMPARE(fixture.found("pen", "C"), QString("1"));
+    fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndex::keys_areListedOncePerLocale()
+{
+    Fixture fixture;
+    fixture.add("A", "a.xml", "<hintreel key='pen'/><hintreel key='pen'/><hintreel/>");
+    fixture.add("A", "b.xml", "<hintreel key='pen'/>");
+    fixture.add("A", "c.xml", "<hintreel key='pen'/>", "locale='de_DE'");
+    QCOMPARE(fixture.index.keys(), QStringList({ "pen", "pen" }));
+    fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndex::keys_ofAnEmptyDatabase_areNone()
+{
+    Fixture fixture;
+    const QString file = fixture.packages.writeControl("A", "a.xml", "<hintreel key='pen'/>");
+    fixture.index.store(nullptr, QLocale(), file, 1);
+    QCOMPARE(fixture.index.keys(), QStringList());
+    fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndex::indexControlFile_storesEntriesUpToAnError()
+{
+    Fixture fixture;
+    const QString file = fixture.packages.write("A.hintreels/a.xml",
+        "<hintreels locale='en_US'><hintreel key='pen'/><hintreel key='line'></hintreels>");
+    fixture.index.indexControlFile(file, fixture.packagePath("A"));
+    QCOMPARE(fixture.index.keys(), QStringList({ "line", "pen" }));
+    fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndex::indexControlFile_passesOver_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("package");
+    QTest::newRow("file outside the package") << "A.hintreels/Control/a.xml"
+                                              << "B.hintreels";
+    QTest::newRow("name that begins alike") << "A.hintreels/Control/a.xml"
+                                            << "A.hint";
+    QTest::newRow("file that is not there") << "A.hintreels/none.xml"
+                                            << "A.hintreels";
+    QTest::newRow("other root") << "A.hintreels/other.xml"
+                                << "A.hintreels";
+}
+
+void tst_HRSQLiteIndex::indexControlFile_passesOver()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, package);
+    Fixture fixture;
+    fixture.packages.writeControl("A", "a.xml", "<hintreel key='pen'/>");
+    fixture.packages.write("A.hintreels/other.xml", "<other key='a'><x key='pen'/></other>");
+    fixture.packages.write("B.hintreels/b.xml", "");
+    const QString base = fixture.packages.path() + '/';
+    fixture.index.indexControlFile(base + file, base + package);
+    QVERIFY(fixture.index.keys().isEmpty());
+    fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndex::indexControlFile_keepsTheFirstDepth()
+{
+    Fixture fixture;
+    const QString file = fixture.packages.write("A.hintreels/B.hintreels/a.xml",
+        "<hintreels locale='en_US'><hintreel key='pen' n='1'/></hintreels>");
+    fixture.index.indexControlFile(file, fixture.packagePath("A"));
+    fixture.index.indexControlFile(file, fixture.packagePath("A/B"));
+    fixture.index.indexControlFile(file, fixture.packagePath("A") + "/B.hintreels");
+    QCOMPARE(fixture.found("pen"), QString("1"));
+    QCOMPARE(fixture.depth, 2);
+    QCOMPARE(fixture.rows("SELECT ppath FROM packages"), QStringList(file));
+    fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndex::indexControlFile_endsTheCallersUpdate()
+{
+    Fixture fixture;
+    fixture.index.startUpdate();
+    fixture.index.startUpdate();
+    fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/>");
+    HRXmlElement entry;
+    entry.setAttribute("key", "line");
+    fixture.index.store(&entry, QLocale("en_US"), "/x.xml", 1);
+    QCOMPARE(fixture.index.keys(), QStringList("pen"));
+    fixture.index.endUpdate();
+    fixture.add("A", "b.xml", "<hintreel key='ink' n='1'/>");
+    QCOMPARE(fixture.index.keys(), QStringList({ "ink", "pen" }));
+    fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndex::indexControlFile_seesRowsOfAnotherConnection()
+{
+    Fixture fixture;
+    const QString file = fixture.add("A", "a.xml", "<hintreel key='pen'/>");
+    OtherConnection other(fixture.databaseFile());
+    other.execute("UPDATE packages SET pkey = 77");
+    other.execute("INSERT INTO packages (ppath, depth) VALUES ('/b.xml', 4)");
+    fixture.index.indexControlFile(file, fixture.packagePath("A"));
+    QCOMPARE(fixture.rows("SELECT pkey FROM hintreels"), QStringList("77"));
+    QCOMPARE(fixture.rows("SELECT COUNT(*) FROM packages"), QStringList("2"));
+    fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndex::store_outsideAnUpdate_remembersTheFileInMemory()
+{
+    Fixture fixture;
+    const QString file = fixture.packages.writeControl("A", "a.xml", "<hintreel key='pen' n='1'/>");
+    HRXmlElement entry;
+    entry.setAttribute("key", "pen");
+    QVERIFY(fixture.index.store(&entry, QLocale("en_US"), file, 2));
+    QVERIFY(fixture.index.keys().isEmpty());
+    fixture.index.close();
+    QCOMPARE(fixture.found("pen"), QString("1"));
+    fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndex::store_bindsValues()
+{
+    Fixture fixture;
+    const QString key = "'); DROP TABLE hintreels; --";
+    fixture.add("A", "it's %1.xml", "<hintreel key=\"" + key.toUtf8() + "\" n='1'/>");
+    QCOMPARE(fixture.found(key), QString("1"));
+    QCOMPARE(fixture.index.keys(), QStringList(key));
+    fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndex::store_reportsAMissingTable()
+{
+    Fixture fixture;
+    fixture.index.clear();
+    fixture.messages.takeMessages();
+    fixture.index.startUpdate();
+    HRXmlElement entry;
+    entry.setAttribute("key", "pen");
+    QVERIFY(!fixture.index.store(&entry, QLocale("en_US"), "/a.xml", 1));
+    const QString messages = fixture.messages.takeMessages().join('\n');
+    for (const char *message : { "Could not prepare package select query:no such table",
+             "Could not prepare package insert query:no such table",
+             "Could not prepare hintreel replace query:no such table",
+             "Could not query package table:no such table",
+             "Could not insert package:", "Could not insert item:" })
+        QVERIFY2(messages.contains(message), qPrintable(messages));
+    fixture.index.endUpdate();
+}
+
+void tst_HRSQLiteIndex::packageMap_staysEmpty()
+{
+    Fixture fixture;
+    fixture.add("A", "a.xml", "<hintreel key='pen'/>");
+    QVERIFY(fixture.index.componentPathsForPackageNamed("A").isEmpty());
+    fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndex::close_removesTheFile_asTheSettingSays_data()
+{
+    QTest::addColumn<QVariant>("remove");
+    QTest::addColumn<bool>("exists");
+    QTest::newRow("absent") << QVariant() << false;
+    QTest::newRow("true") << QVariant(true) << false;
+    QTest::newRow("false") << QVariant(false) << true;
+}
+
+void tst_HRSQLiteIndex::close_removesTheFile_asTheSettingSays()
+{
+    QFETCH(QVariant, remove);
+    Fixture fixture;
+    if (remove.isValid())
+        fixture.context.set(removeIndexOnCloseKey, remove);
+    QVERIFY(fixture.index.close());
+    QTEST(QFileInfo::exists(fixture.databaseFile()), "exists");
+    QVERIFY(!QSqlDatabase::contains(Connection));
+    fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndex::close_endsAnUpdate()
+{
+    Fixture fixture;
+    fixture.index.startUpdate();
+    fixture.index.close();
+    QVERIFY(fixture.index.open());
+    fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/>");
+    QCOMPARE(fixture.found("pen"), QString("1"));
+    fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndex::remove_deletesTheFile_afterClosing()
+{
+    Fixture fixture;
+    fixture.context.set(removeIndexOnCloseKey, false);
+    QVERIFY(fixture.index.close());
+    QVERIFY(QFileInfo::exists(fixture.databaseFile()));
+    QVERIFY(fixture.index.remove());
+    QVERIFY(!QFileInfo::exists(fixture.databaseFile()));
+    QVERIFY(fixture.index.remove());
+    fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndex::overrides_mayCallTheirBase()
+{
+    class Override : public HRSQLiteIndex
+    {
+    public:
+        using HRSQLiteIndex::HRSQLiteIndex;
+        bool close() override { return ++closes < 10 && HRSQLiteIndex::close(); }
+        bool remove() override { return ++removes < 10 && HRSQLiteIndex::remove(); }
+        int closes = 0;
+        int removes = 0;
+    };
+    Fixture fixture(false);
+    Override index(&fixture.context, {});
+    QVERIFY(index.open());
+    QVERIFY(index.close());
+    QCOMPARE(index.closes, 1);
+    QCOMPARE(index.removes, 1);
+    QVERIFY(!QFileInfo::exists(fixture.databaseFile()));
+    fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndex::open_again_startsOver()
+{
+    Fixture fixture;
+    fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/>");
+    QCOMPARE(fixture.found("pen"), QString("1"));
+    QVERIFY(fixture.index.open());
+    QVERIFY(fixture.index.keys().isEmpty());
+    const QStringList messages = fixture.messages.takeMessages();
+    QCOMPARE(messages.filter("still in use"), QStringList());
+    QCOMPARE(messages.filter("duplicate connection"), QStringList());
+}
+
+QTEST_GUILESS_MAIN(tst_HRSQLiteIndex)
+#include "tst_HRSQLiteIndex.moc"
