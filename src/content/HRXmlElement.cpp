@@ -112,6 +112,8 @@ HRXmlElement::HRXmlElement(QObject *parent, const QXmlAttributes &attrs)
     : QObject(parent)
     , d(std::make_unique<HRXmlElementPrivate>())
 {
+    // QML finds the type that childElement() returns by its written name.
+    qRegisterMetaType<HRXmlElement *>();
     for (int i = 0; i < attrs.length(); ++i)
         d->attributes.insert(attrs.qName(i), attrs.value(i));
 }

@@ -3,6 +3,7 @@
 
 #include "content/HRXmlParser.h"
 
+#include "content/HRXmlDocument_p.h"
 #include "content/HRXmlElement.h"
 
 #include <QDebug>
@@ -98,6 +99,7 @@ struct HRXmlParserPrivate
     void *context;
     QVector<OpenElement> stack; // the root comes first
     int mode; // of the elements read next
+    std::unique_ptr<HRXmlDocument> document; // the one read last, or being read
 
     int answerFor(const QString &qName, const QXmlAttributes &attributes) const
     {
@@ -129,7 +131,7 @@ struct HRXmlParserPrivate
 
 HRXmlParser::HRXmlParser(Filter callback, void *context)
     : d(new HRXmlParserPrivate{
-        {}, &HRXmlElement::staticMetaObject, callback, context, {}, askMode })
+        {}, &HRXmlElement::staticMetaObject, callback, context, {}, askMode, nullptr })
 {
 }
 
@@ -170,7 +172,9 @@ QList<QObject *> HRXmlParser::read(const QXmlInputSource *source)
     d->push(new HRXmlElement, askMode);
     setContentHandler(this);
     setErrorHandler(this);
-    parse(source);
+    watchEntities();
+    d->document = std::make_unique<HRXmlDocument>(const_cast<QXmlInputSource *>(source));
+    parse(d->document.get());
 
     QObject *root = d->stack.first().object;
     if (!root)
@@ -190,6 +194,8 @@ QList<QObject *> HRXmlParser::read(const QXmlInputSource &source)
 bool HRXmlParser::startElement(const QString &namespaceURI, const QString &localName,
     const QString &qName, const QXmlAttributes &attributes)
 {
+    if (!d->document->guard().allowsElement())
+        return false;
     if (d->mode & skipMode) {
         d->push(nullptr, skipMode);
         return true;
@@ -235,11 +241,39 @@ bool HRXmlParser::ignorableWhitespace(const QString &text)
 
 bool HRXmlParser::fatalError(const QXmlParseException &exception)
 {
+    const QString refusal = d->document->guard().refusal();
     qDebug().noquote() << QStringLiteral("Fatal error at %1,%2 : %3")
                               .arg(exception.lineNumber())
                               .arg(exception.columnNumber())
-                              .arg(exception.message());
+                              .arg(refusal.isEmpty() ? exception.message() : refusal);
     return false;
+}
+
+bool HRXmlParser::startPrefixMapping(const QString &prefix, const QString &)
+{
+    return d->document->guard().allowsPrefix(prefix);
+}
+
+bool HRXmlParser::internalEntityDecl(const QString &name, const QString &value)
+{
+    return d->document->guard().allowsEntity(name, value);
+}
+
+bool HRXmlParser::startEntity(const QString &name)
+{
+    return d->document->guard().allowsExpansion(name);
+}
+
+bool HRXmlParser::endDTD()
+{
+    return d->document->guard().allowsBody(d->document->unread());
+}
+
+void HRXmlParser::watchEntities()
+{
+    setDeclHandler(this);
+    setLexicalHandler(this);
+    setFeature(QStringLiteral("http://qt-project.org/xml/features/report-start-end-entity"), true);
 }
 
 } // namespace Hintreels

@@ -79,6 +79,14 @@ private:
     bool ignorableWhitespace(const QString &text) override;
     bool fatalError(const QXmlParseException &exception) override;
 
+    // What could exhaust the host is refused here.
+    bool startPrefixMapping(const QString &prefix, const QString &uri) override;
+    bool internalEntityDecl(const QString &name, const QString &value) override;
+    bool startEntity(const QString &name) override;
+    bool endDTD() override;
+
+    void watchEntities();
+
     std::unique_ptr<HRXmlParserPrivate> d;
 };
 

@@ -5,6 +5,7 @@
 
 #include "context/HRSetting_p.h"
 #include "manager/HRManager.h"
+#include "ui/HRContentReader_p.h"
 #include "ui/HRContentTree_p.h"
 #include "ui/HRPointerWatch_p.h"
 #include "ui/HRPopupFade_p.h"
@@ -16,6 +17,7 @@
 #include <QApplication>
 #include <QCursor>
 #include <QFileInfo>
+#include <QLocale>
 #include <QPointer>
 #include <QQmlContext>
 #include <QQuickItem>
@@ -117,8 +119,12 @@ void HRWidgetPrivate::setContextProperties(HRXmlElement *content, const QString 
     context->setContextProperty(QStringLiteral("hintreel"), content);
     context->setContextProperty(QStringLiteral("dataLocation"), rootPath);
     // Once for each view, since the context keeps a connection for every object that it is given.
-    if (!context->contextProperty(QStringLiteral("hintreelView")).isValid())
-        context->setContextProperty(QStringLiteral("hintreelView"), view.data());
+    if (context->contextProperty(QStringLiteral("hintreelView")).isValid())
+        return;
+    context->setContextProperty(QStringLiteral("hintreelView"), view.data());
+    const auto currentLocale = [m = manager] { return m ? m->currentLocale() : QLocale::system(); };
+    context->setContextProperty(
+        QStringLiteral("hintreelReader"), new HRContentReader(currentLocale, view));
 }
 
 /// So that the popup does not appear in another size first, and sticks out of the screen.

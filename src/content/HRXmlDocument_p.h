@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "content/HRXmlGuard_p.h"
+
+#include <QString>
+#include <QXmlInputSource>
+
+namespace Hintreels {
+
+/// A document that is held whole, with the guard of its reading.
+///
+/// The reader takes it character by character; it ends early once the reader has nested too deeply.
+class HRXmlDocument : public QXmlInputSource
+{
+public:
+    /// Takes over all that is left in the source, piece by piece.
+    explicit HRXmlDocument(QXmlInputSource *source);
+
+    HRXmlGuard &guard() { return m_guard; }
+
+    QChar next() override;
+
+    /// What the reader has not taken yet.
+    QStringRef unread() const { return m_text.midRef(m_position); }
+
+private:
+    QString m_text;
+    int m_position = 0;
+    HRXmlGuard m_guard;
+};
+
+} // namespace Hintreels

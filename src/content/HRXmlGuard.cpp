@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "content/HRXmlGuard_p.h"
+
+namespace Hintreels {
+
+namespace {
+
+// Half of the smallest stack that a thread usually has; about 1,500 nested elements.
+const quintptr stackBytes = 512 * 1024;
+
+// An element takes four characters or more. So many that there are more come out of entities, where
+// a short text can stand for a great number of them.
+const int charactersPerElement = 4;
+const int alwaysAllowedElements = 50000;
+
+// At each end of an element the reader compares all prefixes in scope with each other.
+const int maximumPrefixes = 32;
+const int maximumPrefixLength = 64;
+
+// Groups are read by recursion, which is out of sight where they stand in an entity.
+const int maximumGroups = 256;
+
+const char *const nestingReason = "elements are nested too deeply";
+const char *const expansionReason = "entities expand to too much text";
+
+} // namespace
+
+HRXmlGuard::HRXmlGuard(int documentSize)
+    : m_stack(stackBytes)
+    , m_entities(documentSize)
+    , m_elementsLeft(qMax(documentSize / charactersPerElement, alwaysAllowedElements))
+{
+}
+
+bool HRXmlGuard::allowsNesting()
+{
+    return refuseUnless(m_stack.isLeft(), nestingReason);
+}
+
+bool HRXmlGuard::allowsElement()
+{
+    return allowsNesting() && refuseUnless(m_elementsLeft-- > 0, expansionReason);
+}
+
+bool HRXmlGuard::allowsPrefix(const QString &prefix)
+{
+    m_prefixes.insert(prefix);
+    return refuseUnless(
+        m_prefixes.size() <= maximumPrefixes && prefix.size() <= maximumPrefixLength,
+        "too many or too long namespace prefixes");
+}
+
+bool HRXmlGuard::allowsEntity(const QString &name, const QString &value)
+{
+    const bool isParameter = name.startsWith(QLatin1Char('%'));
+    const bool isFlat = !isParameter || value.count(QLatin1Char('(')) <= maximumGroups;
+    return refuseUnless(isFlat, nestingReason)
+        && refuseUnless(m_entities.declare(name.mid(isParameter ? 1 : 0), value),
+            "too many entities are declared");
+}
+
+bool HRXmlGuard::allowsExpansion(const QString &name)
+{
+    return refuseUnless(m_entities.spend(name), expansionReason);
+}
+
+bool HRXmlGuard::allowsBody(const QStringRef &body)
+{
+    return refuseUnless(m_entities.covers(body), expansionReason);
+}
+
+bool HRXmlGuard::refuseUnless(bool isAllowed, const char *reason)
+{
+    if (!isAllowed)
+        m_refusal = QLatin1String(reason);
+    return isAllowed;
+}
+
+} // namespace Hintreels

@@ -1,0 +1,355 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "manager/HRManager.h"
+
+#include "content/HRXmlElement.h"
+#include "context/HRSetting_p.h"
+#include "index/HRIndex.h"
+#include "interface/HRInterface.h"
+#include "manager/HRContentLookup_p.h"
+#include "manager/HRExternalResource_p.h"
+#include "manager/HRInterpolation_p.h"
+#include "manager/HRPackageScanner_p.h"
+#include "manager/HRPopupPresenter_p.h"
+#include "manager/HRReservedPopups_p.h"
+#include "manager/HRTranslation_p.h"
+#include "ui/HRQmlTypes_p.h"
+#include "ui/HRView.h"
+#include "ui/HRWidget.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QHelpEvent>
+#include <QMouseEvent>
+
+#include <limits>
+
+namespace Hintreels {
+
+struct HRManagerPrivate
+{
+    HRManagerPrivate(HRManager *manager, HRInterface *host, const HRContext &hostContext,
+        const QStringList &paths, HRIndex *hostIndex)
+        : interface(host)
+        , dataPaths(paths)
+        , context(hostContext)
+        , index(hostIndex ? hostIndex : new HRIndex(&context, paths))
+        , scanner(context, *index, reporterOf(manager))
+        , lookup(context, *index, reporterOf(manager))
+        , presenter(context, *host, lookup)
+        , translation(manager)
+    {
+    }
+
+    static HRPackageScanner::Report reporterOf(HRManager *manager)
+    {
+        return [manager](const QString &text) { manager->handleMessage(messageInformation, text); };
+    }
+
+    HRInterface *interface;
+    QStringList dataPaths;
+    HRContext context;
+    HRIndex *index; // never deleted: detached popups ask it for components
+    HRPackageScanner scanner;
+    HRContentLookup lookup;
+    HRPopupPresenter presenter;
+    HRReservedPopups reservedPopups;
+    HRTranslation translation;
+    QMap<QString, QVariant> globalProperties;
+    bool applicationFilterInstalled = false;
+    float scale = 1.0F;
+};
+
+namespace {
+
+void setAlwaysShowToolTips(bool on)
+{
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (QWidget *widget : widgets)
+        widget->setAttribute(Qt::WA_AlwaysShowToolTips, on);
+}
+
+HRWidget *createPopup(HRManager *manager)
+{
+    auto *popup = new HRWidget(manager, nullptr, nullptr);
+    auto *view = new HRView(manager, nullptr);
+    QWidget *container = QWidget::createWindowContainer(view, popup);
+    auto *layout = new QHBoxLayout(popup);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(container);
+    popup->SetContainerWidget(container);
+    popup->setView(view);
+    return popup;
+}
+
+} // namespace
+
+HRManager::HRManager(
+    HRInterface *interface, HRContext &context, const QStringList &dataPaths, HRIndex *index)
+    : d(std::make_unique<HRManagerPrivate>(this, interface, context, dataPaths, index))
+{
+    d->index->open();
+    if (setting(d->context, alwaysShowToolTipsKey, false))
+        setAlwaysShowToolTips(true);
+
+    QElapsedTimer timer;
+    timer.start();
+    loadDataPath(dataPaths);
+    handleMessage(messageInformation,
+        QString("Indexed packages in %1 seconds").arg(timer.elapsed() / 1000.0));
+
+    registerQmlTypes();
+    if (setting(d->context, applicationFilterKey, false)) {
+        qApp->installEventFilter(this);
+        d->applicationFilterInstalled = true;
+    }
+    d->scale = float(setting(d->context, scaleKey, 1.0));
+}
+
+HRManager::~HRManager()
+{
+    if (d->applicationFilterInstalled)
+        qApp->removeEventFilter(this);
+    setAlwaysShowToolTips(false);
+    if (d->presenter.popup())
+        d->presenter.popup()->deleteLater();
+}
+
+HRContext &HRManager::context()
+{
+    return d->context;
+}
+
+const HRContext &HRManager::context() const
+{
+    return d->context;
+}
+
+HRIndex *HRManager::index() const
+{
+    return d->index;
+}
+
+HRInterface *HRManager::interface() const
+{
+    return d->interface;
+}
+
+HRWidget *HRManager::widget() const
+{
+    return d->presenter.popup();
+}
+
+QStringList HRManager::searchPaths() const
+{
+    return d->dataPaths;
+}
+
+void HRManager::loadDataPath(const QStringList &paths)
+{
+    d->scanner.scanDataPaths(paths);
+}
+
+void HRManager::loadPackage(const QFileInfo &package)
+{
+    d->scanner.scanPackage(package);
+}
+
+void HRManager::indexControFile(const QString &controlFile, const QString &package)
+{
+    d->index->indexControlFile(controlFile, package);
+}
+
+void HRManager::handleMessage(HRMessageType type, const QString &message)
+{
+    if (setting(d->context, messageLevelKey, int(messageWarning)) >= int(type))
+        d->interface->handleMessage(type, message);
+}
+
+QLocale HRManager::currentLocale() const
+{
+    for (const contextKey key : { localeKey, fallbackLocaleKey }) {
+        const QString name = setting(d->context, key, QString());
+        if (!name.isEmpty())
+            return QLocale(name);
+    }
+    return QLocale::system();
+}
+
+QString HRManager::translateString(const QString &text, const QString &context)
+{
+    if (!widget() || !widget()->view())
+        return text;
+    const QString baseName = setting(d->context, translationBaseNameKey, QString("Hintreels"));
+    const QString fileName = QString("%1_%2.qm").arg(baseName, currentLocale().name());
+    const QString path
+        = widget()->view()->findComponent("l10n_name", translationDirectoryKey, "l10n", fileName);
+    return d->translation.translate(path, text, context);
+}
+
+HRXmlElement *HRManager::retrieve(
+    const QString &key, QString &path, int &depth, HRXmlElement *&root)
+{
+    const HRFoundContent found = d->lookup.find(key);
+    path = found.path;
+    depth = found.depth;
+    root = found.root;
+    return found.element;
+}
+
+bool HRManager::show(const QString &key, const QPoint &globalPos, QObject *object)
+{
+    handleMessage(messageInformation, "looking for Hintreel for key:" + key);
+    if (setting(d->context, disabledKey, false))
+        return false;
+    const int modifiers = setting(d->context, modifierKey, 0);
+    if (modifiers != 0 && int(QGuiApplication::keyboardModifiers()) != modifiers)
+        return false;
+    initializeTooltipWindow();
+    return d->presenter.show({ key, globalPos, object });
+}
+
+QString HRManager::keyForObject(QObject *object)
+{
+    return d->interface->keyForObject(object);
+}
+
+QStringList HRManager::keys()
+{
+    return d->index->keys();
+}
+
+QPoint HRManager::tooltipPosition(const QPoint &globalPos, QWidget *) const
+{
+    return d->presenter.position(globalPos);
+}
+
+void HRManager::initializeTooltipWindow()
+{
+    if (!d->presenter.popup())
+        d->presenter.setPopup(createPopup(this));
+}
+
+bool HRManager::reserve(HRWidget *widget, QWidget *&window)
+{
+    if (!widget || widget != d->presenter.popup())
+        return false;
+    window = d->interface->createWindow(reservedPopupWindow);
+    d->reservedPopups.append(widget);
+    d->presenter.setPopup(nullptr);
+    initializeTooltipWindow();
+    return true;
+}
+
+void HRManager::raise()
+{
+    d->reservedPopups.raise();
+}
+
+void HRManager::setStayOnTop(bool on)
+{
+    d->reservedPopups.setStayOnTop(on);
+}
+
+bool HRManager::openExternalResource(const QString &resource)
+{
+    const HRExternalResourceType type = externalResourceType(resource);
+    const contextKey permission
+        = type == resourceName ? allowNamedResourcesKey : allowUrlResourcesKey;
+    return setting(d->context, permission, true)
+        && d->interface->openExternalResource(type, resource);
+}
+
+bool HRManager::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::ToolTip:
+        return show(keyForObject(watched), static_cast<QHelpEvent *>(event)->globalPos(), watched);
+    case QEvent::ApplicationDeactivate:
+        if (widget())
+            widget()->hide();
+        break;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+        mouseButtonEventFilter(watched, static_cast<QMouseEvent *>(event));
+        break;
+    case QEvent::MouseMove:
+        mouseMoveEventFilter(watched, static_cast<QMouseEvent *>(event));
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+bool HRManager::mouseMoveEventFilter(QObject *, QMouseEvent *event)
+{
+    if (d->presenter.isPopupVisible())
+        widget()->checkMousePosition(event->globalPos());
+    return false;
+}
+
+bool HRManager::mouseButtonEventFilter(QObject *watched, QMouseEvent *)
+{
+    const auto *target = qobject_cast<QWidget *>(watched);
+    if (!target || !d->presenter.isPopupVisible())
+        return false;
+    HRWidget *popup = widget();
+    if (popup == target || popup->isAncestorOf(target))
+        return false;
+    if (popup->view()->stayOpen())
+        popup->activateWindow();
+    else
+        popup->hide();
+    return false;
+}
+
+QString HRManager::interpolate(const QString &text, const QMap<QString, QVariant> &values) const
+{
+    return interpolated(text, values);
+}
+
+QString HRManager::interpolate(const QString &text) const
+{
+    return interpolated(text, d->globalProperties);
+}
+
+void HRManager::setGlobalProperty(const QString &name, const QVariant &value)
+{
+    d->globalProperties.insert(name, value);
+}
+
+QString HRManager::hintreelAttribute(
+    const QString &key, const QString &attribute, const QString &defaultValue)
+{
+    const auto valueOf = [&](const HRXmlElement &element) {
+        return element.hasAttribute(attribute) ? element.attribute(attribute) : defaultValue;
+    };
+    if (const HRXmlElement *shown = shownContent(widget(), key))
+        return valueOf(*shown);
+    if (const HRXmlElement *reserved = d->reservedPopups.content(key))
+        return valueOf(*reserved);
+    HRFoundContent found = d->lookup.find(key);
+    const QString value = found.element ? valueOf(*found.element) : defaultValue;
+    found.discard();
+    return value;
+}
+
+int HRManager::getScaledSize(int size) const
+{
+    if (d->scale == 0.0F)
+        return size;
+    // Clamped below the limits of int, which single precision cannot hold exactly.
+    constexpr float limit = float(std::numeric_limits<int>::max() - 127);
+    return int(qBound(-limit, d->scale * float(size), limit));
+}
+
+float HRManager::realScaleValue() const
+{
+    return d->scale;
+}
+
+} // namespace Hintreels

@@ -1,0 +1,108 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "manager/HRPopupPresenter_p.h"
+
+#include "content/HRXmlElement.h"
+#include "context/HRSetting_p.h"
+#include "interface/HRInterface.h"
+#include "ui/HRView.h"
+
+namespace Hintreels {
+
+namespace {
+
+// Frees the whole tree that a view shows, unless it is that of the element it shows next.
+void discardShownContent(HRView *view, const HRXmlElement *next)
+{
+    HRXmlElement *content = view->content();
+    if (!content || content == next)
+        return;
+    view->setContent(nullptr);
+    delete (content->parent() ? content->parent() : content);
+}
+
+} // namespace
+
+HRXmlElement *shownContent(const HRWidget *popup, const QString &key)
+{
+    HRXmlElement *content = popup && popup->view() ? popup->view()->content() : nullptr;
+    const bool isWanted
+        = content && content->hasAttribute("key") && content->attribute("key") == key;
+    return isWanted ? content : nullptr;
+}
+
+HRPopupPresenter::HRPopupPresenter(
+    const HRContext &context, HRInterface &interface, const HRContentLookup &lookup)
+    : m_context(context)
+    , m_interface(interface)
+    , m_lookup(lookup)
+{
+}
+
+bool HRPopupPresenter::show(const HRHover &hover)
+{
+    if (keepsShowing(hover.key))
+        return true;
+    HRFoundContent found = m_lookup.find(hover.key);
+    if (!found.element && keepsShowing(m_lookup.fallbackKey()))
+        return true;
+    if (!found.element)
+        found = m_lookup.findFallback();
+    if (!found) {
+        found.discard();
+        return keepOrHide(hover);
+    }
+    if (!isPopupVisible() || m_popup->view()->content() != found.element)
+        present(hover, found);
+    return true;
+}
+
+QPoint HRPopupPresenter::position(const QPoint &globalPos) const
+{
+    const QSize offset = setting(m_context, tooltipOffsetKey, QSize(35, 30));
+    return globalPos + QPoint(offset.width(), offset.height());
+}
+
+// A popup that is fading out stays after all when its widget is hovered again.
+bool HRPopupPresenter::keepsShowing(const QString &key)
+{
+    if (!isPopupVisible() || !shownContent(m_popup, key))
+        return false;
+    m_popup->cancelHiding();
+    return true;
+}
+
+// On the way from a widget to its popup the pointer crosses others: while it is near the popup,
+// those without a tooltip of their own leave it alone.
+bool HRPopupPresenter::keepOrHide(const HRHover &hover)
+{
+    if (!isPopupVisible())
+        return false;
+    const QWidget *target = qobject_cast<QWidget *>(hover.object);
+    const bool hasOwnToolTip = target && !target->toolTip().isEmpty();
+    if (m_popup->isSafe(hover.globalPos) && !hasOwnToolTip)
+        return true;
+    m_popup->hideAnimated();
+    return false;
+}
+
+void HRPopupPresenter::present(const HRHover &hover, const HRFoundContent &found)
+{
+    HRXmlElement *element = found.element;
+    discardShownContent(m_popup->view(), element);
+    m_popup->view()->setContent(element);
+
+    // The host names the shortcut of what the pointer rests on, also where the content shown is
+    // that of the fallback key.
+    const QString shortcut
+        = m_interface.shortCutForObject(hover.key, hover.object, element->attribute("shortcut"));
+    if (!shortcut.isEmpty())
+        element->setAttribute("shortcut", shortcut);
+
+    m_popup->showWithContent(
+        hover.object, position(hover.globalPos), element, found.packageDirectory());
+    m_popup->raise();
+}
+
+} // namespace Hintreels

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "manager/HRContentLookup_p.h"
+#include "ui/HRWidget.h"
+
+#include <QPoint>
+#include <QPointer>
+#include <QString>
+
+class HRContext;
+
+namespace Hintreels {
+
+class HRInterface;
+
+/// What the pointer rests on.
+struct HRHover
+{
+    QString key;
+    QPoint globalPos; ///< global coordinates
+    QObject *object = nullptr; ///< may be null
+};
+
+/// The content that a popup shows, if it is that of a key; else null.
+HRXmlElement *shownContent(const HRWidget *popup, const QString &key);
+
+/// Decides for each hover whether the popup shows new content, stays as it is or goes.
+///
+/// What it borrows must outlive it, but for the popup, which may be deleted by others at any time.
+/// GUI thread only.
+class HRPopupPresenter
+{
+public:
+    HRPopupPresenter(
+        const HRContext &context, HRInterface &interface, const HRContentLookup &lookup);
+
+    /// The popup for hovers; null before the first is set.
+    HRWidget *popup() const { return m_popup; }
+    void setPopup(HRWidget *popup) { m_popup = popup; }
+    bool isPopupVisible() const { return m_popup && m_popup->isVisible(); }
+
+    /// Shows the content for a hover; needs a popup.
+    /// @return true while a popup for the hover is on screen
+    bool show(const HRHover &hover);
+
+    /// Where the popup's top left corner goes for a pointer position, both global.
+    QPoint position(const QPoint &globalPos) const;
+
+private:
+    bool keepsShowing(const QString &key);
+    bool keepOrHide(const HRHover &hover);
+    void present(const HRHover &hover, const HRFoundContent &found);
+
+    const HRContext &m_context;
+    HRInterface &m_interface;
+    const HRContentLookup &m_lookup;
+    QPointer<HRWidget> m_popup;
+};
+
+} // namespace Hintreels

@@ -1,0 +1,509 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "content/HRXmlElement.h"
+#include "content/HRXmlParser.h"
+#include "support/MessageGuard.h"
+
+#include <QBuffer>
+#include <QPointer>
+#include <QtTest>
+
+#include <memory>
+
+using namespace Hintreels;
+
+namespace {
+
+/// A class of content that knows nothing of attributes: they arrive as properties.
+class Note : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString title MEMBER title)
+    Q_PROPERTY(int rank MEMBER rank)
+    Q_PROPERTY(QString fixed READ fixed)
+    Q_PROPERTY(QString tagName MEMBER tagName)
+
+public:
+    Q_INVOKABLE explicit Note(QObject *parent)
+        : QObject(parent)
+    {
+    }
+    Q_INVOKABLE void appendContent(const QString &content) { text += content; }
+
+    QString fixed() const { return QStringLiteral("fixed"); }
+
+    QString title;
+    int rank = 0;
+    QString tagName;
+    QString text;
+};
+
+/// A class without any text or name.
+class Plain : public QObject
+{
+    Q_OBJECT
+
+public:
+    Q_INVOKABLE explicit Plain(QObject *parent)
+        : QObject(parent)
+    {
+    }
+};
+
+/// The answers of a filter by qualified name, and what it was asked.
+struct Answers
+{
+    QMap<QString, int> modes;
+    QStringList asked;
+
+    static int give(const QString &qName, const QXmlAttributes &attributes, void *context)
+    {
+        auto *answers = static_cast<Answers *>(context);
+        answers->asked.append(qName);
+        for (int i = 0; i < attributes.length(); ++i)
+            answers->asked.append(attributes.qName(i) + '=' + attributes.value(i));
+        return answers->modes.value(qName);
+    }
+};
+
+/// The top-level objects of one reading, which die with this.
+class Objects
+{
+public:
+    Objects(HRXmlParser &parser, const QString &document)
+    {
+        QXmlInputSource source;
+        source.setData(document);
+        for (QObject *object : parser.read(source))
+            m_objects.append(object);
+    }
+    ~Objects()
+    {
+        for (const QPointer<QObject> &object : qAsConst(m_objects))
+            delete object;
+    }
+    Q_DISABLE_COPY(Objects)
+
+    int size() const { return m_objects.size(); }
+    QObject *at(int i) const { return m_objects.at(i); }
+    HRXmlElement *element(int i = 0) const { return qobject_cast<HRXmlElement *>(m_objects.at(i)); }
+
+private:
+    QVector<QPointer<QObject>> m_objects;
+};
+
+/// Tags and text of a tree in one line, such as "a{b'text'}".
+QString outline(const QObject *object)
+{
+    QString result = object->objectName();
+    if (const auto *element = qobject_cast<const HRXmlElement *>(object)) {
+        if (!element->content().isEmpty())
+            result += '\'' + element->content() + '\'';
+    }
+    QStringList children;
+    for (const QObject *child : object->children())
+        children.append(outline(child));
+    return children.isEmpty() ? result : result + '{' + children.join(' ') + '}';
+}
+
+QString outline(const Objects &objects)
+{
+    QStringList outlines;
+    for (int i = 0; i < objects.size(); ++i)
+        outlines.append(outline(objects.at(i)));
+    return outlines.join(' ');
+}
+
+} // namespace
+
+class tst_HRXmlParser : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void defaultElement_isElement();
+    void metaObjectForElement_knowsRegisteredOnly();
+    void read_buildsTree();
+    void read_handsOverObjectsWithoutParent();
+    void read_obeysFilter_data();
+    void read_obeysFilter();
+    void filter_seesNamesAndAttributes();
+    void read_choosesClassByLocalName();
+    void read_usesDefault_whenRegisteredClassIsNull();
+    void read_writesProperties_whenClassTakesNoAttributes();
+    void read_stops_whenPropertyIsMissing();
+    void read_goesOn_whenPropertyRejectsValue();
+    void read_stops_whenNoObjectCanBeMade();
+    void read_stops_whenThereIsNoClass();
+    void read_dropsText_whenClassTakesNone();
+    void read_trimsTagName();
+    void read_keepsAttributes_whenElementTakesThem();
+    void read_appendsTextInOrder();
+    void read_includesSmallEntities();
+    void read_leavesOutExternalEntities();
+    void read_returnsNothing_whenDocumentIsUnusable_data();
+    void read_returnsNothing_whenDocumentIsUnusable();
+    void read_returnsFinishedElements_whenDocumentBreaksOff();
+    void read_startsAfresh_whenReadBefore();
+    void read_takesDeviceInPieces();
+    void read_decodesDevice_data();
+    void read_decodesDevice();
+    void destructor_deletesOpenElements_afterFailure();
+    void destructor_leavesResult_afterSuccess();
+};
+
+void tst_HRXmlParser::defaultElement_isElement()
+{
+    HRXmlParser parser;
+    QCOMPARE(parser.defaultElement(), &HRXmlElement::staticMetaObject);
+    parser.setDefaultElement(&Note::staticMetaObject);
+    QCOMPARE(parser.defaultElement(), &Note::staticMetaObject);
+}
+
+void tst_HRXmlParser::metaObjectForElement_knowsRegisteredOnly()
+{
+    HRXmlParser parser;
+    QCOMPARE(parser.metaObjectForElement("note"), nullptr);
+    parser.registerElement("note", &Plain::staticMetaObject);
+    parser.registerElement("note", &Note::staticMetaObject);
+    QCOMPARE(parser.metaObjectForElement("note"), &Note::staticMetaObject);
+    parser.unregisterElement("note");
+    QCOMPARE(parser.metaObjectForElement("note"), nullptr);
+}
+
+void tst_HRXmlParser::read_buildsTree()
+{
+    HRXmlParser parser;
+    const Objects objects(parser, "<a>1<b>2<c/>3</b><b x='y'/>4</a>");
+    QCOMPARE(outline(objects), QString("a'14'{b'23'{c} b}"));
+    QCOMPARE(
+        objects.element()->toXml(), QString("<a>\n  <b>\n    <c/>\n  </b>\n  <b x=\"y\"/>\n</a>"));
+}
+
+void tst_HRXmlParser::read_handsOverObjectsWithoutParent()
+{
+    Answers answers{ { { "a", 4 } }, {} };
+    HRXmlParser parser(Answers::give, &answers);
+    const Objects objects(parser, "<a><b/><c/></a>");
+    QCOMPARE(objects.size(), 2);
+    QCOMPARE(objects.at(0)->parent(), nullptr);
+    QCOMPARE(objects.at(1)->parent(), nullptr);
+}
+
+void tst_HRXmlParser::read_obeysFilter_data()
+{
+    QTest::addColumn<int>("answerForA");
+    QTest::addColumn<int>("answerForB");
+    QTest::addColumn<QString>("result");
+    QTest::addColumn<QString>("asked");
+
+    QTest::newRow("0 asks for children") << 1 << 0 << "a'!'{b'?'{c{d}} e}"
+                                         << "a b c d e";
+    QTest::newRow("1 asks for children") << 1 << 1 << "a'!'{b'?'{c{d}} e}"
+                                         << "a b c d e";
+    QTest::newRow("2 keeps all below") << 1 << 2 << "a'!'{b'?'{c{d}} e}"
+                                       << "a b e";
+    QTest::newRow("2 at the top asks once") << 2 << 8 << "a'!'{b'?'{c{d}} e}"
+                                            << "a";
+    QTest::newRow("4 drops one element") << 1 << 4 << "a'!'{c{d} e}"
+                                         << "a b c d e";
+    QTest::newRow("4 with 1 drops one element") << 1 << 5 << "a'!'{c{d} e}"
+                                                << "a b c d e";
+    QTest::newRow("4 with 2 asks no more") << 1 << 6 << "a'!'{c{d} e}"
+                                           << "a b e";
+    QTest::newRow("8 drops what is below") << 1 << 8 << "a'!'{b'?' e}"
+                                           << "a b e";
+    QTest::newRow("8 with 2 drops what is below") << 1 << 10 << "a'!'{b'?' e}"
+                                                  << "a b e";
+    QTest::newRow("8 with 4 drops the tree") << 1 << 12 << "a'!'{e}"
+                                             << "a b e";
+    QTest::newRow("all bits drop the tree") << 1 << 15 << "a'!'{e}"
+                                            << "a b e";
+    QTest::newRow("unknown bits count as none") << 16 << 32 << "a'!'{b'?'{c{d}} e}"
+                                                << "a b c d e";
+    QTest::newRow("4 at the top frees children") << 4 << 1 << "b'?'{c{d}} e"
+                                                 << "a b c d e";
+    QTest::newRow("4 at two levels frees grandchildren") << 4 << 4 << "c{d} e"
+                                                         << "a b c d e";
+    QTest::newRow("8 with 4 at the top leaves nothing") << 12 << 1 << ""
+                                                        << "a";
+    QTest::newRow("8 at the top leaves the top") << 8 << 1 << "a'!'"
+                                                 << "a";
+}
+
+void tst_HRXmlParser::read_obeysFilter()
+{
+    QFETCH(int, answerForA);
+    QFETCH(int, answerForB);
+    Answers answers{ { { "a", answerForA }, { "b", answerForB } }, {} };
+    HRXmlParser parser(Answers::give, &answers);
+    const Objects objects(parser, "<a>!<b>?<c><d/></c></b><e/></a>");
+    QTEST(outline(objects), "result");
+    QTEST(answers.asked.join(' '), "asked");
+}
+
+void tst_HRXmlParser::filter_seesNamesAndAttributes()
+{
+    Answers answers{ {}, {} };
+    HRXmlParser parser(Answers::give, &answers);
+    const Objects objects(parser, "<x:a xmlns:x='urn:a' b='1' x:c='2'/>");
+    QCOMPARE(answers.asked, (QStringList{ "x:a", "b=1", "x:c=2" }));
+}
+
+void tst_HRXmlParser::read_choosesClassByLocalName()
+{
+    HRXmlParser parser;
+    parser.registerElement("item", &Note::staticMetaObject);
+    const Objects objects(
+        parser, "<list xmlns:x='urn:a'><x:item/><x:list xmlns='urn:b'><list/></x:list></list>");
+    const QObjectList children = objects.element()->children();
+
+    const auto *note = qobject_cast<Note *>(children.first());
+    QVERIFY(note);
+    QCOMPARE(note->tagName, QString("x:item"));
+    const auto *list = qobject_cast<HRXmlElement *>(children.last());
+    QCOMPARE(list->getTagName(), QString("x:list"));
+    QCOMPARE(list->getTagNameSpace(), QString("urn:a"));
+    QCOMPARE(list->childElement("list")->getTagNameSpace(), QString("urn:b"));
+    QCOMPARE(objects.element()->getTagNameSpace(), QString());
+}
+
+void tst_HRXmlParser::read_usesDefault_whenRegisteredClassIsNull()
+{
+    HRXmlParser parser;
+    parser.registerElement("a", nullptr);
+    const Objects objects(parser, "<a/>");
+    QVERIFY(objects.element());
+}
+
+void tst_HRXmlParser::read_writesProperties_whenClassTakesNoAttributes()
+{
+    HRXmlParser parser;
+    parser.setDefaultElement(&Note::staticMetaObject);
+    const Objects objects(
+        parser, "<note xmlns:x='urn:a' title='T' x:rank='7'>some <![CDATA[text]]></note>");
+    const auto *note = qobject_cast<Note *>(objects.at(0));
+    QVERIFY(note);
+    QCOMPARE(note->title, QString("T"));
+    QCOMPARE(note->rank, 7);
+    QCOMPARE(note->tagName, QString("note"));
+    QCOMPARE(note->text, QString("some text"));
+}
+
+void tst_HRXmlParser::read_stops_whenPropertyIsMissing()
+{
+    MessageGuard messages;
+    HRXmlParser parser;
+    parser.registerElement("note", &Note::staticMetaObject);
+    const Objects objects(parser, "<a><b/><note title='T' colour='red'/><c/></a>");
+    QCOMPARE(outline(objects), QString("a{b}"));
+    QVERIFY(messages.take(
+        "No Property named colour on " + QString(Note::staticMetaObject.className())));
+    QVERIFY(messages.take("Fatal error at 1,36 : error triggered by consumer"));
+}
+
+void tst_HRXmlParser::read_goesOn_whenPropertyRejectsValue()
+{
+    MessageGuard messages;
+    HRXmlParser parser;
+    parser.registerElement("note", &Note::staticMetaObject);
+    const Objects objects(parser, "<note fixed='1' rank='many' title='T'/>");
+    const auto *note = qobject_cast<Note *>(objects.at(0));
+    QVERIFY(note);
+    QCOMPARE(note->title, QString("T"));
+    const QString name = Note::staticMetaObject.className();
+    QVERIFY(messages.take("Could not write \"1\" to property fixed of " + name));
+    QVERIFY(messages.take("Could not write \"many\" to property rank of " + name));
+}
+
+void tst_HRXmlParser::read_stops_whenNoObjectCanBeMade()
+{
+    MessageGuard messages;
+    HRXmlParser parser;
+    parser.registerElement("b", &QTimer::staticMetaObject); // it has no invokable constructor
+    const Objects objects(parser, "<a><x:b xmlns:x='urn:a' c='d'/><e/></a>");
+    QCOMPARE(outline(objects), QString("a"));
+    QVERIFY(messages.take("Could not find object for element: b"));
+    QCOMPARE(messages.takeMessages().size(), 1);
+}
+
+void tst_HRXmlParser::read_stops_whenThereIsNoClass()
+{
+    MessageGuard messages;
+    HRXmlParser parser;
+    parser.setDefaultElement(nullptr);
+    const Objects objects(parser, "<a/>");
+    QCOMPARE(objects.size(), 0);
+    QVERIFY(messages.take("Could not find object for element: a"));
+    QCOMPARE(messages.takeMessages().size(), 1);
+}
+
+void tst_HRXmlParser::read_dropsText_whenClassTakesNone()
+{
+    HRXmlParser parser;
+    parser.registerElement("b", &Plain::staticMetaObject);
+    const Objects objects(parser, "<a>1<b>2<c>3</c></b></a>");
+    QCOMPARE(outline(objects), QString("a'1'{{c'3'}}"));
+}
+
+void tst_HRXmlParser::read_trimsTagName()
+{
+    HRXmlParser parser;
+    const Objects objects(parser, "<a xmlns=' urn:a '/>");
+    QCOMPARE(objects.element()->getTagNameSpace(), QString("urn:a"));
+}
+
+void tst_HRXmlParser::read_keepsAttributes_whenElementTakesThem()
+{
+    HRXmlParser parser;
+    const Objects objects(parser, "<a xmlns:x='urn:a' b='1' tagName='2' x:a='&lt;3'/>");
+    QCOMPARE(objects.element()->getTagName(), QString("a"));
+    QCOMPARE(objects.element()->attributeNames(), (QStringList{ "b", "tagName", "x:a" }));
+    QCOMPARE(objects.element()->attribute("x:a"), QString("<3"));
+}
+
+void tst_HRXmlParser::read_appendsTextInOrder()
+{
+    HRXmlParser parser;
+    const Objects objects(
+        parser, "<a> 1&amp;2 <![CDATA[ <3> ]]><!-- no -->&#52;<b>not\nthis</b>\n  5\t</a>");
+    QCOMPARE(objects.element()->content(), QString(" 1&2  <3> 4\n  5\t"));
+}
+
+void tst_HRXmlParser::read_includesSmallEntities()
+{
+    HRXmlParser parser;
+    const Objects objects(parser,
+        "<!DOCTYPE a [<!ENTITY n 'Hint&w;'><!ENTITY w 'reels'><!ENTITY e '<b>&n;</b>'>]>"
+        "<a t='by &n;'>the &n;.&e;</a>");
+    QCOMPARE(outline(objects), QString("a'the Hintreels.'{b'Hintreels'}"));
+    QCOMPARE(objects.element()->attribute("t"), QString("by Hintreels"));
+}
+
+void tst_HRXmlParser::read_leavesOutExternalEntities()
+{
+    QTemporaryFile file;
+    QVERIFY(file.open());
+    file.write("secret");
+    file.flush();
+    HRXmlParser parser;
+    const Objects objects(
+        parser, QString("<!DOCTYPE a [<!ENTITY e SYSTEM '%1'>]><a>1&e;2</a>").arg(file.fileName()));
+    QCOMPARE(outline(objects), QString("a'12'"));
+}
+
+void tst_HRXmlParser::read_returnsNothing_whenDocumentIsUnusable_data()
+{
+    QTest::addColumn<QString>("document");
+    QTest::addColumn<QString>("message");
+
+    QTest::newRow("empty") << ""
+                           << "Fatal error at 1,1 : unexpected end of file";
+    QTest::newRow("no element") << "<?xml version='1.0'?>\n"
+                                << "Fatal error at 2,1 : unexpected end of file";
+    QTest::newRow("not XML") << "{}"
+                             << "Fatal error at 1,1 : error occurred while parsing element";
+    QTest::newRow("broken tag") << "\n<a"
+                                << "Fatal error at 2,3 : unexpected end of file";
+}
+
+void tst_HRXmlParser::read_returnsNothing_whenDocumentIsUnusable()
+{
+    QFETCH(QString, document);
+    QFETCH(QString, message);
+    MessageGuard messages;
+    HRXmlParser parser;
+    const Objects objects(parser, document);
+    QCOMPARE(objects.size(), 0);
+    QCOMPARE(messages.takeMessages(), QStringList{ message });
+}
+
+void tst_HRXmlParser::read_returnsFinishedElements_whenDocumentBreaksOff()
+{
+    MessageGuard messages;
+    HRXmlParser parser;
+    const Objects objects(parser, "<a>\n<b>1</b>\n<c>2</b></a>");
+    QCOMPARE(objects.element()->childElement("b")->content(), QString("1"));
+    QCOMPARE(objects.element()->childElement("c")->content(), QString("2"));
+    QCOMPARE(messages.takeMessages(), QStringList{ "Fatal error at 3,8 : tag mismatch" });
+}
+
+void tst_HRXmlParser::read_startsAfresh_whenReadBefore()
+{
+    MessageGuard messages;
+    Answers answers{ { { "skipped", 12 } }, {} };
+    HRXmlParser parser(Answers::give, &answers);
+    const Objects first(parser, "<a><skipped><b>");
+    const Objects second(parser, "<c><d/></c>");
+    const Objects third(parser, "<e/>");
+    QCOMPARE(outline(first), QString("a"));
+    QCOMPARE(outline(second), QString("c{d}"));
+    QCOMPARE(outline(third), QString("e"));
+    QCOMPARE(messages.takeMessages().size(), 1);
+}
+
+void tst_HRXmlParser::read_takesDeviceInPieces()
+{
+    const QString text = QString(u8"ä€😀").repeated(3000);
+    QBuffer buffer;
+    buffer.setData("<a>" + text.toUtf8() + "<b/></a>");
+    HRXmlParser parser;
+    const QXmlInputSource source(&buffer);
+    const QList<QObject *> objects = parser.read(&source);
+    const std::unique_ptr<QObject> tree(objects.value(0));
+    QCOMPARE(objects.size(), 1);
+    QCOMPARE(outline(tree.get()), "a'" + text + "'{b}");
+}
+
+void tst_HRXmlParser::read_decodesDevice_data()
+{
+    QTest::addColumn<QByteArray>("document");
+
+    const QString text = QStringLiteral("<a>ä</a>");
+    const QString latin1 = "<?xml version='1.0' encoding='ISO-8859-1'?>" + text;
+    const QString utf16 = QChar(QChar::ByteOrderMark) + text;
+    QTest::newRow("UTF-8") << text.toUtf8();
+    QTest::newRow("UTF-8 with a mark") << "\xef\xbb\xbf" + text.toUtf8();
+    QTest::newRow("Latin-1") << latin1.toLatin1();
+    QTest::newRow("UTF-16") << QByteArray(
+        reinterpret_cast<const char *>(utf16.utf16()), utf16.size() * int(sizeof(QChar)));
+}
+
+void tst_HRXmlParser::read_decodesDevice()
+{
+    QFETCH(QByteArray, document);
+    QBuffer buffer(&document);
+    HRXmlParser parser;
+    const std::unique_ptr<QObject> tree(parser.read(QXmlInputSource(&buffer)).value(0));
+    QVERIFY(tree);
+    QCOMPARE(outline(tree.get()), QString("a'ä'"));
+}
+
+void tst_HRXmlParser::destructor_deletesOpenElements_afterFailure()
+{
+    MessageGuard messages;
+    auto parser = std::make_unique<HRXmlParser>();
+    const Objects objects(*parser, "<a><b/><c><d/>");
+    QCOMPARE(outline(objects), QString("a{b c{d}}"));
+    QPointer<QObject> tree(objects.at(0));
+
+    parser.reset();
+
+    QVERIFY(!tree);
+    QVERIFY(!objects.at(0));
+    QCOMPARE(
+        messages.takeMessages(), QStringList{ "Fatal error at 1,15 : unexpected end of file" });
+}
+
+void tst_HRXmlParser::destructor_leavesResult_afterSuccess()
+{
+    auto parser = std::make_unique<HRXmlParser>();
+    const Objects objects(*parser, "<a><b/></a>");
+    parser.reset();
+    QVERIFY(objects.at(0));
+    QCOMPARE(outline(objects), QString("a{b}"));
+}
+
+QTEST_GUILESS_MAIN(tst_HRXmlParser)
+#include "tst_HRXmlParser.moc"

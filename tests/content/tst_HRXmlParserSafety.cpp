@@ -1,0 +1,226 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "content/HRXmlElement.h"
+#include "content/HRXmlParser.h"
+#include "support/MessageGuard.h"
+
+#include <QPointer>
+#include <QThread>
+#include <QtTest>
+
+#include <memory>
+
+using namespace Hintreels;
+
+namespace {
+
+/// How one document fared. The times are those of a loaded machine under a sanitizer; without the
+/// parser's guards the documents here take from many seconds to for ever, or crash.
+struct Reading
+{
+    explicit Reading(const QString &document)
+    {
+        QElapsedTimer timer;
+        timer.start();
+        HRXmlParser parser;
+        QXmlInputSource source;
+        source.setData(document);
+        const QPointer<QObject> tree(parser.read(source).value(0));
+        elements = tree ? tree->findChildren<HRXmlElement *>().size() + 1 : 0;
+        delete tree;
+        isQuick = timer.elapsed() < 3000;
+    }
+
+    int elements;
+    bool isQuick;
+};
+
+/// Calls a function on a thread with this stack.
+template <typename Function>
+void runOnStack(uint bytes, Function function)
+{
+    const std::unique_ptr<QThread> thread(QThread::create(function));
+    thread->setStackSize(bytes);
+    thread->start();
+    thread->wait();
+}
+
+QString entity(const QString &name, const QString &value)
+{
+    return QString("<!ENTITY %1 '%2'>").arg(name, value);
+}
+
+QString document(const QString &declarations, const QString &body)
+{
+    return "<!DOCTYPE a [" + declarations + "]><a>" + body + "</a>";
+}
+
+/// Entities that each refer ten times to the next one.
+QString laughs(int levels)
+{
+    QString declarations;
+    for (int i = 0; i < levels; ++i) {
+        const QString next = QString("&l%1;").arg(i + 1);
+        declarations += entity(QString("l%1").arg(i), next.repeated(10));
+    }
+    return declarations + entity(QString("l%1").arg(levels), "lol");
+}
+
+QString prefixes(int count, int length)
+{
+    QString attributes;
+    for (int i = 0; i < count; ++i)
+        attributes += QString(" xmlns:p%1='u'").arg(i, length, 10, QChar('0'));
+    return attributes;
+}
+
+} // namespace
+
+class tst_HRXmlParserSafety : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void read_refuses_data();
+    void read_refuses();
+    void read_accepts_data();
+    void read_accepts();
+    void read_stopsDeepNesting_whateverTheStack_data();
+    void read_stopsDeepNesting_whateverTheStack();
+    void read_goesOnAfterRefusal();
+};
+
+void tst_HRXmlParserSafety::read_refuses_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("reason");
+
+    const QString tooMuch = "entities expand to too much text";
+    const QString tooDeep = "elements are nested too deeply";
+    const QString x4000 = QString(4000, 'x');
+
+    QTest::newRow("billion laughs") << document(laughs(9), "&l0;") << tooMuch;
+    QTest::newRow("laughs in an attribute") << document(laughs(9), "<b c='&l0;'/>") << tooMuch;
+    QTest::newRow("one large entity often")
+        << document(entity("e", x4000), QString("&e;").repeated(100000)) << tooMuch;
+    QTest::newRow("large entity in attributes")
+        << document(entity("e", x4000), QString("<b c='&e;'/>").repeated(50000)) << tooMuch;
+    QTest::newRow("elements in an entity") << document(entity("e", QString("<b/>").repeated(1000)),
+        QString("&e;").repeated(2000)) << tooMuch;
+    QTest::newRow("entity of itself") << document(entity("e", "x&e;"), "&e;") << tooMuch;
+    QTest::newRow("references that arise in reading") << document(
+        entity("laugh", x4000) + entity("a", "&#38;lau"), QString("&a;gh;").repeated(100000))
+                                                      << tooMuch;
+    QTest::newRow("parameter entity often")
+        << document(entity("% p", "<!--" + x4000 + "-->"), "")
+               .replace("]>", QString("%p;").repeated(100000) + "]>")
+        << tooMuch;
+    QTest::newRow("parameter entity in a value")
+        << document(entity("% p", x4000) + entity("e", QString("%p;").repeated(100000)), "")
+        << tooMuch;
+    QTest::newRow("deep elements") << QString("<a>").repeated(100000) << tooDeep;
+    QTest::newRow("deep elements in an entity")
+        << document(entity("e", QString("<b>").repeated(100000)), "&e;") << tooDeep;
+    QTest::newRow("deep content model")
+        << document("<!ELEMENT a " + QString("(").repeated(500000), "") << tooDeep;
+    QTest::newRow("deep content model in an entity")
+        << document(entity("% p", "<!ELEMENT a " + QString("(").repeated(500000)) + "%p;", "")
+        << tooDeep;
+    QTest::newRow("many prefixes")
+        << "<a" + prefixes(2000, 5) + ">" + QString("<b/>").repeated(20000) + "</a>"
+        << "too many or too long namespace prefixes";
+    QTest::newRow("long prefixes") << "<a" + prefixes(2, 100) + "/>"
+                                   << "too many or too long namespace prefixes";
+    QString many;
+    for (int i = 0; i < 20000; ++i)
+        many += entity(QString("e%1").arg(i), "&e0;");
+    QTest::newRow("many entities") << document(many, "") << "too many entities are declared";
+}
+
+void tst_HRXmlParserSafety::read_refuses()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, reason);
+    MessageGuard messages;
+
+    const Reading reading(text);
+
+    QVERIFY(reading.isQuick);
+    const QStringList logged = messages.takeMessages();
+    QCOMPARE(logged.size(), 1);
+    const QRegularExpression form(QString("^Fatal error at \\d+,\\d+ : %1$").arg(reason));
+    QVERIFY2(form.match(logged.first()).hasMatch(), qPrintable(logged.first()));
+}
+
+void tst_HRXmlParserSafety::read_accepts_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("elements");
+
+    const QString nested = QString("<a>").repeated(1000) + QString("</a>").repeated(1000);
+    QTest::newRow("a thousand levels") << nested << 1000;
+    QTest::newRow("many siblings") << "<a>" + QString("<b/>").repeated(100000) + "</a>" << 100001;
+    QTest::newRow("entities below the limit")
+        << document(laughs(3), QString("<b>&l0;</b>").repeated(100)) << 101;
+    QTest::newRow("unused entities") << document(laughs(3), "") << 1;
+    QString xhtml;
+    for (int i = 0; i < 253; ++i)
+        xhtml += entity(QString("e%1").arg(i), "&#38;#160;");
+    QTest::newRow("as many entities as XHTML has") << document(xhtml, "&e7;<b/>") << 2;
+    QTest::newRow("a few prefixes") << "<a" + prefixes(30, 20) + "/>" << 1;
+    QTest::newRow("the same prefix again and again")
+        << "<a>" + QString("<b xmlns='u' xmlns:p='u'/>").repeated(1000) + "</a>" << 1001;
+    QTest::newRow("long text") << "<a>" + QString(9 * 1024 * 1024, 'x') + "</a>" << 1;
+}
+
+void tst_HRXmlParserSafety::read_accepts()
+{
+    QFETCH(QString, text);
+    MessageGuard messages;
+    const Reading reading(text);
+    QVERIFY(reading.isQuick);
+    QTEST(reading.elements, "elements");
+}
+
+void tst_HRXmlParserSafety::read_stopsDeepNesting_whateverTheStack_data()
+{
+    QTest::addColumn<uint>("stack");
+    QTest::newRow("1 MiB") << 1024u * 1024;
+    QTest::newRow("8 MiB") << 8u * 1024 * 1024;
+}
+
+void tst_HRXmlParserSafety::read_stopsDeepNesting_whateverTheStack()
+{
+    QFETCH(uint, stack);
+    MessageGuard messages;
+    int elements = 0;
+    runOnStack(stack, [&elements] {
+        elements = Reading(QString("<a>").repeated(100000)).elements;
+        Reading(document("<!ELEMENT a " + QString("(").repeated(100000), ""));
+    });
+    QVERIFY2(elements > 1000 && elements < 2500, qPrintable(QString::number(elements)));
+    const QStringList logged = messages.takeMessages();
+    QCOMPARE(logged.size(), 2);
+    QVERIFY(logged.first().endsWith("elements are nested too deeply"));
+    QVERIFY(logged.last().endsWith("elements are nested too deeply"));
+}
+
+void tst_HRXmlParserSafety::read_goesOnAfterRefusal()
+{
+    MessageGuard messages;
+    HRXmlParser parser;
+    QXmlInputSource bad;
+    bad.setData(document(laughs(9), "&l0;"));
+    qDeleteAll(parser.read(bad));
+    QCOMPARE(messages.takeMessages().size(), 1);
+
+    QXmlInputSource good;
+    good.setData(document(laughs(1), "&l0;"));
+    const std::unique_ptr<QObject> tree(parser.read(good).value(0));
+    QVERIFY(tree);
+    QCOMPARE(tree->property("content").toString(), QString("lol").repeated(10));
+}
+
+QTEST_GUILESS_MAIN(tst_HRXmlParserSafety)
+#include "tst_HRXmlParserSafety.moc"

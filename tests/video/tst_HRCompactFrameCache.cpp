@@ -1,0 +1,201 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "video/HRCompactFrameCache_p.h"
+
+#include "support/TestClip.h"
+#include "video/HRClip_p.h"
+
+#include <QtTest>
+
+#include <random>
+
+using namespace Hintreels;
+
+class tst_HRCompactFrameCache : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void frames_equalThePlainCache_data();
+    void frames_equalThePlainCache();
+    void frames_equalThePlainCache_ofRealClips_data();
+    void frames_equalThePlainCache_ofRealClips();
+    void frames_equalThePlainCache_whenSizeAndFormatChange();
+    void frame_returnsNull_beyondTheLast();
+    void frame_sharesPixels_whenReadAgain();
+    void frame_handsOutPixels_thatLaterReadsLeaveAlone();
+    void addFrame_keepsPixels_whenTheCallerOverwritesItsOwn();
+};
+
+namespace {
+
+using Pictures = std::vector<HRVideoFrame>;
+
+std::mt19937 seeded()
+{
+    return std::mt19937(20260601);
+}
+
+/// Changes a few rectangles anywhere, down to one pixel, and sometimes nothing at all.
+void scribble(HRVideoFrame *picture, std::mt19937 *random)
+{
+    const int count = int((*random)() % 4);
+    for (int i = 0; i < count; ++i) {
+        const QRect area(int((*random)() % picture->width()), int((*random)() % picture->height()),
+            int((*random)() % 9) + 1, int((*random)() % 9) + 1);
+        const QRect inside = area & picture->rect();
+        for (int y = inside.top(); y <= inside.bottom(); ++y)
+            for (int x = inside.left(); x <= inside.right(); ++x)
+                reinterpret_cast<QRgb *>(picture->scanLine(y))[x] = (*random)() | 0xff000000u;
+    }
+}
+
+Pictures scribbles(const QSize &size, int count)
+{
+    std::mt19937 random = seeded();
+    HRVideoFrame picture(size.width(), size.height(), QImage::Format_RGB32, 0);
+    picture.fill(Qt::gray);
+    Pictures pictures;
+    for (int i = 0; i < count; ++i) {
+        picture.setPts(i * 0.04);
+        pictures.push_back(picture);
+        scribble(&picture, &random);
+    }
+    return pictures;
+}
+
+/// Reads both caches in a random order, each picture several times.
+void compareCaches(const Pictures &pictures)
+{
+    HRVideoFrameCache plain("x");
+    HRCompactFrameCache compact("x");
+    for (const HRVideoFrame &picture : pictures) {
+        plain.addFrame(picture);
+        compact.addFrame(picture);
+    }
+    QCOMPARE(compact.length(), plain.length());
+    QCOMPARE(compact.name(), plain.name());
+    std::mt19937 random = seeded();
+    for (size_t i = 0; i < 4 * pictures.size(); ++i) {
+        const size_t index = random() % (pictures.size() + 1);
+        const HRVideoFrame expected = plain.frame(index);
+        const HRVideoFrame actual = compact.frame(index);
+        QCOMPARE(actual.pts(), expected.pts());
+        QCOMPARE(actual.format(), expected.format());
+        QVERIFY2(static_cast<const QImage &>(actual) == static_cast<const QImage &>(expected),
+            qPrintable(QString("picture %1").arg(index)));
+    }
+}
+
+} // namespace
+
+void tst_HRCompactFrameCache::frames_equalThePlainCache_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("one pixel") << QSize(1, 1);
+    QTest::newRow("below a tile") << QSize(15, 7);
+    QTest::newRow("one tile") << QSize(16, 16);
+    QTest::newRow("a pixel more than tiles") << QSize(33, 17);
+    QTest::newRow("whole tiles") << QSize(64, 48);
+    QTest::newRow("divided by no tile") << QSize(101, 37);
+    QTest::newRow("tall") << QSize(3, 200);
+}
+
+void tst_HRCompactFrameCache::frames_equalThePlainCache()
+{
+    QFETCH(QSize, size);
+    compareCaches(scribbles(size, 40));
+}
+
+void tst_HRCompactFrameCache::frames_equalThePlainCache_ofRealClips_data()
+{
+    QTest::addColumn<QByteArray>("codec");
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("H.264") << QByteArray("libx264") << QSize(162, 90);
+    QTest::newRow("lossless") << QByteArray("ffv1") << QSize(50, 38);
+    QTest::newRow("MPEG-4") << QByteArray("mpeg4") << QSize(128, 96);
+}
+
+void tst_HRCompactFrameCache::frames_equalThePlainCache_ofRealClips()
+{
+    QFETCH(QByteArray, codec);
+    QFETCH(QSize, size);
+    QTemporaryDir directory;
+    TestClip clip;
+    clip.codec = codec;
+    clip.size = size;
+    clip.options = "";
+    clip.pictures = 12;
+    const Pictures drawn = scribbles(size, clip.pictures);
+    const QString path = clip.write(directory.filePath("clip.mkv"),
+        [&drawn](const QSize &, int number) { return drawn[size_t(number)]; });
+
+    HRClip reader([] { return false; });
+    QVERIFY(reader.open(path).isNull());
+    Pictures decoded;
+    for (HRVideoFrame picture = reader.readPicture(); !picture.isNull();
+         picture = reader.readPicture())
+        decoded.push_back(picture);
+    QCOMPARE(decoded.size(), drawn.size());
+    compareCaches(decoded);
+}
+
+void tst_HRCompactFrameCache::frames_equalThePlainCache_whenSizeAndFormatChange()
+{
+    Pictures pictures = scribbles(QSize(40, 30), 6);
+    for (const HRVideoFrame &picture : scribbles(QSize(40, 31), 3))
+        pictures.push_back(picture);
+    pictures.emplace_back(pictures.back().convertToFormat(QImage::Format_RGB888), 3);
+    pictures.emplace_back(pictures.back(), 4);
+    pictures.emplace_back(pictures.front().convertToFormat(QImage::Format_ARGB32), 5);
+    pictures.emplace_back(pictures.front(), 6);
+    compareCaches(pictures);
+}
+
+void tst_HRCompactFrameCache::frame_returnsNull_beyondTheLast()
+{
+    HRCompactFrameCache cache("x");
+    QCOMPARE(cache.length(), size_t(0));
+    QVERIFY(cache.frame(0).isNull());
+    cache.addFrame(scribbles(QSize(20, 20), 1).front());
+    QVERIFY(!cache.frame(0).isNull());
+    QVERIFY(cache.frame(1).isNull());
+}
+
+void tst_HRCompactFrameCache::frame_sharesPixels_whenReadAgain()
+{
+    HRCompactFrameCache cache("x");
+    for (const HRVideoFrame &picture : scribbles(QSize(20, 20), 3))
+        cache.addFrame(picture);
+    const HRVideoFrame first = cache.frame(2);
+    const HRVideoFrame again = cache.frame(2);
+    QCOMPARE(again.constBits(), first.constBits());
+}
+
+void tst_HRCompactFrameCache::frame_handsOutPixels_thatLaterReadsLeaveAlone()
+{
+    const Pictures pictures = scribbles(QSize(20, 20), 8);
+    HRCompactFrameCache cache("x");
+    for (const HRVideoFrame &picture : pictures)
+        cache.addFrame(picture);
+    const HRVideoFrame held = cache.frame(3);
+    for (size_t i = 0; i < pictures.size(); ++i)
+        cache.frame(i);
+    QCOMPARE(static_cast<const QImage &>(held), static_cast<const QImage &>(pictures[3]));
+}
+
+void tst_HRCompactFrameCache::addFrame_keepsPixels_whenTheCallerOverwritesItsOwn()
+{
+    HRCompactFrameCache cache("x");
+    HRVideoFrame frame(20, 20, QImage::Format_RGB32, 0);
+    frame.fill(Qt::red);
+    cache.addFrame(frame);
+    frame.fill(Qt::blue);
+    cache.addFrame(frame);
+    QCOMPARE(cache.frame(0).pixelColor(19, 19), QColor(Qt::red));
+    QCOMPARE(cache.frame(1).pixelColor(19, 19), QColor(Qt::blue));
+}
+
+QTEST_APPLESS_MAIN(tst_HRCompactFrameCache)
+#include "tst_HRCompactFrameCache.moc"
