@@ -1,0 +1,166 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "video/HRPictureConverter_p.h"
+
+#include <QElapsedTimer>
+#include <QtTest>
+
+#include <random>
+
+extern "C" {
+#include <libavutil/pixdesc.h>
+}
+
+using namespace Hintreels;
+
+class tst_HRPictureConverter : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void convert_equalsTheRgb24Conversion_data();
+    void convert_equalsTheRgb24Conversion();
+    void convert_keepsTheOpenedSize_whenPicturesChange();
+    void allocate_refuses_data();
+    void allocate_refuses();
+    void prepare_refuses_data();
+    void prepare_refuses();
+};
+
+namespace {
+
+HRFFmpegHandle<AVFrame> noise(AVPixelFormat format, const QSize &size)
+{
+    HRFFmpegHandle<AVFrame> picture(av_frame_alloc());
+    picture->format = format;
+    picture->width = size.width();
+    picture->height = size.height();
+    if (av_frame_get_buffer(picture.get(), 0) < 0)
+        qFatal("no memory for a picture");
+    const int depth = av_pix_fmt_desc_get(format)->comp[0].depth;
+    std::mt19937 random(7);
+    for (int plane = 0; plane < AV_NUM_DATA_POINTERS && picture->buf[plane]; ++plane) {
+        AVBufferRef *buffer = picture->buf[plane];
+        for (size_t i = 0; i + 1 < buffer->size; i += 2) {
+            const unsigned value = random() & (depth > 8 ? (1u << depth) - 1 : 0xffffu);
+            buffer->data[i] = uint8_t(value);
+            buffer->data[i + 1] = uint8_t(value >> 8);
+        }
+    }
+    return picture;
+}
+
+/// What the conversion has to give: through packed RGB24, in a buffer with room to spare.
+QImage reference(const AVFrame *picture, const QSize &size)
+{
+    const int stride = (size.width() + 63) / 64 * 64 * 3;
+    std::vector<uint8_t> rgb(size_t(stride) * size.height() + 256);
+    const HRFFmpegHandle<SwsContext> scaler(sws_getCachedContext(nullptr, picture->width,
+        picture->height, AVPixelFormat(picture->format), size.width(), size.height(),
+        AV_PIX_FMT_RGB24, SWS_BICUBIC, nullptr, nullptr, nullptr));
+    uint8_t *planes[4] = { rgb.data() };
+    const int strides[4] = { stride };
+    sws_scale(scaler.get(), picture->data, picture->linesize, 0, picture->height, planes, strides);
+    QImage image(size, QImage::Format_RGB32);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x) {
+            const uint8_t *pixel = rgb.data() + y * stride + 3 * x;
+            image.setPixel(x, y, qRgb(pixel[0], pixel[1], pixel[2]));
+        }
+    }
+    return image;
+}
+
+} // namespace
+
+void tst_HRPictureConverter::convert_equalsTheRgb24Conversion_data()
+{
+    QTest::addColumn<int>("format");
+    QTest::addColumn<QSize>("size");
+    const QList<AVPixelFormat> formats{ AV_PIX_FMT_YUV420P, AV_PIX_FMT_YUVJ420P, AV_PIX_FMT_YUV422P,
+        AV_PIX_FMT_YUV444P, AV_PIX_FMT_YUV411P, AV_PIX_FMT_YUYV422, AV_PIX_FMT_NV12,
+        AV_PIX_FMT_YUVA420P, AV_PIX_FMT_YUV420P10, AV_PIX_FMT_GRAY8, AV_PIX_FMT_RGB24,
+        AV_PIX_FMT_BGRA, AV_PIX_FMT_GBRP, AV_PIX_FMT_RGB555 };
+    const QList<QSize> sizes{ { 1, 1 }, { 2, 2 }, { 8, 6 }, { 15, 8 }, { 16, 7 }, { 16, 16 },
+        { 18, 10 }, { 33, 17 }, { 48, 32 }, { 50, 38 }, { 64, 48 }, { 77, 54 }, { 144, 90 },
+        { 1008, 6 } };
+    for (AVPixelFormat format : formats) {
+        for (const QSize &size : sizes) {
+            QTest::addRow("%s %dx%d", av_get_pix_fmt_name(format), size.width(), size.height())
+                << int(format) << size;
+        }
+    }
+}
+
+void tst_HRPictureConverter::convert_equalsTheRgb24Conversion()
+{
+    QFETCH(int, format);
+    QFETCH(QSize, size);
+    const HRFFmpegHandle<AVFrame> picture = noise(AVPixelFormat(format), size);
+    HRPictureConverter converter;
+    QVERIFY(converter.allocate(size));
+    QVERIFY(converter.prepare(size, AVPixelFormat(format)));
+    const HRVideoFrame converted = converter.convert(picture.get());
+    QCOMPARE(converted.format(), QImage::Format_RGB32);
+    QCOMPARE(static_cast<const QImage &>(converted), reference(picture.get(), size));
+    QCOMPARE(qAlpha(reinterpret_cast<const QRgb *>(converted.constBits())[0]), 255);
+}
+
+void tst_HRPictureConverter::convert_keepsTheOpenedSize_whenPicturesChange()
+{
+    const QSize opened(64, 48);
+    HRPictureConverter converter;
+    QVERIFY(converter.allocate(opened));
+    QVERIFY(converter.prepare(opened, AV_PIX_FMT_YUV420P));
+    struct Change
+    {
+        AVPixelFormat format;
+        QSize size;
+    };
+    for (const Change &change :
+        { Change{ AV_PIX_FMT_YUV420P, { 64, 48 } }, Change{ AV_PIX_FMT_YUV420P, { 96, 20 } },
+            Change{ AV_PIX_FMT_NV12, { 10, 10 } }, Change{ AV_PIX_FMT_YUV420P, { 64, 48 } } }) {
+        const HRFFmpegHandle<AVFrame> picture = noise(change.format, change.size);
+        const HRVideoFrame converted = converter.convert(picture.get());
+        QCOMPARE(static_cast<const QImage &>(converted), reference(picture.get(), opened));
+    }
+}
+
+void tst_HRPictureConverter::allocate_refuses_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("nothing") << QSize(0, 0);
+    QTest::newRow("no height") << QSize(10, 0);
+    QTest::newRow("30000 x 30000") << QSize(30000, 30000);
+    QTest::newRow("product above 32 bits") << QSize(1 << 20, 1 << 20);
+}
+
+void tst_HRPictureConverter::allocate_refuses()
+{
+    QFETCH(QSize, size);
+    HRPictureConverter converter;
+    QVERIFY(!converter.allocate(size));
+}
+
+void tst_HRPictureConverter::prepare_refuses_data()
+{
+    QTest::addColumn<int>("format");
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("no format") << int(AV_PIX_FMT_NONE) << QSize(64, 48);
+    QTest::newRow("no such format") << int(AV_PIX_FMT_NB) << QSize(64, 48);
+    QTest::newRow("memory of a device") << int(AV_PIX_FMT_VAAPI) << QSize(64, 48);
+    QTest::newRow("no size") << int(AV_PIX_FMT_YUV420P) << QSize(0, 48);
+}
+
+void tst_HRPictureConverter::prepare_refuses()
+{
+    QFETCH(int, format);
+    QFETCH(QSize, size);
+    HRPictureConverter converter;
+    QVERIFY(converter.allocate(QSize(64, 48)));
+    QVERIFY(!converter.prepare(size, AVPixelFormat(format)));
+}
+
+QTEST_APPLESS_MAIN(tst_HRPictureConverter)
+#include "tst_HRPictureConverter.moc"

@@ -1,0 +1,308 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "video/HRVideoSource.h"
+
+#include "support/FakeSource.h"
+#include "support/MessageGuard.h"
+
+#include <QElapsedTimer>
+#include <QSignalSpy>
+#include <QtTest>
+
+#include <thread>
+
+using namespace Hintreels;
+
+class tst_HRVideoSource : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void newSource_idlesWithoutSourceAndPictures();
+    void setSource_refuses_data();
+    void setSource_refuses();
+    void setSource_queuesEach_andTheLastWins();
+    void processActionQueue_appliesOneChangeAPass();
+    void changeSetAction_ignoresMinusOne();
+    void changeSetAction_emitsWithNoLockHeld();
+    void close_asksForNothing();
+    void setupSource_startsAFreshCacheAndAsksForDecoding();
+    void setupSource_asksForIdling_whenTheSourceIsEmpty();
+    void pictures_areAbsent_withoutACache();
+    void getFrame_returnsNull_beyondTheLast();
+    void clearChanges_dropsWhatWasAskedFor();
+    void loadSource_emitsSourceLoaded();
+    void notifyStreamEnded_emitsStreamEnded();
+    void changes_knowTheirTypes();
+    void quit_isSilent_whenNeverStarted();
+    void quit_wakesARestingThread();
+    void requests_wakeARestingThread();
+    void requests_surviveHammering();
+    void signals_keepTheirOrder();
+};
+
+namespace {
+
+const QUrl urlA("file:///a.mp4");
+const QUrl urlB("file:///b.mp4");
+
+} // namespace
+
+void tst_HRVideoSource::newSource_idlesWithoutSourceAndPictures()
+{
+    FakeSource source;
+    QCOMPARE(source.action(), HRVideoSource::idleAction);
+    QVERIFY(source.source().isEmpty());
+    QVERIFY(!source.shouldQuit());
+}
+
+void tst_HRVideoSource::setSource_refuses_data()
+{
+    QTest::addColumn<QUrl>("url");
+    QTest::newRow("the one in effect") << urlA;
+    QTest::newRow("empty") << QUrl();
+    QTest::newRow("empty text") << QUrl("");
+    QTest::newRow("invalid") << QUrl("http://[broken");
+}
+
+void tst_HRVideoSource::setSource_refuses()
+{
+    QFETCH(QUrl, url);
+    FakeSource source;
+    source.changeSetSource(urlA);
+    QSignalSpy actions(&source, &HRVideoSource::actionChanged);
+    QVERIFY(!source.setSource(url));
+    source.processActionQueue();
+    QCOMPARE(actions.count(), 0);
+    QCOMPARE(source.source(), urlA);
+}
+
+void tst_HRVideoSource::setSource_queuesEach_andTheLastWins()
+{
+    FakeSource source;
+    QVERIFY(source.setSource(urlA));
+    QVERIFY(source.setSource(urlB));
+    QVERIFY(source.source().isEmpty());
+    source.processActionQueue();
+    QCOMPARE(source.source(), urlA);
+    QCOMPARE(source.action(), HRVideoSource::loadAction);
+    source.processActionQueue();
+    QCOMPARE(source.source(), urlB);
+}
+
+void tst_HRVideoSource::processActionQueue_appliesOneChangeAPass()
+{
+    FakeSource source;
+    QSignalSpy actions(&source, &HRVideoSource::actionChanged);
+    source.setAction(HRVideoSource::closeAction);
+    source.setAction(HRVideoSource::decodeAction);
+    source.processActionQueue();
+    QCOMPARE(source.action(), HRVideoSource::closeAction);
+    source.processActionQueue();
+    QCOMPARE(source.action(), HRVideoSource::decodeAction);
+    source.processActionQueue();
+    QCOMPARE(actions.count(), 2);
+}
+
+void tst_HRVideoSource::changeSetAction_ignoresMinusOne()
+{
+    FakeSource source;
+    QSignalSpy actions(&source, &HRVideoSource::actionChanged);
+    source.changeSetAction(HRVideoSource::Action(-1));
+    QCOMPARE(actions.count(), 0);
+    QCOMPARE(source.action(), HRVideoSource::idleAction);
+}
+
+void tst_HRVideoSource::changeSetAction_emitsWithNoLockHeld()
+{
+    FakeSource source;
+    bool reached = false;
+    connect(&source, &HRVideoSource::actionChanged, this, [&] {
+        // Another thread can ask while the signal is being delivered.
+        std::thread([&] { reached = source.action() == HRVideoSource::closeAction; }).join();
+    });
+    source.changeSetAction(HRVideoSource::closeAction);
+    QVERIFY(reached);
+}
+
+void tst_HRVideoSource::close_asksForNothing()
+{
+    FakeSource source;
+    source.changeSetSource(urlA);
+    QSignalSpy actions(&source, &HRVideoSource::actionChanged);
+    source.close();
+    source.processActionQueue();
+    QCOMPARE(actions.count(), 0);
+    QCOMPARE(source.source(), urlA);
+}
+
+void tst_HRVideoSource::setupSource_startsAFreshCacheAndAsksForDecoding()
+{
+    FakeSource source;
+    QSignalSpy changed(&source, &HRVideoSource::sourceChanged);
+    source.load(urlA, 3);
+    QCOMPARE(source.loadedFrameCount(), size_t(3));
+    QCOMPARE(source.totalFrameCount(), size_t(3));
+    source.processActionQueue();
+    QCOMPARE(source.action(), HRVideoSource::decodeAction);
+
+    // Also for the same clip: it is decoded again.
+    source.setupSource();
+    QCOMPARE(source.totalFrameCount(), size_t(0));
+    QCOMPARE(changed.count(), 2);
+}
+
+void tst_HRVideoSource::setupSource_asksForIdling_whenTheSourceIsEmpty()
+{
+    FakeSource source;
+    source.changeSetAction(HRVideoSource::loadAction);
+    source.setupSource();
+    source.processActionQueue();
+    QCOMPARE(source.action(), HRVideoSource::idleAction);
+}
+
+void tst_HRVideoSource::pictures_areAbsent_withoutACache()
+{
+    FakeSource source;
+    QVERIFY(!source.isFrameAvailable(0));
+    QCOMPARE(source.loadedFrameCount(), size_t(0));
+    QCOMPARE(source.totalFrameCount(), size_t(0));
+    source.push(1);
+    QVERIFY(source.getFrame(0).isNull());
+}
+
+void tst_HRVideoSource::getFrame_returnsNull_beyondTheLast()
+{
+    FakeSource source;
+    source.load(urlA, 2);
+    QCOMPARE(TestClip::numberOf(source.getFrame(1)), 1);
+    QVERIFY(source.isFrameAvailable(1));
+    QVERIFY(!source.isFrameAvailable(2));
+    QVERIFY(source.getFrame(2).isNull());
+}
+
+void tst_HRVideoSource::clearChanges_dropsWhatWasAskedFor()
+{
+    FakeSource source;
+    source.setSource(urlA);
+    source.setAction(HRVideoSource::closeAction);
+    source.clearChanges();
+    source.processActionQueue();
+    QCOMPARE(source.action(), HRVideoSource::idleAction);
+    QVERIFY(source.source().isEmpty());
+}
+
+void tst_HRVideoSource::loadSource_emitsSourceLoaded()
+{
+    FakeSource source;
+    QSignalSpy loaded(&source, &HRVideoSource::sourceLoaded);
+    QVERIFY(source.loadSource());
+    QCOMPARE(loaded.count(), 1);
+}
+
+void tst_HRVideoSource::notifyStreamEnded_emitsStreamEnded()
+{
+    FakeSource source;
+    QSignalSpy ended(&source, &HRVideoSource::streamEnded);
+    source.notifyStreamEnded();
+    QCOMPARE(ended.count(), 1);
+}
+
+void tst_HRVideoSource::changes_knowTheirTypes()
+{
+    const HRVideoSourceChange change(HRVideoSource::closeAction);
+    const HRVideoSourceSourceChange sourceChange(urlA);
+    QCOMPARE(change.type(), 1);
+    QCOMPARE(change.action, HRVideoSource::closeAction);
+    QCOMPARE(sourceChange.type(), 3);
+    QCOMPARE(sourceChange.action, HRVideoSource::loadAction);
+    QCOMPARE(sourceChange.url, urlA);
+}
+
+void tst_HRVideoSource::quit_isSilent_whenNeverStarted()
+{
+    MessageGuard messages;
+    FakeSource source;
+    source.quit();
+    QVERIFY(source.shouldQuit());
+}
+
+void tst_HRVideoSource::quit_wakesARestingThread()
+{
+    MessageGuard messages;
+    qint64 longest = 0;
+    for (int i = 0; i < 20; ++i) {
+        FakeSource source;
+        source.start();
+        QThread::msleep(5);
+        QElapsedTimer timer;
+        timer.start();
+        source.quit();
+        longest = qMax(longest, timer.elapsed());
+    }
+    QVERIFY2(longest < 80, qPrintable(QString("%1 ms").arg(longest)));
+}
+
+void tst_HRVideoSource::requests_wakeARestingThread()
+{
+    FakeSource source;
+    source.start();
+    qint64 total = 0;
+    for (int i = 0; i < 20; ++i) {
+        QThread::msleep(3);
+        QElapsedTimer timer;
+        timer.start();
+        source.setSource(QUrl(QString("file:///%1").arg(i)));
+        while (source.source() != QUrl(QString("file:///%1").arg(i)) && timer.elapsed() < 1000)
+            QThread::yieldCurrentThread();
+        total += timer.elapsed();
+    }
+    // A thread that looks every 100 ms takes 50 for each on the average.
+    QVERIFY2(total < 20 * 20, qPrintable(QString("%1 ms").arg(total)));
+}
+
+void tst_HRVideoSource::requests_surviveHammering()
+{
+    FakeSource source;
+    std::atomic<bool> done(false);
+    const auto hammer = [&](int seed) {
+        for (int i = 0; !done; ++i) {
+            source.setSource(QUrl(QString("file:///%1/%2").arg(seed).arg(i)));
+            source.setAction(HRVideoSource::idleAction);
+            if (i % 64 == 0)
+                source.clearChanges();
+        }
+    };
+    std::thread first(hammer, 1);
+    std::thread second(hammer, 2);
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < 300) {
+        source.processActionQueue();
+        source.setupSource();
+        source.push(1);
+    }
+    done = true;
+    first.join();
+    second.join();
+
+    source.clearChanges();
+    QVERIFY(source.setSource(urlA));
+    source.processActionQueue();
+    QCOMPARE(source.source(), urlA);
+}
+
+void tst_HRVideoSource::signals_keepTheirOrder()
+{
+    const QMetaObject &meta = HRVideoSource::staticMetaObject;
+    QStringList names;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+        names += meta.method(i).methodSignature();
+    const QStringList expected{ "frameReady()", "sourceChanged()", "streamEnded()",
+        "sourceLoaded()", "actionChanged()", "positionChanged()", "loadProgressChanged()" };
+    QCOMPARE(names, expected);
+}
+
+QTEST_GUILESS_MAIN(tst_HRVideoSource)
+#include "tst_HRVideoSource.moc"
