@@ -9,6 +9,7 @@
 #include "ui/HRContentTree_p.h"
 #include "ui/HRCursorShape_p.h"
 #include "ui/HROverrideCursors_p.h"
+#include "ui/HRQuickRenderer_p.h"
 
 #include <QFileInfo>
 #include <QQmlEngine>
@@ -48,12 +49,18 @@ QVariant managerSetting(HRManager *manager, HRContextKey key, const QVariant &de
 } // namespace
 
 HRView::HRView(HRManager *manager, QWindow *parent)
-    : QQuickView(parent)
+    : QQuickView((chooseQuickRenderer(), parent))
     , m_manager(manager)
     , m_cursors(std::make_unique<HROverrideCursors>())
 {
     connect(engine(), &QQmlEngine::warnings, this, &HRView::handleWarnings);
     connect(this, &QQuickView::statusChanged, this, &HRView::statusHasChanged);
+    // A renderer that fails ends the application unless somebody listens.
+    connect(this, &QQuickWindow::sceneGraphError, this,
+        [this](SceneGraphError, const QString &message) {
+            if (m_manager)
+                m_manager->handleMessage(messageError, message);
+        });
     if (manager)
         connect(&manager->context(), &HRContext::settingDidChange, this,
             &HRView::managerContextSettingDidChange);
