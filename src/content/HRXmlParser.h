@@ -36,7 +36,8 @@ struct HRXmlParserPrivate;
 ///
 /// Errors end the reading; they are written to Qt's debug output with line and column. So are
 /// documents that would exhaust the host: elements nested so deeply that the stack runs short, and
-/// entities that are too many or grow too much. External entities are never opened.
+/// entities or namespace prefixes that are too many or grow too much. External entities are never
+/// opened. A document is held in memory whole while it is read.
 ///
 /// A parser may read several documents in turn. Use one parser on one thread.
 class HINTREELS_EXPORT HRXmlParser : public QXmlSimpleReader, private QXmlDefaultHandler
