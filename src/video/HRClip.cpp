@@ -80,9 +80,11 @@ QString HRClip::tryOpen(const QString &path)
     if (!m_decoder.allocatePicture())
         return QStringLiteral("Could not allocate original frame in %1");
     const QSize size(m_decoder.width(), m_decoder.height());
-    if (!m_converter.allocate(size))
+    // A file that ends behind its header has no picture format, and perhaps no size either.
+    const AVPixelFormat format = m_decoder.format();
+    if (format != AV_PIX_FMT_NONE && !m_converter.allocate(size))
         return QStringLiteral("Could not allocate rgb frame in %1");
-    if (!m_converter.prepare(size, m_decoder.format()))
+    if (!m_converter.prepare(size, format))
         return QStringLiteral("Could not get a swscale context for %1");
     return QString();
 }
