@@ -6,6 +6,7 @@
 #include "content/HRXmlElement.h"
 #include "ui/HRScrollBarComponent.h"
 #include "ui/HRStyledRectangleComponent.h"
+#include "video/HRVideoComponent.h"
 
 #include <QtQml>
 
@@ -21,6 +22,7 @@ void registerType(const char *name)
 
 bool registerAllTypes()
 {
+    registerType<HRVideoComponent>("HRVideoComponent");
     registerType<HRXmlElement>("HRXmlElement");
     registerType<HRStyledRectangleComponent>("HRStyledRectangle");
     registerType<HRScrollBarComponent>("HRScrollBar");
