@@ -21,8 +21,10 @@ Column {
         model: hint.values.blocks
 
         Loader {
+            readonly property var block: modelData
+
             width: list.width
-            Component.onCompleted: setSource(list.componentOfBlock[modelData.block], { "block": modelData })
+            onBlockChanged: setSource(list.componentOfBlock[block.block], { "block": block })
         }
     }
 }

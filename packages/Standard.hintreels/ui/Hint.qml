@@ -12,6 +12,9 @@ QtObject {
     readonly property bool rightToLeft: values.rightToLeft === true
     readonly property string documentation: hintreelView.documentationAvailable && values.documentation || ""
 
+    // All that binds to the values has them by now.
+    signal taken
+
     // Another hint's UI may have left the popup open for good; that wish ends with its hint.
     function take() {
         if (!element)
@@ -19,6 +22,7 @@ QtObject {
         if (hintreelView.stayOpen)
             hintreelView.stayOpen = false
         values = hintreelReader.read(element)
+        taken()
     }
 
     onElementChanged: take()

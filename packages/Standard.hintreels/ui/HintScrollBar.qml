@@ -7,6 +7,7 @@ import QtQuick.Templates 2.15 as T
 
 T.ScrollBar {
     id: bar
+    objectName: "scrollBar"
 
     implicitWidth: 3 * look.step
     padding: look.step

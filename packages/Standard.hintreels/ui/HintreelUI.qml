@@ -11,9 +11,18 @@ Rectangle {
     readonly property bool detached: hintreelView.reserved
     readonly property int tallest: Math.min(Screen.height, Screen.desktopAvailableHeight) - 2 * look.padding
 
+    // The popup takes its size at once; columns on their own lay themselves out a frame later.
+    function layOut() {
+        title.forceLayout()
+        blocks.forceLayout()
+        column.forceLayout()
+    }
+
     implicitWidth: look.width
     implicitHeight: Math.min(Math.ceil(page.contentHeight), tallest)
     color: look.background
+
+    Component.onCompleted: layOut()
 
     LayoutMirroring.enabled: hint.rightToLeft
     LayoutMirroring.childrenInherit: true
@@ -24,6 +33,7 @@ Rectangle {
 
     Page {
         id: page
+        objectName: "page"
         anchors.fill: parent
         contentHeight: column.height + 2 * look.padding
         focus: true
@@ -43,10 +53,13 @@ Rectangle {
             }
 
             BlockList {
+                id: blocks
+                objectName: "blocks"
                 width: parent.width
             }
 
             LinkRow {
+                objectName: "documentation"
                 anchors.left: parent.left
                 availableWidth: parent.width
                 visible: hint.documentation
@@ -58,6 +71,7 @@ Rectangle {
 
     IconButton {
         id: pin
+        objectName: "pin"
         anchors.right: parent.right
         anchors.rightMargin: look.padding - look.step
         y: Math.round(look.padding + (title.lineHeight - height) / 2)
@@ -65,6 +79,11 @@ Rectangle {
         name: words.pin
         path: "M10 2 L14 6 L11 7 L9 11 L5 7 L9 5 Z M7 9 L3 13"
         onTriggered: hintreelView.reserved = true
+    }
+
+    Connections {
+        target: hint
+        function onTaken() { root.layOut() }
     }
 
     // A window has a frame of its own.

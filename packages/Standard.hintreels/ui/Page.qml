@@ -55,6 +55,6 @@ Flickable {
     // What is new is read from its beginning.
     Connections {
         target: hint
-        function onValuesChanged() { page.contentY = 0 }
+        function onTaken() { page.contentY = 0 }
     }
 }

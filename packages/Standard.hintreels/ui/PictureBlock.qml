@@ -10,7 +10,7 @@ Column {
     property var block
     readonly property var file: hintreelReader.picture(hintreelView.findResource(block.source))
     readonly property real wantedWidth: look.scaled(Number(block.width) > 0 ? block.width : file.width || 0)
-    readonly property bool shown: picture.status === Image.Ready
+    readonly property bool shown: file.url !== undefined && picture.status !== Image.Error
 
     visible: shown
     height: shown ? implicitHeight : 0

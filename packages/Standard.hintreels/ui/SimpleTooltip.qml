@@ -17,6 +17,12 @@ Rectangle {
     LayoutMirroring.enabled: hint.rightToLeft
     LayoutMirroring.childrenInherit: true
 
+    // The popup takes the new size at once; a column on its own lays itself out a frame later.
+    Connections {
+        target: hint
+        function onTaken() { title.forceLayout() }
+    }
+
     Title {
         id: title
         x: 3 * look.step

@@ -28,6 +28,7 @@ Column {
 
         Text {
             id: title
+            objectName: "title"
             anchors.left: parent.left
             width: heading.oneLine ? implicitWidth : heading.lineWidth
             text: heading.titleText
@@ -43,6 +44,7 @@ Column {
 
         KeyCaps {
             id: caps
+            objectName: "shortcut"
             anchors.left: heading.oneLine ? title.right : parent.left
             anchors.leftMargin: heading.oneLine && title.text ? 3 * look.step : 0
             y: heading.oneLine ? Math.round((heading.lineHeight - height) / 2) : title.height + 2 * look.step
@@ -54,6 +56,7 @@ Column {
 
     Text {
         id: summary
+        objectName: "summary"
         width: heading.width
         visible: text
         text: words.content(hint.values.summary)
