@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include <Hintreels/HRContext>
+#include <Hintreels/HRInterface>
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QPushButton>
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+
+    QWidget window;
+    QHBoxLayout layout(&window);
+    for (const char *name : { "brew", "pour", "clean" }) {
+        auto *button = new QPushButton(name);
+        button->setObjectName(name); // the key of the button's hint
+        layout.addWidget(button);
+    }
+
+    HRContext settings;
+    settings.set(Hintreels::applicationFilterKey, true); // the library watches the pointer itself
+    // Data paths: the look that all packages share, and the packages beside this program.
+    Hintreels::HRInterface hints(settings, { STANDARD_PACKAGES, MY_PACKAGES });
+
+    window.show();
+    return application.exec();
+}
