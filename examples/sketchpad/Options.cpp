@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "Options.h"
+
+#include <QCommandLineParser>
+
+#include <cstdlib>
+
+namespace Sketchpad {
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("Options", text);
+}
+
+[[noreturn]] void refuse(const QString &problem)
+{
+    qCritical("%s", qPrintable(problem));
+    std::exit(2);
+}
+
+Theme themeNamed(const QString &name)
+{
+    if (name == QLatin1String("light"))
+        return Theme::Light;
+    if (name == QLatin1String("dark"))
+        return Theme::Dark;
+    refuse(tr("There is no theme \"%1\"; use light or dark.").arg(name));
+}
+
+} // namespace
+
+Options readOptions(const QCoreApplication &application)
+{
+    const QCommandLineOption theme(QStringLiteral("theme"), tr("light or dark."),
+        QStringLiteral("theme"), QStringLiteral("light"));
+    const QCommandLineOption locale(QStringLiteral("locale"),
+        tr("The language of the hints, such as de_DE."), QStringLiteral("name"),
+        QStringLiteral("en_US"));
+    const QCommandLineOption geometry(QStringLiteral("geometry-file"),
+        tr("Keep a file that says where the tools are on the screen."),
+        QStringLiteral("file"));
+    QCommandLineParser parser;
+    parser.setApplicationDescription(tr("A small drawing program whose tools explain themselves."));
+    parser.addHelpOption();
+    parser.addOptions({ theme, locale, geometry });
+    parser.process(application);
+    return { themeNamed(parser.value(theme)), parser.value(locale), parser.value(geometry) };
+}
+
+} // namespace Sketchpad

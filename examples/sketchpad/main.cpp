@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "Options.h"
+#include "drawing/WelcomeDrawing.h"
+#include "hints/SketchpadHints.h"
+#include "window/GeometryReport.h"
+#include "window/MainWindow.h"
+
+#include <Hintreels/HRContext>
+
+#include <QApplication>
+
+#include <memory>
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    application.setApplicationName(QStringLiteral("Sketchpad"));
+    const Sketchpad::Options options = Sketchpad::readOptions(application);
+
+    Sketchpad::MainWindow window;
+    window.setTheme(options.theme);
+    Sketchpad::drawWelcome(window.drawing());
+
+    HRContext context;
+    Sketchpad::SketchpadHints::configure(context);
+    Sketchpad::SketchpadHints hints(
+        context, { STANDARD_PACKAGES_DIR, SKETCHPAD_PACKAGES_DIR }, window);
+    window.setHintLocale(options.locale);
+
+    std::unique_ptr<Sketchpad::GeometryReport> report;
+    if (!options.geometryFile.isEmpty())
+        report = std::make_unique<Sketchpad::GeometryReport>(window, options.geometryFile);
+    window.show();
+    return application.exec();
+}
