@@ -1,0 +1,333 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "video/HRVideoSourceFFMPEG.h"
+
+#include "support/MessageGuard.h"
+#include "support/TestClip.h"
+
+#include <QDateTime>
+#include <QElapsedTimer>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <random>
+
+using namespace Hintreels;
+
+class tst_HRVideoSourceFFMPEG : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void newSource_hasNothingOpen();
+    void clip_isDecodedWholeAndClosed();
+    void clip_isDecodedAgain_afterAnother();
+    void clip_knowsItsFacts_whileItIsOpen();
+    void failure_leavesOneMessageAndIdles_data();
+    void failure_leavesOneMessageAndIdles();
+    void emptySource_closesInSilence();
+    void closeAction_closesTheClip();
+    void quitAction_endsTheThread();
+    void seekAction_idles_whenNothingIsOpen();
+    void changeSetPosition_resetsTheClock_whenNothingIsOpen();
+    void changeSetPosition_goesOnFromThere_whileOpen();
+    void readers_doNotWaitForADecodedPicture();
+    void quit_isQuick_atAnyMoment();
+    void setSource_survivesHammering();
+
+private:
+    QString path(const QString &name) const { return m_directory.filePath(name); }
+    QUrl clip(const QString &name, int pictures = 8);
+
+    QTemporaryDir m_directory;
+    QUrl m_clip;
+};
+
+namespace {
+
+/// A running source with its spies.
+struct Decoding
+{
+    Decoding()
+        : loaded(&source, &HRVideoSource::sourceLoaded)
+        , ended(&source, &HRVideoSource::streamEnded)
+    {
+        source.start();
+    }
+
+    bool isSettled() { return source.action() == HRVideoSource::idleAction; }
+
+    HRVideoSourceFFMPEG source;
+    QSignalSpy loaded;
+    QSignalSpy ended;
+};
+
+/// A source that the test drives itself, without the thread.
+class DrivenSource : public HRVideoSourceFFMPEG
+{
+public:
+    using HRVideoSourceFFMPEG::loadSource;
+};
+
+} // namespace
+
+void tst_HRVideoSourceFFMPEG::initTestCase()
+{
+    m_clip = clip("clip.mp4");
+}
+
+QUrl tst_HRVideoSourceFFMPEG::clip(const QString &name, int pictures)
+{
+    TestClip encoded;
+    encoded.rate = 25;
+    encoded.pictures = pictures;
+    return QUrl::fromLocalFile(encoded.write(path(name)));
+}
+
+void tst_HRVideoSourceFFMPEG::newSource_hasNothingOpen()
+{
+    HRVideoSourceFFMPEG source;
+    QCOMPARE(source.objectName(), QString("FFMPEG"));
+    QVERIFY(!source.isOpen());
+    QCOMPARE(source.frameWidth(), 200.0);
+    QCOMPARE(source.frameHeight(), 150.0);
+    QCOMPARE(source.duration(), 0.0);
+    QCOMPARE(source.timeBase(), 0.0);
+    QCOMPARE(source.frameRate(), 0.0);
+    QCOMPARE(source.progress(), 0.0);
+    QCOMPARE(source.position(), size_t(0));
+    const double now = double(QDateTime::currentMSecsSinceEpoch()) / 1000.0;
+    QVERIFY(qAbs(source.getTime() - now) < 60.0);
+}
+
+void tst_HRVideoSourceFFMPEG::clip_isDecodedWholeAndClosed()
+{
+    MessageGuard messages;
+    Decoding decoding;
+    QVERIFY(decoding.source.setSource(m_clip));
+    QTRY_COMPARE(decoding.ended.count(), 1);
+    QTRY_VERIFY(decoding.isSettled());
+    QCOMPARE(decoding.loaded.count(), 1);
+    QVERIFY(!decoding.source.isOpen());
+    QCOMPARE(decoding.source.frameWidth(), 200.0);
+    QCOMPARE(decoding.source.frameHeight(), 150.0);
+    QCOMPARE(decoding.source.frameRate(), 25.0);
+    QCOMPARE(decoding.source.position(), size_t(0));
+    QCOMPARE(decoding.source.totalFrameCount(), size_t(8));
+    for (unsigned i = 0; i < 8; ++i) {
+        const HRVideoFrame picture = decoding.source.getFrame(i);
+        QCOMPARE(TestClip::numberOf(picture), int(i));
+        QCOMPARE(picture.pts(), i * 0.04);
+        QCOMPARE(picture.format(), QImage::Format_RGB32);
+    }
+    QCOMPARE(decoding.source.progress(), 7 * 0.04 / decoding.source.duration());
+    QTest::qWait(20);
+    QCOMPARE(decoding.ended.count(), 1);
+}
+
+void tst_HRVideoSourceFFMPEG::clip_isDecodedAgain_afterAnother()
+{
+    Decoding decoding;
+    const QUrl other = clip("other.mp4", 5);
+    QVERIFY(decoding.source.setSource(m_clip));
+    QTRY_COMPARE(decoding.ended.count(), 1);
+    QVERIFY(!decoding.source.setSource(m_clip));
+    QVERIFY(decoding.source.setSource(other));
+    QTRY_COMPARE(decoding.ended.count(), 2);
+    QCOMPARE(decoding.source.totalFrameCount(), size_t(5));
+    // The clock runs on from clip to clip.
+    QCOMPARE(decoding.source.getFrame(0).pts(), 8 * 0.04);
+    QVERIFY(decoding.source.setSource(m_clip));
+    QTRY_COMPARE(decoding.ended.count(), 3);
+    QCOMPARE(decoding.source.totalFrameCount(), size_t(8));
+}
+
+void tst_HRVideoSourceFFMPEG::clip_knowsItsFacts_whileItIsOpen()
+{
+    DrivenSource source;
+    QSignalSpy loaded(&source, &HRVideoSource::sourceLoaded);
+    source.changeSetSource(m_clip);
+    QVERIFY(source.loadSource());
+    QCOMPARE(loaded.count(), 1);
+    QVERIFY(source.isOpen());
+    QCOMPARE(source.frameWidth(), 64.0);
+    QCOMPARE(source.frameHeight(), 48.0);
+    QCOMPARE(source.frameRate(), 25.0);
+    QCOMPARE(source.duration(), 0.32);
+    QVERIFY(source.timeBase() >= 0.0);
+    source.close();
+    QVERIFY(!source.isOpen());
+    QCOMPARE(source.frameWidth(), 200.0);
+}
+
+void tst_HRVideoSourceFFMPEG::failure_leavesOneMessageAndIdles_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("missing") << path("missing.mp4") << "Could not open media at: %1";
+    QTest::newRow("percent in the name") << path("100%1.mp4") << "Could not open media at: %1";
+    TestClip header;
+    header.codec = "mpeg4";
+    header.options = "";
+    header.pictures = 0;
+    header.fileOptions = "movflags=empty_moov+frag_keyframe";
+    QTest::newRow("header alone") << header.write(path("header.mp4"))
+                                  << "Could not get a swscale context for %1";
+}
+
+void tst_HRVideoSourceFFMPEG::failure_leavesOneMessageAndIdles()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, message);
+    MessageGuard messages;
+    Decoding decoding;
+    QSignalSpy actions(&decoding.source, &HRVideoSource::actionChanged);
+    QVERIFY(decoding.source.setSource(QUrl::fromLocalFile(file)));
+    QStringList seen;
+    QTRY_VERIFY(!(seen += messages.takeMessages()).isEmpty());
+    QCOMPARE(seen, QStringList{ message.arg(file) });
+    QTRY_VERIFY(decoding.isSettled());
+    QCOMPARE(decoding.loaded.count(), 0);
+    QCOMPARE(decoding.ended.count(), 0);
+    QCOMPARE(decoding.source.totalFrameCount(), size_t(0));
+
+    // The next good clip plays.
+    QVERIFY(decoding.source.setSource(m_clip));
+    QTRY_COMPARE(decoding.ended.count(), 1);
+}
+
+void tst_HRVideoSourceFFMPEG::emptySource_closesInSilence()
+{
+    MessageGuard messages;
+    DrivenSource source;
+    source.changeSetSource(m_clip);
+    QVERIFY(source.loadSource());
+    source.changeSetSource(QUrl());
+    QVERIFY(!source.loadSource());
+    QVERIFY(!source.isOpen());
+}
+
+void tst_HRVideoSourceFFMPEG::closeAction_closesTheClip()
+{
+    DrivenSource source;
+    source.changeSetSource(m_clip);
+    QVERIFY(source.loadSource());
+    source.clearChanges();
+    source.setAction(HRVideoSource::closeAction);
+    source.start();
+    QTRY_VERIFY(!source.isOpen());
+    QTRY_COMPARE(source.action(), HRVideoSource::idleAction);
+    QCOMPARE(source.totalFrameCount(), size_t(0));
+}
+
+void tst_HRVideoSourceFFMPEG::quitAction_endsTheThread()
+{
+    HRVideoSourceFFMPEG source;
+    source.start();
+    source.setAction(HRVideoSource::quitAction);
+    QVERIFY(source.wait(1000));
+}
+
+void tst_HRVideoSourceFFMPEG::seekAction_idles_whenNothingIsOpen()
+{
+    Decoding decoding;
+    QSignalSpy actions(&decoding.source, &HRVideoSource::actionChanged);
+    decoding.source.setAction(HRVideoSource::seekAction);
+    QTRY_COMPARE(actions.count(), 2);
+    QVERIFY(decoding.isSettled());
+}
+
+void tst_HRVideoSourceFFMPEG::changeSetPosition_resetsTheClock_whenNothingIsOpen()
+{
+    Decoding decoding;
+    QSignalSpy position(&decoding.source, &HRVideoSource::positionChanged);
+    QVERIFY(decoding.source.setSource(m_clip));
+    QTRY_COMPARE(decoding.ended.count(), 1);
+    decoding.source.changeSetPosition(3);
+    QCOMPARE(position.count(), 1);
+    QCOMPARE(decoding.source.progress(), 0.0);
+    QVERIFY(decoding.source.setSource(clip("again.mp4", 3)));
+    QTRY_COMPARE(decoding.ended.count(), 2);
+    QCOMPARE(decoding.source.getFrame(0).pts(), 0.0);
+}
+
+void tst_HRVideoSourceFFMPEG::changeSetPosition_goesOnFromThere_whileOpen()
+{
+    TestClip encoded;
+    encoded.rate = 25;
+    encoded.pictures = 20;
+    encoded.options = "g=1:crf=12"; // every picture can be started from
+    DrivenSource source;
+    QSignalSpy ended(&source, &HRVideoSource::streamEnded);
+    source.changeSetSource(QUrl::fromLocalFile(encoded.write(path("positions.mp4"))));
+    QVERIFY(source.loadSource());
+    source.changeSetPosition(15);
+    source.start();
+    QTRY_COMPARE(ended.count(), 1);
+    QCOMPARE(source.totalFrameCount(), size_t(5));
+    QCOMPARE(TestClip::numberOf(source.getFrame(0)), 15);
+    QCOMPARE(source.getFrame(0).pts(), 0.6);
+}
+
+void tst_HRVideoSourceFFMPEG::readers_doNotWaitForADecodedPicture()
+{
+    TestClip large;
+    large.codec = "ffv1";
+    large.options = "";
+    large.size = QSize(2400, 1600);
+    large.pictures = 10;
+    Decoding decoding;
+    QVERIFY(decoding.source.setSource(QUrl::fromLocalFile(large.write(path("large.mkv")))));
+    QTRY_VERIFY(decoding.source.isOpen());
+    int asked = 0;
+    for (; decoding.source.isOpen() && asked < 5000; ++asked)
+        decoding.source.frameWidth();
+    // Who waits for the decoder gets an answer or two a picture.
+    QVERIFY2(asked > 200, qPrintable(QString::number(asked)));
+}
+
+void tst_HRVideoSourceFFMPEG::quit_isQuick_atAnyMoment()
+{
+    MessageGuard messages;
+    std::mt19937 random(3);
+    TestClip encoded;
+    encoded.size = QSize(640, 360);
+    encoded.pictures = 50;
+    const QUrl url = QUrl::fromLocalFile(encoded.write(path("quit.mp4")));
+    qint64 longest = 0;
+    for (int i = 0; i < 40; ++i) {
+        Decoding decoding;
+        decoding.source.setSource(url);
+        QThread::usleep(random() % 20000);
+        QElapsedTimer timer;
+        timer.start();
+        decoding.source.quit();
+        longest = qMax(longest, timer.elapsed());
+    }
+    QVERIFY2(longest < 1000, qPrintable(QString("%1 ms").arg(longest)));
+}
+
+void tst_HRVideoSourceFFMPEG::setSource_survivesHammering()
+{
+    MessageGuard messages;
+    Decoding decoding;
+    const QUrl other = clip("hammer.mp4", 30);
+    for (int i = 0; i < 400; ++i) {
+        decoding.source.setSource(i % 2 ? m_clip : other);
+        if (i % 7 == 0)
+            decoding.source.setAction(HRVideoSource::decodeAction);
+        decoding.source.getFrame(unsigned(i) % 8);
+        if (i % 40 == 0)
+            QThread::msleep(2);
+    }
+    const QUrl last = clip("last.mp4", 12);
+    QVERIFY(decoding.source.setSource(last));
+    QTRY_VERIFY(decoding.source.source() == last && decoding.isSettled());
+    QTRY_COMPARE(decoding.source.totalFrameCount(), size_t(12));
+}
+
+QTEST_GUILESS_MAIN(tst_HRVideoSourceFFMPEG)
+#include "tst_HRVideoSourceFFMPEG.moc"
