@@ -31,6 +31,13 @@ Theme themeNamed(const QString &name)
     refuse(tr("There is no theme \"%1\"; use light or dark.").arg(name));
 }
 
+QString knownIndex(const QString &name)
+{
+    if (name != QLatin1String("memory") && name != QLatin1String("sqlite"))
+        refuse(tr("There is no index \"%1\"; use memory or sqlite.").arg(name));
+    return name;
+}
+
 } // namespace
 
 Options readOptions(const QCoreApplication &application)
@@ -40,15 +47,18 @@ Options readOptions(const QCoreApplication &application)
     const QCommandLineOption locale(QStringLiteral("locale"),
         tr("The language of the hints, such as de_DE."), QStringLiteral("name"),
         QStringLiteral("en_US"));
+    const QCommandLineOption index(QStringLiteral("index"),
+        tr("Where hints are looked up: memory or sqlite."), QStringLiteral("index"),
+        QStringLiteral("memory"));
     const QCommandLineOption geometry(QStringLiteral("geometry-file"),
-        tr("Keep a file that says where the tools are on the screen."),
-        QStringLiteral("file"));
+        tr("Keep a file that says where the tools are on the screen."), QStringLiteral("file"));
     QCommandLineParser parser;
     parser.setApplicationDescription(tr("A small drawing program whose tools explain themselves."));
     parser.addHelpOption();
-    parser.addOptions({ theme, locale, geometry });
+    parser.addOptions({ theme, locale, index, geometry });
     parser.process(application);
-    return { themeNamed(parser.value(theme)), parser.value(locale), parser.value(geometry) };
+    return { themeNamed(parser.value(theme)), parser.value(locale), knownIndex(parser.value(index)),
+        parser.value(geometry) };
 }
 
 } // namespace Sketchpad

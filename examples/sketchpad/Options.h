@@ -18,6 +18,7 @@ struct Options
 {
     Theme theme = Theme::Light;
     QString locale;
+    QString index;
     QString geometryFile;
 };
 

@@ -3,11 +3,13 @@
 
 #include "Options.h"
 #include "drawing/WelcomeDrawing.h"
+#include "hints/IndexChoice.h"
 #include "hints/SketchpadHints.h"
 #include "window/GeometryReport.h"
 #include "window/MainWindow.h"
 
 #include <Hintreels/HRContext>
+#include <Hintreels/HRIndex>
 
 #include <QApplication>
 
@@ -25,13 +27,17 @@ int main(int argc, char *argv[])
 
     HRContext context;
     Sketchpad::SketchpadHints::configure(context);
-    Sketchpad::SketchpadHints hints(
-        context, { STANDARD_PACKAGES_DIR, SKETCHPAD_PACKAGES_DIR }, window);
+    const QStringList dataPaths{ STANDARD_PACKAGES_DIR, SKETCHPAD_PACKAGES_DIR };
+    const auto index = Sketchpad::makeIndex(options.index, context, dataPaths);
+    Sketchpad::SketchpadHints hints(context, dataPaths, window, index.get());
     window.setHintLocale(options.locale);
 
     std::unique_ptr<Sketchpad::GeometryReport> report;
     if (!options.geometryFile.isEmpty())
         report = std::make_unique<Sketchpad::GeometryReport>(window, options.geometryFile);
     window.show();
-    return application.exec();
+    const int status = application.exec();
+    if (index)
+        index->close();
+    return status;
 }

@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: MIT
 
 #include "drawing/Canvas.h"
+#include "hints/IndexChoice.h"
 #include "hints/SketchpadHints.h"
 #include "window/ActionTable.h"
 #include "window/GeometryReport.h"
 #include "window/MainWindow.h"
 
 #include <Hintreels/HRContext>
+#include <Hintreels/HRIndex>
 
 #include <QAction>
 #include <QMenu>
@@ -135,6 +137,8 @@ private Q_SLOTS:
     void export_showsSheetWithoutSelection();
     void zoomTool_zoomsInOutAndToFrame();
 
+    void index_holdsContent_data();
+    void index_holdsContent();
     void everyAction_hasContent();
     void everyNamedWidget_hasContent();
     void everyDocumentationName_hasPage();
@@ -420,6 +424,28 @@ void tst_Sketchpad::zoomTool_zoomsInOutAndToFrame()
     QVERIFY((f.canvas.mapToScene(f.canvas.viewport()->rect().center()) - QPointF(425, 295))
                 .manhattanLength()
         < 5);
+}
+
+void tst_Sketchpad::index_holdsContent_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : { "memory", "sqlite" })
+        QTest::newRow(name) << name;
+}
+
+void tst_Sketchpad::index_holdsContent()
+{
+    QFETCH(QString, name);
+    MainWindow window;
+    QTemporaryDir directory;
+    HRContext context = configuredContext();
+    context.set(Hintreels::persistentDirectoryKey, directory.path());
+    const QStringList dataPaths{ STANDARD_PACKAGES_DIR, SKETCHPAD_PACKAGES_DIR };
+    const std::unique_ptr<Hintreels::HRIndex> index = makeIndex(name, context, dataPaths);
+    SketchpadHints hints(context, dataPaths, window, index.get());
+
+    QCOMPARE(hints.hintreelAttribute("toolPen", "title", {}), QString("Pen"));
+    QVERIFY(hints.show("toolPen", { 100, 100 }, &window));
 }
 
 void tst_Sketchpad::everyAction_hasContent()

@@ -29,6 +29,7 @@ Canvas::Canvas(Drawing &drawing, QWidget *parent)
 {
     setRenderHint(QPainter::Antialiasing);
     setTransformationAnchor(QGraphicsView::AnchorUnderMouse);
+    setResizeAnchor(QGraphicsView::AnchorViewCenter);
     setViewportUpdateMode(QGraphicsView::FullViewportUpdate);
     setFrameShape(QFrame::NoFrame);
     setMouseTracking(true);

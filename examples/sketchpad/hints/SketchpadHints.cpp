@@ -39,6 +39,9 @@ SketchpadHints::SketchpadHints(
     : HRInterface(context, dataPaths, index)
     , m_window(window)
 {
+    // The message log shows the look-ups too, not only what went wrong; those of the start-up would
+    // go to the debug output instead.
+    HRInterface::context().set(messageLevelKey, messageInformation);
     setGlobalProperty(QStringLiteral("application"), QStringLiteral("Sketchpad"));
     setGlobalProperty(QStringLiteral("undoLimit"), QString::number(Drawing::undoLimit));
     setGlobalProperty(QStringLiteral("modifier"), QStringLiteral("Ctrl"));
@@ -48,16 +51,16 @@ SketchpadHints::SketchpadHints(
 
 void SketchpadHints::configure(HRContext &context)
 {
+    context.set(applicationNameKey, QStringLiteral("Sketchpad"));
     context.set(applicationFilterKey, true);
     context.set(allowNamedResourcesKey, true);
     context.set(localeKey, QStringLiteral("en_US"));
     context.set(showAnimationDurationKey, 120);
-    // The message log shows the look-ups too, not only what went wrong.
-    context.set(messageLevelKey, messageInformation);
 }
 
 QWidget *SketchpadHints::createWindow(HRWindowType)
 {
+    // A plain widget, since the hint goes into its layout and fixes its size.
     auto *window = new QWidget(&m_window, Qt::Tool);
     window->setAttribute(Qt::WA_DeleteOnClose);
     return window;
