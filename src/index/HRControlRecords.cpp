@@ -3,23 +3,31 @@
 
 #include "index/HRControlRecords_p.h"
 
+#include <QFile>
+
 namespace Hintreels {
 
-bool HRControlRecords::addFirst(const QString &path, int depth)
+HRControlRecord *HRControlRecords::addFirst(const QString &path, int depth)
 {
-    if (contains(path, depth))
-        return false;
-    m_known.insert(path, depth);
-    m_records.push_front({ path, depth });
-    return true;
+    if (!learn(path, depth))
+        return nullptr;
+    m_records.push_front({ path, depth, QFile::encodeName(path) });
+    return &m_records.front();
 }
 
-bool HRControlRecords::addLast(const QString &path, int depth)
+HRControlRecord *HRControlRecords::addLast(const QString &path, int depth)
 {
-    if (contains(path, depth))
+    if (!learn(path, depth))
+        return nullptr;
+    m_records.push_back({ path, depth, QFile::encodeName(path) });
+    return &m_records.back();
+}
+
+bool HRControlRecords::learn(const QString &path, int depth)
+{
+    if (m_known.contains(path, depth))
         return false;
     m_known.insert(path, depth);
-    m_records.push_back({ path, depth });
     return true;
 }
 

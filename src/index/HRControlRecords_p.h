@@ -3,6 +3,10 @@
 
 #pragma once
 
+#include "index/HRControlReading_p.h"
+#include "index/HRFileStamp_p.h"
+
+#include <QByteArray>
 #include <QHash>
 #include <QString>
 
@@ -10,29 +14,33 @@
 
 namespace Hintreels {
 
-/// A control file as it was named to the index.
+/// A control file as it was named to the index, and what is remembered of it.
 struct HRControlRecord
 {
     QString path;
     int depth; // levels below the package directory; 1 directly in it
+    QByteArray nativePath = {};
+    HRControlReading reading = {};
+    HRFileStamp stamp = {}; // of the file when the reading was taken
+    bool isSettled = false; // whether the stamp will tell of every edit since
 };
 
 /// The known control files in the order in which they are tried, one for each path and depth.
 class HRControlRecords
 {
 public:
-    /// Takes a file in, to be tried before all others; false where it is known.
-    bool addFirst(const QString &path, int depth);
+    /// Takes a file in, to be tried before all others; null where it is known.
+    HRControlRecord *addFirst(const QString &path, int depth);
 
-    /// Takes a file in, to be tried after all others; false where it is known.
-    bool addLast(const QString &path, int depth);
-
-    bool contains(const QString &path, int depth) const { return m_known.contains(path, depth); }
+    /// Takes a file in, to be tried after all others; null where it is known.
+    HRControlRecord *addLast(const QString &path, int depth);
 
     std::deque<HRControlRecord>::iterator begin() { return m_records.begin(); }
     std::deque<HRControlRecord>::iterator end() { return m_records.end(); }
 
 private:
+    bool learn(const QString &path, int depth);
+
     std::deque<HRControlRecord> m_records;
     QMultiHash<QString, int> m_known; // the depths of each path
 };

@@ -8,6 +8,7 @@
 #include "context/HRContext.h"
 #include "context/HRSetting_p.h"
 #include "index/HRControlFileProbe_p.h"
+#include "index/HRControlReader_p.h"
 #include "index/HRControlRecords_p.h"
 #include "index/HRControlTree_p.h"
 #include "index/HRDirectoryDepth_p.h"
@@ -28,6 +29,7 @@ struct HRIndexPrivate
     QPointer<HRContext> context;
     QStringList paths;
     HRControlRecords records;
+    HRControlReader reader;
     HRPackageMap packages;
     HRControlFileProbe probe;
     bool inUpdate = false;
@@ -84,7 +86,10 @@ bool HRIndex::remove()
 HRXmlElement *HRIndex::retrieve(
     const QString &key, const QLocale &locale, QString &directory, int &depth, HRXmlElement *&root)
 {
-    for (const HRControlRecord &record : d->records) {
+    const quint32 number = keyNumber(key);
+    for (HRControlRecord &record : d->records) {
+        if (!d->reader.mayServe(record, number, locale))
+            continue;
         HRXmlElement *entry = load(key, record.path, locale, root);
         if (!entry)
             continue;

@@ -3,6 +3,11 @@
 
 #pragma once
 
+#include "index/HRFileStamp_p.h"
+
+#include <optional>
+
+class QByteArray;
 class QFile;
 class QString;
 
@@ -14,6 +19,14 @@ namespace Hintreels {
 ///
 /// Anything else is left alone: opening a named pipe would block the host.
 bool openRegularFile(QFile &file, const QString &path);
+
+/// The stamp of a regular file or a link to one; nothing for anything else.
+/// @param path as QFile::encodeName() spells it
+std::optional<HRFileStamp> stampOfFile(const QByteArray &path);
+
+/// Reads a regular file whole, with the stamp that it has before.
+/// @param bytes keeps its memory from file to file
+bool readWholeFile(const QByteArray &path, QByteArray &bytes, HRFileStamp &stamp);
 
 /// Makes sure that a database's file is this user's own, where others can write to its directory.
 ///

@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "index/HRControlReader_p.h"
+
+#include "index/HRControlRecords_p.h"
+#include "index/HRPosixFile_p.h"
+
+#include <chrono>
+
+namespace Hintreels {
+
+namespace {
+
+qint64 nanosecondsNow()
+{
+    using namespace std::chrono;
+    return duration_cast<nanoseconds>(system_clock::now().time_since_epoch()).count();
+}
+
+/// Qt's resources are no files to the operating system; they have no stamp and are always tried.
+bool isResource(const HRControlRecord &record)
+{
+    return record.nativePath.startsWith(':');
+}
+
+} // namespace
+
+bool HRControlReader::mayServe(HRControlRecord &record, quint32 key, const QLocale &locale)
+{
+    if (isResource(record))
+        return true;
+    return (isCurrent(record) || read(record)) && record.reading.mayServe(key, locale);
+}
+
+bool HRControlReader::read(HRControlRecord &record)
+{
+    const qint64 now = nanosecondsNow();
+    record.isSettled = false;
+    if (!readWholeFile(record.nativePath, m_bytes, record.stamp))
+        return false;
+    std::optional<HRControlReading> reading = searchControlFile(m_bytes);
+    record.reading = reading ? std::move(*reading) : parseControlFile(record.path);
+    record.isSettled = isSettled(record.stamp, now);
+    return true;
+}
+
+bool HRControlReader::isCurrent(HRControlRecord &record)
+{
+    return record.isSettled && stampOfFile(record.nativePath) == record.stamp;
+}
+
+} // namespace Hintreels

@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "index/HRControlReading_p.h"
+
+#include "index/HRControlTree_p.h"
+
+#include <QXmlAttributes>
+
+#include <algorithm>
+
+namespace Hintreels {
+
+namespace {
+
+/// What the filter notes while a file is parsed.
+struct Notes
+{
+    HRControlReading reading;
+    bool isInRoot = false;
+};
+
+constexpr int AskChildren = 1;
+constexpr int DropAll = 4 | 8;
+
+void noteRoot(Notes &notes, const QXmlAttributes &attributes)
+{
+    // A root in the root may make a file that yields it for any key.
+    notes.reading.mayHoldAnything |= notes.isInRoot;
+    notes.isInRoot = true;
+    const QString locale = attributes.value(QLatin1String("locale"));
+    notes.reading.servesAllLocales = locale.isEmpty();
+    notes.reading.locale = QLocale(locale);
+}
+
+void noteEntry(Notes &notes, const QXmlAttributes &attributes)
+{
+    notes.reading.mayHoldAnything |= !notes.isInRoot;
+    for (int i = 0; i < attributes.length(); ++i) {
+        if (attributes.qName(i) == QLatin1String("key"))
+            notes.reading.keys.push_back(keyNumber(attributes.value(i)));
+    }
+}
+
+/// Answers as the filter for loading does for a key that no entry has, and notes what it is asked.
+int noteElement(const QString &tag, const QXmlAttributes &attributes, void *data)
+{
+    Notes &notes = *static_cast<Notes *>(data);
+    if (tag == QLatin1String("hintreels")) {
+        noteRoot(notes, attributes);
+        return AskChildren;
+    }
+    if (tag == QLatin1String("hintreel"))
+        noteEntry(notes, attributes);
+    return DropAll;
+}
+
+} // namespace
+
+quint32 keyNumber(const char *utf8, int length)
+{
+    quint32 number = 2166136261u;
+    for (int i = 0; i < length; ++i)
+        number = (number ^ uchar(utf8[i])) * 16777619u;
+    return number;
+}
+
+quint32 keyNumber(const QString &key)
+{
+    const QByteArray utf8 = key.toUtf8();
+    return keyNumber(utf8.constData(), utf8.size());
+}
+
+bool HRControlReading::mayServe(quint32 key, const QLocale &wanted) const
+{
+    if (mayHoldAnything)
+        return true;
+    return std::binary_search(keys.begin(), keys.end(), key)
+        && (servesAllLocales || locale == wanted);
+}
+
+HRControlReading parseControlFile(const QString &filePath)
+{
+    Notes notes;
+    HRControlTree(filePath, noteElement, &notes);
+    std::sort(notes.reading.keys.begin(), notes.reading.keys.end());
+    return notes.reading;
+}
+
+} // namespace Hintreels

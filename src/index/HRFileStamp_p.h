@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QtGlobal>
+
+namespace Hintreels {
+
+/// What the file system tells about a file without reading it. Another edit gives another stamp,
+/// unless it comes so soon after the last one that the clock of the file system shows no change.
+struct HRFileStamp
+{
+    quint64 device = 0;
+    quint64 inode = 0;
+    qint64 size = -1;
+    qint64 modified = 0; // time of the content's last change, ns since 1970
+    qint64 changed = 0; // time of the last change to content or attributes, ns since 1970
+
+    bool operator==(const HRFileStamp &other) const
+    {
+        return modified == other.modified && changed == other.changed && size == other.size
+            && inode == other.inode && device == other.device;
+    }
+    bool operator!=(const HRFileStamp &other) const { return !(*this == other); }
+};
+
+/// Whether a reading begun at @p now (ns since 1970) can be told from every later edit by the
+/// file's stamp alone.
+///
+/// File systems count time in steps of up to two seconds (FAT), so an edit within the step of the
+/// stamp leaves no trace in it. Version-control systems go by the same rule.
+inline bool isSettled(const HRFileStamp &stamp, qint64 now)
+{
+    constexpr qint64 LongestStep = 2'500'000'000;
+    return qAbs(now - stamp.modified) > LongestStep && qAbs(now - stamp.changed) > LongestStep;
+}
+
+} // namespace Hintreels
