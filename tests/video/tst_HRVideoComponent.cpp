@@ -1,0 +1,428 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "video/HRVideoComponent.h"
+
+#include "support/MessageGuard.h"
+#include "support/TestClip.h"
+#include "ui/HRQmlTypes_p.h"
+#include "ui/HRView.h"
+
+#include <QElapsedTimer>
+#include <QPainter>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <random>
+
+using namespace Hintreels;
+
+class tst_HRVideoComponent : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void newItem_isPausedWithTheSizeOfNoClip();
+    void source_isNotTaken_withoutAView();
+    void source_showsItsFirstPicture();
+    void source_clearsThePictureOnly_whenNothingIsFound();
+    void source_isEmpty_pausesAndClears();
+    void source_emitsNothing();
+    void clipBefore_neverFlashes();
+    void play_showsAllAndPauses();
+    void play_restartsAtTheEnd();
+    void state_mapsToTheController();
+    void resetState_leavesPlaybackAlone_whileScrubbing();
+    void rewindToStart_pausesAndAnnounces();
+    void progress_scrubs();
+    void heightChanged_comesOncePerHeight();
+    void searchPath_isKept();
+    void paint_drawsThePictureAtItsOwnSize();
+    void qml_createsAndPlays();
+    void destruction_isQuick_atAnyMoment();
+    void metaObject_keepsItsOrder();
+
+private:
+    QString clip(const QString &name, int first, int pictures, const QSize &size = QSize(64, 48));
+
+    QTemporaryDir m_directory;
+    QString m_clip; // numbers 0 to 9
+    QString m_other; // numbers 30 to 39, of another height
+};
+
+namespace {
+
+/// A view whose content has one resource: the file that every source then is.
+struct Stage
+{
+    explicit Stage(const QString &file = QString())
+        : view(nullptr, nullptr)
+    {
+        auto *content = new HRXmlElement;
+        content->setAttribute("resources", file);
+        view.setContent(content);
+        item = new HRVideoComponent(view.contentItem());
+    }
+
+    void setFile(const QString &file)
+    {
+        view.content()->setAttribute("resources", file);
+        item->setSource("clip");
+    }
+
+    /// What the item paints; transparent where it paints nothing.
+    QImage painted()
+    {
+        QImage image(64, 48, QImage::Format_ARGB32);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        item->paint(&painter);
+        return image;
+    }
+
+    bool paintsNothing() { return qAlpha(painted().pixel(0, 0)) == 0; }
+    int number() { return paintsNothing() ? -1 : TestClip::numberOf(painted()); }
+
+    HRView view;
+    HRVideoComponent *item;
+};
+
+bool isDecoded(const HRVideoComponent *item)
+{
+    return item->loadProgress() == 1.0 && item->contentWidth() == 200.0;
+}
+
+} // namespace
+
+void tst_HRVideoComponent::initTestCase()
+{
+    registerQmlTypes();
+    m_clip = clip("clip.mp4", 0, 10);
+    m_other = clip("other.mp4", 30, 10, QSize(64, 64));
+}
+
+QString tst_HRVideoComponent::clip(const QString &name, int first, int pictures, const QSize &size)
+{
+    TestClip encoded;
+    encoded.size = size;
+    encoded.pictures = pictures;
+    encoded.rate = 50;
+    return encoded.write(m_directory.filePath(name), [first](const QSize &pictureSize, int number) {
+        return TestClip::numbered(pictureSize, first + number);
+    });
+}
+
+void tst_HRVideoComponent::newItem_isPausedWithTheSizeOfNoClip()
+{
+    const HRVideoComponent item;
+    QCOMPARE(item.state(), HRVideoComponent::pausedState);
+    QCOMPARE(item.contentWidth(), 200.0);
+    QCOMPARE(item.contentHeight(), 150.0);
+    QCOMPARE(item.implicitWidth(), 0.0);
+    QCOMPARE(item.position(), qint64(0));
+    QCOMPARE(item.progress(), 0.0);
+    QCOMPARE(item.loadProgress(), 0.0);
+    QVERIFY(item.flags() & QQuickItem::ItemHasContents);
+}
+
+void tst_HRVideoComponent::source_isNotTaken_withoutAView()
+{
+    HRVideoComponent item;
+    item.setSource("clip");
+    QCOMPARE(item.source(), QString());
+
+    QQuickWindow window;
+    item.setParentItem(window.contentItem());
+    item.setSource("clip");
+    QCOMPARE(item.source(), QString());
+}
+
+void tst_HRVideoComponent::source_showsItsFirstPicture()
+{
+    Stage stage;
+    QVERIFY(stage.paintsNothing());
+    stage.setFile(m_clip);
+    QTRY_COMPARE(stage.number(), 0);
+    QCOMPARE(stage.item->source(), QString("clip"));
+    QCOMPARE(stage.item->implicitWidth(), 64.0);
+    QCOMPARE(stage.item->implicitHeight(), 48.0);
+    QCOMPARE(stage.item->state(), HRVideoComponent::pausedState);
+    QCOMPARE(stage.item->loadProgress(), 1.0);
+}
+
+void tst_HRVideoComponent::source_clearsThePictureOnly_whenNothingIsFound()
+{
+    Stage stage;
+    stage.setFile(m_clip);
+    QTRY_COMPARE(stage.number(), 0);
+    QTRY_VERIFY(isDecoded(stage.item));
+
+    stage.view.content()->setAttribute("resources", m_directory.filePath("missing.mp4"));
+    stage.item->setSource("missing");
+    QVERIFY(stage.paintsNothing());
+    QCOMPARE(stage.item->source(), QString("missing"));
+
+    // The clip before is still the one in effect.
+    stage.item->setPosition(4);
+    QTRY_COMPARE(stage.number(), 4);
+}
+
+void tst_HRVideoComponent::source_isEmpty_pausesAndClears()
+{
+    Stage stage;
+    stage.setFile(m_clip);
+    QTRY_VERIFY(isDecoded(stage.item));
+    stage.item->play();
+    stage.view.content()->setAttribute("resources", m_directory.path());
+    stage.item->setSource("");
+    QCOMPARE(stage.item->source(), QString());
+    QCOMPARE(stage.item->state(), HRVideoComponent::pausedState);
+    QCOMPARE(stage.item->position(), qint64(0));
+}
+
+void tst_HRVideoComponent::source_emitsNothing()
+{
+    Stage stage;
+    QSignalSpy spy(stage.item, &HRVideoComponent::sourceChanged);
+    stage.setFile(m_clip);
+    QTRY_COMPARE(stage.number(), 0);
+    QCOMPARE(spy.count(), 0);
+}
+
+void tst_HRVideoComponent::clipBefore_neverFlashes()
+{
+    Stage stage;
+    stage.setFile(m_clip);
+    QTRY_VERIFY(isDecoded(stage.item));
+    for (int i = 0; i < 30; ++i) {
+        const bool toOther = i % 2 == 0;
+        stage.setFile(toOther ? m_other : m_clip);
+        QVERIFY(stage.paintsNothing());
+        QElapsedTimer timer;
+        timer.start();
+        while (stage.paintsNothing() && timer.elapsed() < 5000)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 1);
+        QCOMPARE(stage.number() >= 30, toOther);
+    }
+}
+
+void tst_HRVideoComponent::play_showsAllAndPauses()
+{
+    Stage stage;
+    stage.setFile(m_clip);
+    QTRY_VERIFY(isDecoded(stage.item));
+    QTRY_COMPARE(stage.number(), 0);
+    QTest::qWait(20); // what decoding announced has arrived
+    QList<int> numbers;
+    connect(stage.item, &HRVideoComponent::positionChanged, this, [&] {
+        if (numbers.isEmpty() || numbers.last() != stage.number())
+            numbers.append(stage.number());
+    });
+    QSignalSpy states(stage.item, &HRVideoComponent::stateChanged);
+    stage.item->play();
+    QTRY_COMPARE(states.count(), 2);
+    QCOMPARE(stage.item->state(), HRVideoComponent::pausedState);
+    QCOMPARE(stage.item->position(), qint64(10));
+    QCOMPARE(stage.item->progress(), 1.0);
+    QCOMPARE(stage.number(), 9);
+    QVERIFY2(numbers.size() >= 8, qPrintable(QString::number(numbers.size())));
+    QVERIFY(std::is_sorted(numbers.begin(), numbers.end()));
+}
+
+void tst_HRVideoComponent::play_restartsAtTheEnd()
+{
+    Stage stage;
+    stage.setFile(m_clip);
+    QTRY_VERIFY(isDecoded(stage.item));
+    QTest::qWait(20);
+    stage.item->play();
+    QTRY_COMPARE(stage.item->position(), qint64(10));
+    QTRY_COMPARE(stage.item->state(), HRVideoComponent::pausedState);
+    stage.item->play();
+    QVERIFY(stage.item->position() < 10);
+    QTRY_COMPARE(stage.item->position(), qint64(10));
+}
+
+void tst_HRVideoComponent::state_mapsToTheController()
+{
+    Stage stage;
+    stage.setFile(clip("long.mp4", 0, 50));
+    QTRY_VERIFY(isDecoded(stage.item));
+    QTest::qWait(20);
+    stage.item->setState(HRVideoComponent::playingState);
+    QCOMPARE(stage.item->state(), HRVideoComponent::playingState);
+    stage.item->setState(HRVideoComponent::pausedState);
+    QCOMPARE(stage.item->state(), HRVideoComponent::pausedState);
+    stage.item->setState(HRVideoComponent::playingState);
+    stage.item->setState(HRVideoComponent::resetState);
+    QCOMPARE(stage.item->state(), HRVideoComponent::pausedState);
+}
+
+void tst_HRVideoComponent::resetState_leavesPlaybackAlone_whileScrubbing()
+{
+    HRVideoComponent item;
+    item.setState(HRVideoComponent::playingState);
+    item.setScrubbing(true);
+    QVERIFY(item.isScrubbing());
+    QSignalSpy loadProgress(&item, &HRVideoComponent::loadProgressChanged);
+    item.setState(HRVideoComponent::resetState);
+    QCOMPARE(loadProgress.count(), 1);
+    QCOMPARE(item.state(), HRVideoComponent::playingState);
+    item.setScrubbing(false);
+    QVERIFY(!item.isScrubbing());
+}
+
+void tst_HRVideoComponent::rewindToStart_pausesAndAnnounces()
+{
+    Stage stage;
+    stage.setFile(clip("rewind.mp4", 0, 50));
+    QTRY_VERIFY(isDecoded(stage.item));
+    QTest::qWait(20);
+    stage.item->play();
+    QTRY_VERIFY(stage.item->position() > 2);
+    QSignalSpy progress(stage.item, &HRVideoComponent::progressChanged);
+    QSignalSpy position(stage.item, &HRVideoComponent::positionChanged);
+    stage.item->rewindToStart();
+    QVERIFY(progress.count() >= 1);
+    QVERIFY(position.count() >= 1);
+    QCOMPARE(stage.item->state(), HRVideoComponent::pausedState);
+    QTRY_COMPARE(stage.number(), 0);
+    QCOMPARE(stage.item->position(), qint64(0));
+}
+
+void tst_HRVideoComponent::progress_scrubs()
+{
+    Stage stage;
+    stage.setFile(m_clip);
+    QTRY_VERIFY(isDecoded(stage.item));
+    stage.item->setScrubbing(true);
+    for (int number : { 7, 2, 5 }) {
+        stage.item->setProgress(number / 10.0);
+        QTRY_COMPARE(stage.number(), number);
+        QCOMPARE(stage.item->position(), qint64(number));
+    }
+    stage.item->setProgress(qQNaN());
+    QTRY_COMPARE(stage.number(), 0);
+    stage.item->setPosition(-1); // the largest number there is: the last picture
+    QTRY_COMPARE(stage.number(), 9);
+}
+
+void tst_HRVideoComponent::heightChanged_comesOncePerHeight()
+{
+    Stage stage;
+    QSignalSpy height(stage.item, &HRVideoComponent::heightChanged);
+    stage.setFile(m_clip);
+    QTRY_VERIFY(isDecoded(stage.item));
+    stage.item->setPosition(5);
+    QTRY_COMPARE(stage.number(), 5);
+    QCOMPARE(height.count(), 1);
+    stage.setFile(m_other);
+    QTRY_COMPARE(stage.number(), 30);
+    QTRY_VERIFY(isDecoded(stage.item));
+    stage.item->setPosition(5);
+    QTRY_COMPARE(stage.number(), 35);
+    QCOMPARE(height.count(), 2);
+    QCOMPARE(stage.item->implicitHeight(), 64.0);
+}
+
+void tst_HRVideoComponent::searchPath_isKept()
+{
+    HRVideoComponent item;
+    QSignalSpy spy(&item, &HRVideoComponent::searchPathChanged);
+    item.setSearchPath("clips");
+    QCOMPARE(item.searchPath(), QString("clips"));
+    QCOMPARE(spy.count(), 1);
+}
+
+void tst_HRVideoComponent::paint_drawsThePictureAtItsOwnSize()
+{
+    Stage stage;
+    stage.setFile(m_clip);
+    QTRY_COMPARE(stage.number(), 0);
+    stage.item->setSize(QSizeF(640, 480));
+    QImage image(100, 100, QImage::Format_ARGB32);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    stage.item->paint(&painter);
+    QCOMPARE(qAlpha(image.pixel(63, 47)), 255);
+    QCOMPARE(qAlpha(image.pixel(64, 47)), 0);
+    QCOMPARE(qAlpha(image.pixel(63, 48)), 0);
+}
+
+void tst_HRVideoComponent::qml_createsAndPlays()
+{
+    Stage stage(m_clip);
+    QQmlComponent component(stage.view.engine());
+    component.setData("import QtQuick 2.15\n"
+                      "import com.zentora.hintreels.qml 1.0\n"
+                      "HRVideoComponent {\n"
+                      "    property bool ready: loadProgress === 1\n"
+                      "    function start() { source = 'clip'; state = 1 }\n"
+                      "    function run() { play() }\n"
+                      "}\n",
+        QUrl());
+    QScopedPointer<QObject> object(component.create());
+    QVERIFY2(object, qPrintable(component.errorString()));
+    auto *item = qobject_cast<HRVideoComponent *>(object.data());
+    QVERIFY(item);
+    item->setParentItem(stage.view.contentItem());
+    QVERIFY(QMetaObject::invokeMethod(item, "start"));
+    QTRY_VERIFY(item->property("ready").toBool());
+    QTRY_VERIFY(isDecoded(item));
+    QTest::qWait(20);
+    QVERIFY(QMetaObject::invokeMethod(item, "run"));
+    QTRY_COMPARE(item->position(), qint64(10));
+}
+
+void tst_HRVideoComponent::destruction_isQuick_atAnyMoment()
+{
+    MessageGuard messages;
+    std::mt19937 random(5);
+    const QString file = clip("destroy.mp4", 0, 50, QSize(320, 240));
+    qint64 longest = 0;
+    for (int i = 0; i < 200; ++i) {
+        Stage stage;
+        if (i % 10 != 0)
+            stage.setFile(file);
+        if (i % 3 == 0)
+            stage.item->play();
+        QElapsedTimer life;
+        life.start();
+        const int microseconds = int(random() % 20000);
+        while (life.nsecsElapsed() / 1000 < microseconds)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 1);
+        QElapsedTimer timer;
+        timer.start();
+        delete stage.item;
+        longest = qMax(longest, timer.elapsed());
+    }
+    QVERIFY2(longest < 1000, qPrintable(QString("%1 ms").arg(longest)));
+}
+
+void tst_HRVideoComponent::metaObject_keepsItsOrder()
+{
+    const QMetaObject &meta = HRVideoComponent::staticMetaObject;
+    QStringList methods;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+        methods += meta.method(i).methodSignature();
+    QCOMPARE(methods,
+        (QStringList{ "sourceChanged()", "stateChanged()", "positionChanged()", "progressChanged()",
+            "heightChanged()", "searchPathChanged()", "scrubbingChanged()",
+            "contentHeightChanged()", "contentWidthChanged()", "loadProgressChanged()",
+            "frameReady()", "play()", "pause()", "sourceChangedState()", "rewindToStart()",
+            "controllerPositionChanged()" }));
+    QStringList properties;
+    for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i)
+        properties += meta.property(i).name();
+    QCOMPARE(properties,
+        (QStringList{ "source", "state", "position", "progress", "searchPath", "scrubbing",
+            "contentHeight", "contentWidth", "loadProgress" }));
+}
+
+QTEST_MAIN(tst_HRVideoComponent)
+#include "tst_HRVideoComponent.moc"
