@@ -3,6 +3,7 @@
 
 #include "drawing/Geometry.h"
 
+#include <QtMath>
 #include <QtTest>
 
 using namespace Sketchpad;
@@ -20,6 +21,9 @@ private Q_SLOTS:
     void rectanglePath_obeysModifiers();
     void linePath_obeysModifiers_data();
     void linePath_obeysModifiers();
+    void steadied_takesTheTremble_andKeepsTheStroke();
+    void steadied_givesTheSame_howeverFastTheHandWas();
+    void steadied_leavesSinglePointsAlone();
     void smoothedPath_keepsBothEnds();
     void smoothedPath_joinsClosePoints();
     void smoothedPath_isEmpty_withoutPoints();
@@ -94,6 +98,36 @@ void tst_SketchpadGeometry::linePath_obeysModifiers()
     QVERIFY2(
         qAbs(line.height() - bounds.height()) < 0.5, qPrintable(QString::number(line.height())));
     QVERIFY((line.topLeft() - bounds.topLeft()).manhattanLength() < 0.5);
+}
+
+void tst_SketchpadGeometry::steadied_takesTheTremble_andKeepsTheStroke()
+{
+    QVector<QPointF> stroke;
+    for (int x = 0; x <= 200; ++x)
+        stroke.append({ double(x), 2 * qSin(x / 1.3) + 40 * qSin(x / 30.0) });
+    const QVector<QPointF> steady = steadied(stroke, 3);
+    QCOMPARE(steady.first(), stroke.first());
+    QCOMPARE(steady.last(), stroke.last());
+    for (int i = 3; i + 3 < steady.size(); ++i)
+        QVERIFY(qAbs(steady[i].y() - 40 * qSin(steady[i].x() / 30.0)) < 2.5);
+    for (int i = 4; i + 3 < steady.size(); ++i)
+        QVERIFY(QLineF(steady[i - 1], steady[i]).angleTo(QLineF(steady[i], steady[i + 1])) < 20
+            || QLineF(steady[i - 1], steady[i]).angleTo(QLineF(steady[i], steady[i + 1])) > 340);
+}
+
+void tst_SketchpadGeometry::steadied_givesTheSame_howeverFastTheHandWas()
+{
+    QVector<QPointF> slow;
+    for (int x = 0; x <= 120; ++x)
+        slow.append({ double(x), 0 });
+    QCOMPARE(steadied(slow, 3).size(), steadied({ { 0, 0 }, { 120, 0 } }, 3).size());
+}
+
+void tst_SketchpadGeometry::steadied_leavesSinglePointsAlone()
+{
+    QVERIFY(steadied({}, 3).isEmpty());
+    QCOMPARE(steadied({ { 5, 6 } }, 3), QVector<QPointF>({ { 5, 6 } }));
+    QCOMPARE(steadied({ { 5, 6 }, { 5, 6 } }, 3).size(), 2);
 }
 
 void tst_SketchpadGeometry::smoothedPath_keepsBothEnds()

@@ -10,6 +10,9 @@ namespace Sketchpad {
 
 namespace {
 
+// More would take the corners that are meant.
+constexpr int roundsOfSteadying = 3;
+
 QPointF offsetTo(const QRectF &all, const QRectF &rect, Alignment alignment)
 {
     switch (alignment) {
@@ -41,6 +44,20 @@ QVector<QPointF> thinnedOut(const QVector<QPointF> &points, qreal tolerance)
     return kept;
 }
 
+QVector<QPointF> inEvenSteps(const QVector<QPointF> &points, qreal step)
+{
+    QVector<QPointF> steps = points.mid(0, 1);
+    for (const QPointF &point : points) {
+        QLineF way(steps.last(), point);
+        while (way.length() >= step) {
+            way.setLength(step);
+            steps.append(way.p2());
+            way = QLineF(way.p2(), point);
+        }
+    }
+    return steps + points.mid(qMax(1, points.size() - 1));
+}
+
 QPointF towards(const QPointF &from, const QPointF &to, qreal side)
 {
     return { from.x() + (to.x() < from.x() ? -side : side),
@@ -67,6 +84,17 @@ QVector<QPointF> alignmentOffsets(const QVector<QRectF> &rects, Alignment alignm
     for (const QRectF &rect : rects)
         offsets.append(offsetTo(all, rect, alignment));
     return offsets;
+}
+
+QVector<QPointF> steadied(const QVector<QPointF> &points, qreal step)
+{
+    QVector<QPointF> steady = inEvenSteps(points, step);
+    for (int round = 0; round < roundsOfSteadying; ++round) {
+        const QVector<QPointF> before = steady;
+        for (int i = 1; i + 1 < steady.size(); ++i)
+            steady[i] = (before[i - 1] + 2 * before[i] + before[i + 1]) / 4;
+    }
+    return steady;
 }
 
 QPainterPath smoothedPath(const QVector<QPointF> &points, qreal tolerance)

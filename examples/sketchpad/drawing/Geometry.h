@@ -22,6 +22,11 @@ enum class Alignment
 /// How far each rectangle moves to be aligned with all of them together.
 QVector<QPointF> alignmentOffsets(const QVector<QRectF> &rects, Alignment alignment);
 
+/// Points in even steps along a stroke, without the tremble of the hand; its ends stay.
+/// @param step in units of the drawing: what trembles within three steps goes, what bends over ten
+/// stays
+QVector<QPointF> steadied(const QVector<QPointF> &points, qreal step);
+
 /// A curve through the middles of the way between neighbouring points, so that the tremble of the
 /// hand goes and the first and the last point stay. Points closer than @p tolerance are one.
 QPainterPath smoothedPath(const QVector<QPointF> &points, qreal tolerance);

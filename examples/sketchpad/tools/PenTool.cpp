@@ -12,8 +12,8 @@ namespace Sketchpad {
 
 namespace {
 
-// Less than the hand's tremble, in units of the drawing.
-constexpr qreal tolerance = 4.0;
+// A third of the waves that an unsteady hand makes, in units of the drawing.
+constexpr qreal step = 3.0;
 
 } // namespace
 
@@ -53,7 +53,7 @@ void PenTool::release(const QGraphicsSceneMouseEvent &)
         cancel();
         return;
     }
-    m_stroke->setPath(smoothedPath(m_points, tolerance));
+    m_stroke->setPath(smoothedPath(steadied(m_points, step), 0));
     m_drawing.add(m_stroke, QCoreApplication::translate("Tools", "Stroke"));
     m_stroke = nullptr;
 }
