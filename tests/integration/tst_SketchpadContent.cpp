@@ -133,7 +133,9 @@ private Q_SLOTS:
     void hint_interpolatesOnlyWhatSketchpadSets();
     void pictures_canBePainted_data();
     void pictures_canBePainted();
-    void pictures_areAllShown();
+    void picturesAndClips_areAllShown();
+    void tools_haveClips_data();
+    void tools_haveClips();
     void links_leadToPages_data();
     void links_leadToPages();
     void translation_hasEveryWordOfTheStandardUi();
@@ -305,17 +307,34 @@ void tst_SketchpadContent::pictures_canBePainted()
     }
 }
 
-void tst_SketchpadContent::pictures_areAllShown()
+void tst_SketchpadContent::picturesAndClips_areAllShown()
 {
+    const QStringList files = QDir(package + "/Resources").entryList({ "*.svg", "*.png", "*.mp4" });
+    const QSet<QString> expected(files.begin(), files.end());
     QSet<QString> shown;
     const auto hints = hintsOf("en_US");
     for (const QDomElement &hint : hints) {
-        const auto pictures = childrenOf(hint, "picture");
-        for (const QDomElement &picture : pictures)
-            shown.insert(picture.attribute("source"));
+        const auto blocks = childrenOf(hint);
+        for (const QDomElement &block : blocks) {
+            if (block.hasAttribute("source"))
+                shown.insert(block.attribute("source"));
+        }
     }
-    const QStringList files = QDir(package + "/Resources").entryList({ "*.svg", "*.png" });
-    QCOMPARE(QSet<QString>(files.begin(), files.end()), shown);
+    QCOMPARE(shown, expected);
+}
+
+void tst_SketchpadContent::tools_haveClips_data()
+{
+    addHints();
+}
+
+void tst_SketchpadContent::tools_haveClips()
+{
+    QFETCH(QDomElement, hint);
+    const auto clips = childrenOf(hint, "video");
+    for (const QDomElement &clip : clips)
+        QVERIFY(QFile::exists(package + "/Resources/" + clip.attribute("source")));
+    QCOMPARE(clips.size(), hint.attribute("key").startsWith("tool") ? 1 : 0);
 }
 
 void tst_SketchpadContent::links_leadToPages_data()
