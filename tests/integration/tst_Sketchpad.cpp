@@ -243,7 +243,7 @@ void tst_Sketchpad::fill_colorsItemOrSheet()
 {
     Fixture f;
     f.addRectangle({ 100, 100, 80, 60 });
-    f.drawing.style.fill = Qt::red;
+    f.drawing.style().fill = Qt::red;
     f.choose("toolFill");
     f.click({ 140, 130 });
     QCOMPARE(fillOf(f.drawing.items().first()), QColor(Qt::red));
@@ -405,7 +405,7 @@ void tst_Sketchpad::export_showsSheetWithoutSelection()
 
     QCOMPARE(plain.size(), QSize(900, 600));
     QCOMPARE(plain.pixelColor(5, 5), QColor(Qt::green));
-    QCOMPARE(plain.pixelColor(140, 130), f.drawing.style.fill);
+    QCOMPARE(plain.pixelColor(140, 130), f.drawing.style().fill);
     QCOMPARE(selected, plain);
     QCOMPARE(f.drawing.selectedItems().size(), 1);
 }

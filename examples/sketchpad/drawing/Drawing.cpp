@@ -41,7 +41,7 @@ QPointF directionOf(int key)
 
 Drawing::Drawing(QObject *parent)
     : QGraphicsScene(parent)
-    , style{ QColor(0x22, 0x31, 0x4f), QColor(0xff, 0xe0, 0x8a), 3.0 }
+    , m_style{ QColor(0x22, 0x31, 0x4f), QColor(0xff, 0xe0, 0x8a), 3.0 }
 {
     m_history.setUndoLimit(undoLimit);
     setSceneRect(sheet().adjusted(-surroundings, -surroundings, surroundings, surroundings));
@@ -89,16 +89,16 @@ void Drawing::remove(const QList<QGraphicsItem *> &items, const QString &text)
 void Drawing::fillAt(const QPointF &position)
 {
     if (QGraphicsItem *item = itemAt(position, QTransform()))
-        m_history.push(new FillItem(item, style.fill));
+        m_history.push(new FillItem(item, m_style.fill));
     else
-        m_history.push(new FillPaper(*this, style.fill));
+        m_history.push(new FillPaper(*this, m_style.fill));
 }
 
 void Drawing::editTextAt(const QPointF &position)
 {
     auto *text = qgraphicsitem_cast<TextItem *>(itemAt(position, QTransform()));
     if (!text) {
-        text = new TextItem(style);
+        text = new TextItem(m_style);
         place(text);
         text->setPos(position - QPointF(0, text->boundingRect().center().y()));
     }

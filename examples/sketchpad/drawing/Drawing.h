@@ -35,8 +35,8 @@ public:
     /// Sets the colour of the sheet at once; fillAt() is the step that can be undone.
     void setPaper(const QColor &paper);
 
-    /// What new items look like.
-    Style style;
+    /// What new items look like; changing it leaves the others as they are.
+    Style &style() { return m_style; }
 
     /// The tool must outlive the drawing; null lets the items have all events.
     void setTool(Tool *tool);
@@ -78,6 +78,7 @@ private:
     void nudgeSelection(const QPointF &offset);
 
     QColor m_paper = Qt::white;
+    Style m_style;
     Tool *m_tool = nullptr;
     qreal m_topmost = 0.0;
     // Destroyed before the base class deletes the items: the commands look at those.

@@ -26,7 +26,7 @@ bool PenTool::press(const QGraphicsSceneMouseEvent &event)
 {
     cancel();
     if (event.button() == Qt::LeftButton) {
-        m_stroke = new ShapeItem(m_drawing.style, Qt::transparent);
+        m_stroke = new ShapeItem(m_drawing.style(), Qt::transparent);
         m_drawing.place(m_stroke);
         m_points = { event.scenePos() };
     }

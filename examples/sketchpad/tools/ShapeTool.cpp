@@ -21,7 +21,7 @@ bool ShapeTool::press(const QGraphicsSceneMouseEvent &event)
 {
     cancel();
     if (event.button() == Qt::LeftButton) {
-        const Style &style = m_drawing.style;
+        const Style &style = m_drawing.style();
         m_shape = new ShapeItem(style, m_isFilled ? style.fill : QColor(Qt::transparent));
         m_drawing.place(m_shape);
         m_from = event.scenePos();

@@ -16,10 +16,10 @@ namespace Sketchpad {
 /// One action: its object name is also the name of its icon and the key of its hint.
 struct ActionRow
 {
-    const char *name; ///< null for a separator
-    const char *text; ///< as it stands in the menu, to be translated
-    const char *shortcut;
-    bool isCheckable;
+    const char *name = nullptr; ///< null for a separator
+    const char *text = nullptr; ///< as it stands in the menu
+    const char *shortcut = nullptr;
+    bool isCheckable = false;
 };
 
 struct MenuRows

@@ -148,22 +148,22 @@ void MainWindow::makeToolBars()
 
 void MainWindow::addStyleWidgets(QToolBar *bar)
 {
-    auto *stroke = new ColorButton(tr("Stroke Color"), m_drawing.style.stroke);
+    auto *stroke = new ColorButton(tr("Stroke Color"), m_drawing.style().stroke);
     stroke->setObjectName(QStringLiteral("strokeColor"));
     connect(stroke, &ColorButton::colorChanged, this,
-        [this](const QColor &color) { m_drawing.style.stroke = color; });
-    auto *fill = new ColorButton(tr("Fill Color"), m_drawing.style.fill);
+        [this](const QColor &color) { m_drawing.style().stroke = color; });
+    auto *fill = new ColorButton(tr("Fill Color"), m_drawing.style().fill);
     fill->setObjectName(QStringLiteral("fillColor"));
     connect(fill, &ColorButton::colorChanged, this,
-        [this](const QColor &color) { m_drawing.style.fill = color; });
+        [this](const QColor &color) { m_drawing.style().fill = color; });
     auto *width = new QSpinBox;
     width->setObjectName(QStringLiteral("strokeWidth"));
     width->setRange(1, 40);
-    width->setValue(qRound(m_drawing.style.width));
+    width->setValue(qRound(m_drawing.style().width));
     width->setFocusPolicy(Qt::ClickFocus);
     width->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     connect(width, QOverload<int>::of(&QSpinBox::valueChanged), this,
-        [this](int value) { m_drawing.style.width = value; });
+        [this](int value) { m_drawing.style().width = value; });
     bar->addWidget(stroke);
     bar->addWidget(fill);
     bar->addWidget(width);
