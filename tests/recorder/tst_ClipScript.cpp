@@ -18,6 +18,7 @@ private Q_SLOTS:
     void fromText_readsEveryKindOfLine();
     void fromText_namesTheLine_thatIsNoStep_data();
     void fromText_namesTheLine_thatIsNoStep();
+    void fromText_readsTheExampleOfTheGuide();
     void fromText_passesOverCommentsAndEmptyLines();
 };
 
@@ -119,6 +120,17 @@ void tst_ClipScript::fromText_namesTheLine_thatIsNoStep()
     const ClipScript script = ClipScript::fromText("record\n\n" + line + "\nclick");
     QVERIFY(script.steps().isEmpty());
     QCOMPARE(script.error(), "line 3: cannot understand \"" + line + '"');
+}
+
+void tst_ClipScript::fromText_readsTheExampleOfTheGuide()
+{
+    QFile guide(RECORDING_GUIDE);
+    QVERIFY(guide.open(QIODevice::ReadOnly));
+    const QString example
+        = QString::fromUtf8(guide.readAll()).section("```clip\n", 1, 1).section("```", 0, 0);
+    const ClipScript script = ClipScript::fromText(example);
+    QCOMPARE(script.error(), QString());
+    QCOMPARE(script.steps().size(), 16);
 }
 
 void tst_ClipScript::fromText_passesOverCommentsAndEmptyLines()
