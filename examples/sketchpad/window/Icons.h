@@ -5,10 +5,14 @@
 
 #include <QIcon>
 
+QT_BEGIN_NAMESPACE
+class QPalette;
+QT_END_NAMESPACE
+
 namespace Sketchpad {
 
-/// The icon drawn in icons/NAME.svg, with its lines in a colour that suits the theme.
+/// The icon drawn in icons/NAME.svg, with its lines in the palette's colours for buttons.
 /// @return a null icon where there is no such file
-QIcon themedIcon(const QString &name, const QColor &color);
+QIcon themedIcon(const QString &name, const QPalette &palette);
 
 } // namespace Sketchpad

@@ -292,10 +292,9 @@ void MainWindow::updateEnabled()
 
 void MainWindow::updateIcons()
 {
-    const QColor color = palette().color(QPalette::ButtonText);
     const auto actions = findChildren<QAction *>(QString(), Qt::FindDirectChildrenOnly);
     for (QAction *action : actions)
-        action->setIcon(themedIcon(action->objectName(), color));
+        action->setIcon(themedIcon(action->objectName(), palette()));
 }
 
 void MainWindow::changeEvent(QEvent *event)
