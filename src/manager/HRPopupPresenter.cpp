@@ -8,18 +8,20 @@
 #include "interface/HRInterface.h"
 #include "ui/HRView.h"
 
+#include <memory>
+
 namespace Hintreels {
 
 namespace {
 
-// Frees the whole tree that a view shows, unless it is that of the element it shows next.
-void discardShownContent(HRView *view, const HRXmlElement *next)
+// Takes what a view shows out of it, with its whole tree, unless it shows that next, too.
+std::unique_ptr<QObject> takeShownContent(HRView *view, const HRXmlElement *next)
 {
     HRXmlElement *content = view->content();
     if (!content || content == next)
-        return;
+        return nullptr;
     view->setContent(nullptr);
-    delete (content->parent() ? content->parent() : content);
+    return std::unique_ptr<QObject>(content->parent() ? content->parent() : content);
 }
 
 } // namespace
@@ -90,7 +92,8 @@ bool HRPopupPresenter::keepOrHide(const HRHover &hover)
 void HRPopupPresenter::present(const HRHover &hover, const HRFoundContent &found)
 {
     HRXmlElement *element = found.element;
-    discardShownContent(m_popup->view(), element);
+    // Freed only at the end, or the scene's bindings would see null on the way.
+    const std::unique_ptr<QObject> previous = takeShownContent(m_popup->view(), element);
     m_popup->view()->setContent(element);
 
     // The host names the shortcut of what the pointer rests on, also where the content shown is

@@ -19,6 +19,11 @@ bool HRPopupFade::isRunning() const
     return m_animation->state() != QAbstractAnimation::Stopped;
 }
 
+bool HRPopupFade::isFadingOut() const
+{
+    return isRunning() && m_animation->endValue().toReal() == 0.0;
+}
+
 void HRPopupFade::fadeTo(qreal opacity, int duration, const Ended &ended)
 {
     stop();

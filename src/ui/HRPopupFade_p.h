@@ -24,6 +24,7 @@ public:
     explicit HRPopupFade(QWidget *window);
 
     bool isRunning() const;
+    bool isFadingOut() const;
 
     /// Animates the opacity from its current value; @p ended is called when that is done.
     /// @param duration in milliseconds, above zero

@@ -71,6 +71,8 @@ HRView::HRView(HRManager *manager, QWindow *parent)
 HRView::~HRView()
 {
     m_cursors->release();
+    // The scene first: its bindings should not see the content go.
+    setSource(QUrl());
     deleteContentTree(m_content);
 }
 
@@ -271,6 +273,14 @@ void HRView::resizeEvent(QResizeEvent *)
 {
     update();
     Q_EMIT contentSizeChanged();
+}
+
+void HRView::focusInEvent(QFocusEvent *)
+{
+    // When the focus comes from a Qt::Tool window around the view, Qt says that a popup has closed,
+    // and then no item becomes active.
+    QFocusEvent event(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+    QQuickView::focusInEvent(&event);
 }
 
 } // namespace Hintreels

@@ -149,6 +149,7 @@ protected:
     // The base is left out: the window follows its root item, and UI files never size from the
     // window.
     void resizeEvent(QResizeEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
 
 private:
     QPointer<HRManager> m_manager;

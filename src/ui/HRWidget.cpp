@@ -136,12 +136,13 @@ void HRWidgetPrivate::takeContentSize()
     if (container)
         freeSize(container);
     q->resize(sizeOf(root()));
-    matchBackground();
 }
 
 /// The popup is one pixel wider and higher than its content: that seam should not be seen.
 void HRWidgetPrivate::matchBackground()
 {
+    if (!root())
+        return;
     QPalette palette = q->palette();
     const QColor color = backgroundOf(view);
     if (palette.color(QPalette::Window) == color)
@@ -315,10 +316,11 @@ void HRWidget::checkMousePosition(const QPoint &pos)
 
 void HRWidget::cancelHiding()
 {
-    if (!d->fade.isRunning())
+    if (!d->fade.isFadingOut())
         return;
     d->fade.stop();
     setWindowOpacity(1.0);
+    d->keepTimeFor(QCursor::pos());
 }
 
 void HRWidget::setVisible(bool visible)
@@ -354,6 +356,7 @@ void HRWidget::showWithContent(
         deleteContentTree(previous);
     d->view->loadQML(QFileInfo(d->view->uiRootFilePath()).absoluteFilePath());
     d->takeContentSize();
+    d->matchBackground();
     if (isVisible())
         d->keepTimeFor(QCursor::pos());
     showAnimated();
