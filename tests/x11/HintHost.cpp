@@ -1,0 +1,162 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "x11/HintHost.h"
+
+#include "interface/HRInterface.h"
+#include "manager/HRManager.h"
+#include "ui/HRWidget.h"
+#include "x11/RealInput.h"
+
+#include <QProxyStyle>
+#include <QtTest>
+
+#include <algorithm>
+
+using namespace Hintreels;
+
+namespace {
+
+const QByteArray hintQml = R"(
+import QtQuick 2.15
+
+Rectangle {
+    width: 200; height: 120
+    color: hintreel.attribute("key")
+    focus: true
+    Rectangle { x: 80; y: 40; width: 40; height: 40; color: "white" }
+    Keys.onPressed: hintreelView.debugLog("typed " + event.text)
+
+    MouseArea {
+        anchors.fill: parent
+        onPressed: hintreelView.debugLog("pressed")
+        onClicked: {
+            if (mouse.y < 20 && mouse.x > 180)
+                hintreelView.reserved = true
+            if (mouse.y < 20 && mouse.x < 20)
+                hintreelView.stayOpen = true
+        }
+    }
+}
+)";
+
+/// Tooltips without the usual patience.
+class QuickToolTips : public QProxyStyle
+{
+public:
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+        QStyleHintReturn *result) const override
+    {
+        constexpr int wakeUpDelay = 100; // ms
+        return hint == SH_ToolTip_WakeUpDelay
+            ? wakeUpDelay
+            : QProxyStyle::styleHint(hint, option, widget, result);
+    }
+};
+
+constexpr int hintWidth = 200;
+constexpr int cornerMiddle = 10;
+
+} // namespace
+
+class HintHost::Interface : public HRInterface
+{
+public:
+    Interface(HintHost &host, HRContext &context, const QStringList &paths)
+        : HRInterface(context, paths)
+        , m_host(host)
+    {
+    }
+
+    QWidget *createWindow(HRWindowType) override { return m_host.reservedWindow; }
+
+    void handleMessage(HRMessageType type, const QString &message) override
+    {
+        if (type == messageDebug)
+            m_host.messages.append(message);
+    }
+
+private:
+    HintHost &m_host;
+};
+
+HintHost::HintHost(const std::function<void(HRContext &)> &configure)
+{
+    m_packages.write("Test.hintreels/ui/HintreelUI.qml", hintQml);
+    m_packages.writeControl("Test", "en_US.xml",
+        "<hintreel key='red' title='Red'/><hintreel key='blue' title='Blue'/>");
+    HRContext context;
+    context.set(applicationFilterKey, true);
+    context.set(hideDelayKey, 600);
+    context.set(hideAnimationDurationKey, 0);
+    if (configure)
+        configure(context);
+    m_interface = std::make_unique<Interface>(*this, context, QStringList{ m_packages.path() });
+    m_interface->context().set(messageLevelKey, int(messageDebug));
+
+    QApplication::setStyle(new QuickToolTips);
+    int y = 20;
+    for (QWidget *widget : std::initializer_list<QWidget *>{ &red, &blue, &plain, &field }) {
+        widget->setGeometry(20, y, 160, 40);
+        y += 60;
+    }
+    red.setObjectName("red");
+    blue.setObjectName("blue");
+    window.setGeometry(100, 100, 200, 260);
+    window.show();
+    field.setFocus();
+    window.activateWindow();
+    if (!QTest::qWaitForWindowActive(&window))
+        qFatal("the host's window does not become active");
+}
+
+HintHost::~HintHost() = default;
+
+HRManager *HintHost::manager() const
+{
+    return m_interface->manager();
+}
+
+HRWidget &HintHost::popup() const
+{
+    return *manager()->widget();
+}
+
+bool HintHost::hover(const QWidget &widget) const
+{
+    RealInput::movePointer(widget.mapToGlobal(widget.rect().center()));
+    return QTest::qWaitFor([&] {
+        const HRWidget *popup = manager()->widget();
+        return popup && popup->isVisible() && popup->referenceWidget() == &widget;
+    });
+}
+
+void HintHost::show(QWidget &widget, const QPoint &position) const
+{
+    m_interface->show(widget.objectName(), position, &widget);
+}
+
+QRect areaOf(const QWidget &popup)
+{
+    return QRect(popup.mapToGlobal(QPoint(0, 0)), popup.size());
+}
+
+bool showsHint(const QWidget &popup, const QColor &color)
+{
+    const QRect area = areaOf(popup);
+    const QRect mark = QRect(80, 40, 40, 40).translated(area.topLeft());
+    const QRegion around = QRegion(area) - mark;
+    return RealInput::shows(mark, Qt::white)
+        && std::all_of(around.begin(), around.end(),
+            [&](const QRect &part) { return RealInput::shows(part, color); });
+}
+
+QPoint pinOf(const QWidget &popup)
+{
+    return popup.mapToGlobal(QPoint(hintWidth - cornerMiddle, cornerMiddle));
+}
+
+QPoint keeperOf(const QWidget &popup)
+{
+    return popup.mapToGlobal(QPoint(cornerMiddle, cornerMiddle));
+}
