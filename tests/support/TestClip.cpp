@@ -129,6 +129,7 @@ private:
 
 QString TestClip::write(const QString &path, const Draw &draw) const
 {
+    av_log_set_level(AV_LOG_QUIET);
     Encoder encoder(*this, path);
     for (int i = 0; i < pictures; ++i)
         encoder.encode(draw(size, i), i);

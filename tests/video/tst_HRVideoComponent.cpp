@@ -4,6 +4,7 @@
 #include "video/HRVideoComponent.h"
 
 #include "support/MessageGuard.h"
+#include "support/SignalCounter.h"
 #include "support/TestClip.h"
 #include "ui/HRQmlTypes_p.h"
 #include "ui/HRView.h"
@@ -13,7 +14,6 @@
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
-#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -188,7 +188,7 @@ void tst_HRVideoComponent::source_isEmpty_pausesAndClears()
 void tst_HRVideoComponent::source_emitsNothing()
 {
     Stage stage;
-    QSignalSpy spy(stage.item, &HRVideoComponent::sourceChanged);
+    SignalCounter spy(stage.item, &HRVideoComponent::sourceChanged);
     stage.setFile(m_clip);
     QTRY_COMPARE(stage.number(), 0);
     QCOMPARE(spy.count(), 0);
@@ -223,7 +223,7 @@ void tst_HRVideoComponent::play_showsAllAndPauses()
         if (numbers.isEmpty() || numbers.last() != stage.number())
             numbers.append(stage.number());
     });
-    QSignalSpy states(stage.item, &HRVideoComponent::stateChanged);
+    SignalCounter states(stage.item, &HRVideoComponent::stateChanged);
     stage.item->play();
     QTRY_COMPARE(states.count(), 2);
     QCOMPARE(stage.item->state(), HRVideoComponent::pausedState);
@@ -269,7 +269,7 @@ void tst_HRVideoComponent::resetState_leavesPlaybackAlone_whileScrubbing()
     item.setState(HRVideoComponent::playingState);
     item.setScrubbing(true);
     QVERIFY(item.isScrubbing());
-    QSignalSpy loadProgress(&item, &HRVideoComponent::loadProgressChanged);
+    SignalCounter loadProgress(&item, &HRVideoComponent::loadProgressChanged);
     item.setState(HRVideoComponent::resetState);
     QCOMPARE(loadProgress.count(), 1);
     QCOMPARE(item.state(), HRVideoComponent::playingState);
@@ -285,8 +285,8 @@ void tst_HRVideoComponent::rewindToStart_pausesAndAnnounces()
     QTest::qWait(20);
     stage.item->play();
     QTRY_VERIFY(stage.item->position() > 2);
-    QSignalSpy progress(stage.item, &HRVideoComponent::progressChanged);
-    QSignalSpy position(stage.item, &HRVideoComponent::positionChanged);
+    SignalCounter progress(stage.item, &HRVideoComponent::progressChanged);
+    SignalCounter position(stage.item, &HRVideoComponent::positionChanged);
     stage.item->rewindToStart();
     QVERIFY(progress.count() >= 1);
     QVERIFY(position.count() >= 1);
@@ -315,7 +315,7 @@ void tst_HRVideoComponent::progress_scrubs()
 void tst_HRVideoComponent::heightChanged_comesOncePerHeight()
 {
     Stage stage;
-    QSignalSpy height(stage.item, &HRVideoComponent::heightChanged);
+    SignalCounter height(stage.item, &HRVideoComponent::heightChanged);
     stage.setFile(m_clip);
     QTRY_VERIFY(isDecoded(stage.item));
     stage.item->setPosition(5);
@@ -333,7 +333,7 @@ void tst_HRVideoComponent::heightChanged_comesOncePerHeight()
 void tst_HRVideoComponent::searchPath_isKept()
 {
     HRVideoComponent item;
-    QSignalSpy spy(&item, &HRVideoComponent::searchPathChanged);
+    SignalCounter spy(&item, &HRVideoComponent::searchPathChanged);
     item.setSearchPath("clips");
     QCOMPARE(item.searchPath(), QString("clips"));
     QCOMPARE(spy.count(), 1);

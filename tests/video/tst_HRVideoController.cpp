@@ -5,9 +5,9 @@
 
 #include "support/FakeSource.h"
 #include "support/MessageGuard.h"
+#include "support/SignalCounter.h"
 
 #include <QElapsedTimer>
-#include <QSignalSpy>
 #include <QtTest>
 
 #include <limits>
@@ -73,9 +73,9 @@ struct Playback
 
     FakeSource source;
     HRVideoController *controller;
-    QSignalSpy display;
-    QSignalSpy state;
-    QSignalSpy position;
+    SignalCounter display;
+    SignalCounter state;
+    SignalCounter position;
 };
 
 constexpr size_t wrapped = std::numeric_limits<size_t>::max();
@@ -182,7 +182,7 @@ void tst_HRVideoController::getFrame_returnsNull_forIndexesAbove32Bits()
 void tst_HRVideoController::setSource_pausesAndRewinds()
 {
     Playback playback(10);
-    QSignalSpy loadProgress(playback.controller, &HRVideoController::loadProgressChanged);
+    SignalCounter loadProgress(playback.controller, &HRVideoController::loadProgressChanged);
     playback.controller->setPosition(5);
     playback.controller->play();
     playback.state.clear();
@@ -229,9 +229,9 @@ void tst_HRVideoController::streamEnded_pauses_unlessScrubbing()
 void tst_HRVideoController::sourceLoaded_announcesSizes()
 {
     Playback playback(0);
-    QSignalSpy width(playback.controller, &HRVideoController::widthChanged);
-    QSignalSpy height(playback.controller, &HRVideoController::heightChanged);
-    QSignalSpy loadProgress(playback.controller, &HRVideoController::loadProgressChanged);
+    SignalCounter width(playback.controller, &HRVideoController::widthChanged);
+    SignalCounter height(playback.controller, &HRVideoController::heightChanged);
+    SignalCounter loadProgress(playback.controller, &HRVideoController::loadProgressChanged);
     playback.source.loadSource();
     QCOMPARE(width.count(), 1);
     QCOMPARE(height.count(), 1);
@@ -241,7 +241,7 @@ void tst_HRVideoController::sourceLoaded_announcesSizes()
 void tst_HRVideoController::loadProgressChanged_isRelayed()
 {
     Playback playback(0);
-    QSignalSpy loadProgress(playback.controller, &HRVideoController::loadProgressChanged);
+    SignalCounter loadProgress(playback.controller, &HRVideoController::loadProgressChanged);
     Q_EMIT playback.source.loadProgressChanged();
     QCOMPARE(loadProgress.count(), 1);
 }

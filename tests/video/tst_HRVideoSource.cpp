@@ -5,9 +5,9 @@
 
 #include "support/FakeSource.h"
 #include "support/MessageGuard.h"
+#include "support/SignalCounter.h"
 
 #include <QElapsedTimer>
-#include <QSignalSpy>
 #include <QtTest>
 
 #include <thread>
@@ -71,7 +71,7 @@ void tst_HRVideoSource::setSource_refuses()
     QFETCH(QUrl, url);
     FakeSource source;
     source.changeSetSource(urlA);
-    QSignalSpy actions(&source, &HRVideoSource::actionChanged);
+    SignalCounter actions(&source, &HRVideoSource::actionChanged);
     QVERIFY(!source.setSource(url));
     source.processActionQueue();
     QCOMPARE(actions.count(), 0);
@@ -94,7 +94,7 @@ void tst_HRVideoSource::setSource_queuesEach_andTheLastWins()
 void tst_HRVideoSource::processActionQueue_appliesOneChangeAPass()
 {
     FakeSource source;
-    QSignalSpy actions(&source, &HRVideoSource::actionChanged);
+    SignalCounter actions(&source, &HRVideoSource::actionChanged);
     source.setAction(HRVideoSource::closeAction);
     source.setAction(HRVideoSource::decodeAction);
     source.processActionQueue();
@@ -108,7 +108,7 @@ void tst_HRVideoSource::processActionQueue_appliesOneChangeAPass()
 void tst_HRVideoSource::changeSetAction_ignoresMinusOne()
 {
     FakeSource source;
-    QSignalSpy actions(&source, &HRVideoSource::actionChanged);
+    SignalCounter actions(&source, &HRVideoSource::actionChanged);
     source.changeSetAction(HRVideoSource::Action(-1));
     QCOMPARE(actions.count(), 0);
     QCOMPARE(source.action(), HRVideoSource::idleAction);
@@ -130,7 +130,7 @@ void tst_HRVideoSource::close_asksForNothing()
 {
     FakeSource source;
     source.changeSetSource(urlA);
-    QSignalSpy actions(&source, &HRVideoSource::actionChanged);
+    SignalCounter actions(&source, &HRVideoSource::actionChanged);
     source.close();
     source.processActionQueue();
     QCOMPARE(actions.count(), 0);
@@ -140,7 +140,7 @@ void tst_HRVideoSource::close_asksForNothing()
 void tst_HRVideoSource::setupSource_startsAFreshCacheAndAsksForDecoding()
 {
     FakeSource source;
-    QSignalSpy changed(&source, &HRVideoSource::sourceChanged);
+    SignalCounter changed(&source, &HRVideoSource::sourceChanged);
     source.load(urlA, 3);
     QCOMPARE(source.loadedFrameCount(), size_t(3));
     QCOMPARE(source.totalFrameCount(), size_t(3));
@@ -196,7 +196,7 @@ void tst_HRVideoSource::clearChanges_dropsWhatWasAskedFor()
 void tst_HRVideoSource::loadSource_emitsSourceLoaded()
 {
     FakeSource source;
-    QSignalSpy loaded(&source, &HRVideoSource::sourceLoaded);
+    SignalCounter loaded(&source, &HRVideoSource::sourceLoaded);
     QVERIFY(source.loadSource());
     QCOMPARE(loaded.count(), 1);
 }
@@ -204,7 +204,7 @@ void tst_HRVideoSource::loadSource_emitsSourceLoaded()
 void tst_HRVideoSource::notifyStreamEnded_emitsStreamEnded()
 {
     FakeSource source;
-    QSignalSpy ended(&source, &HRVideoSource::streamEnded);
+    SignalCounter ended(&source, &HRVideoSource::streamEnded);
     source.notifyStreamEnded();
     QCOMPARE(ended.count(), 1);
 }

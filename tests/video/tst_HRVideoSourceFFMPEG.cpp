@@ -4,11 +4,11 @@
 #include "video/HRVideoSourceFFMPEG.h"
 
 #include "support/MessageGuard.h"
+#include "support/SignalCounter.h"
 #include "support/TestClip.h"
 
 #include <QDateTime>
 #include <QElapsedTimer>
-#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -61,14 +61,16 @@ struct Decoding
     bool isSettled() { return source.action() == HRVideoSource::idleAction; }
 
     HRVideoSourceFFMPEG source;
-    QSignalSpy loaded;
-    QSignalSpy ended;
+    SignalCounter loaded;
+    SignalCounter ended;
 };
 
 /// A source that the test drives itself, without the thread.
 class DrivenSource : public HRVideoSourceFFMPEG
 {
 public:
+    ~DrivenSource() override { quit(); }
+
     using HRVideoSourceFFMPEG::loadSource;
 };
 
@@ -148,7 +150,7 @@ void tst_HRVideoSourceFFMPEG::clip_isDecodedAgain_afterAnother()
 void tst_HRVideoSourceFFMPEG::clip_knowsItsFacts_whileItIsOpen()
 {
     DrivenSource source;
-    QSignalSpy loaded(&source, &HRVideoSource::sourceLoaded);
+    SignalCounter loaded(&source, &HRVideoSource::sourceLoaded);
     source.changeSetSource(m_clip);
     QVERIFY(source.loadSource());
     QCOMPARE(loaded.count(), 1);
@@ -184,7 +186,7 @@ void tst_HRVideoSourceFFMPEG::failure_leavesOneMessageAndIdles()
     QFETCH(QString, message);
     MessageGuard messages;
     Decoding decoding;
-    QSignalSpy actions(&decoding.source, &HRVideoSource::actionChanged);
+    SignalCounter actions(&decoding.source, &HRVideoSource::actionChanged);
     QVERIFY(decoding.source.setSource(QUrl::fromLocalFile(file)));
     QStringList seen;
     QTRY_VERIFY(!(seen += messages.takeMessages()).isEmpty());
@@ -234,7 +236,7 @@ void tst_HRVideoSourceFFMPEG::quitAction_endsTheThread()
 void tst_HRVideoSourceFFMPEG::seekAction_idles_whenNothingIsOpen()
 {
     Decoding decoding;
-    QSignalSpy actions(&decoding.source, &HRVideoSource::actionChanged);
+    SignalCounter actions(&decoding.source, &HRVideoSource::actionChanged);
     decoding.source.setAction(HRVideoSource::seekAction);
     QTRY_COMPARE(actions.count(), 2);
     QVERIFY(decoding.isSettled());
@@ -243,7 +245,7 @@ void tst_HRVideoSourceFFMPEG::seekAction_idles_whenNothingIsOpen()
 void tst_HRVideoSourceFFMPEG::changeSetPosition_resetsTheClock_whenNothingIsOpen()
 {
     Decoding decoding;
-    QSignalSpy position(&decoding.source, &HRVideoSource::positionChanged);
+    SignalCounter position(&decoding.source, &HRVideoSource::positionChanged);
     QVERIFY(decoding.source.setSource(m_clip));
     QTRY_COMPARE(decoding.ended.count(), 1);
     decoding.source.changeSetPosition(3);
@@ -261,7 +263,7 @@ void tst_HRVideoSourceFFMPEG::changeSetPosition_goesOnFromThere_whileOpen()
     encoded.pictures = 20;
     encoded.options = "g=1:crf=12"; // every picture can be started from
     DrivenSource source;
-    QSignalSpy ended(&source, &HRVideoSource::streamEnded);
+    SignalCounter ended(&source, &HRVideoSource::streamEnded);
     source.changeSetSource(QUrl::fromLocalFile(encoded.write(path("positions.mp4"))));
     QVERIFY(source.loadSource());
     source.changeSetPosition(15);
