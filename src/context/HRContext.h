@@ -15,7 +15,7 @@ namespace Hintreels {
 /// The settings that the library reads, by the number under which HRContext stores them.
 ///
 /// Each line names the type, the default that applies when the setting is absent, and the meaning.
-/// The numbers 0, 1, 7, 14, 15 and all above 38 are free for the host's own settings.
+/// The numbers 0, 1, 7, 14, 15 and all above 39 are free for the host's own settings.
 enum contextKey
 {
     hideDelayKey
@@ -54,7 +54,9 @@ enum contextKey
     hideAnimationDurationKey = 35, ///< int, ms, 300: fade-out; 0 hides at once
     messageLevelKey = 36, ///< int, 200: highest HRMessageType that reaches the host
     translationBaseNameKey = 37, ///< string, "Hintreels": base name of translation files
-    scaleKey = 38 ///< double, 1.0: factor for sizes in the UI; read at start
+    scaleKey = 38, ///< double, 1.0: factor for sizes in the UI; read at start
+    reducedMotionKey
+        = 39 ///< bool: nothing moves unless the reader asks (absent: as the desktop does)
 };
 
 } // namespace Hintreels

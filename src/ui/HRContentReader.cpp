@@ -5,6 +5,8 @@
 
 #include "ui/HRReadableColor_p.h"
 #include "ui/HRTextStyle_p.h"
+#include "video/HRCaptions_p.h"
+#include "video/HRClipSize_p.h"
 
 #include <QFileInfo>
 #include <QImageReader>
@@ -29,6 +31,7 @@ const QMap<QString, QString> neededOfBlock{
     { QStringLiteral("picture"), QStringLiteral("source") },
     { QStringLiteral("note"), QStringLiteral("text") },
     { QStringLiteral("link"), QStringLiteral("to") },
+    { QStringLiteral("video"), QStringLiteral("source") },
 };
 
 bool isMarkdown(const QString &tag)
@@ -109,11 +112,11 @@ QString readSummary(const HRXmlElement &element)
     return {};
 }
 
-QLocale localeOf(const HRXmlElement &element, const HRContentReader::LocaleSource &currentLocale)
+QLocale localeOf(const HRXmlElement &element, const HRReaderSettings &settings)
 {
     const auto *root = qobject_cast<const HRXmlElement *>(element.parent());
     const QString name = root ? root->attribute("locale") : QString();
-    return name.isEmpty() ? currentLocale() : QLocale(name);
+    return name.isEmpty() ? settings.locales.first() : QLocale(name);
 }
 
 // A plus sign joins what stands before it to the next key, unless nothing does: then it is the key.
@@ -149,9 +152,9 @@ QString dedent(const QString &text)
     return lines.join('\n');
 }
 
-HRContentReader::HRContentReader(LocaleSource currentLocale, QObject *parent)
+HRContentReader::HRContentReader(SettingsSource settings, QObject *parent)
     : QObject(parent)
-    , m_currentLocale(std::move(currentLocale))
+    , m_settings(std::move(settings))
 {
 }
 
@@ -159,7 +162,7 @@ QVariantMap HRContentReader::read(HRXmlElement *element) const
 {
     if (!element)
         return {};
-    const QLocale locale = localeOf(*element, m_currentLocale);
+    const QLocale locale = localeOf(*element, m_settings());
     return {
         { "title", element->attribute("title").simplified() },
         { "shortcut", element->attribute("shortcut").simplified() },
@@ -192,6 +195,35 @@ QVariantMap HRContentReader::picture(const QString &path) const
         return {};
     return { { "url", QUrl::fromLocalFile(path) }, { "width", size.width() },
         { "height", size.height() } };
+}
+
+QVariantMap HRContentReader::clip(const QString &path) const
+{
+    const QSize size = clipSize(path);
+    if (size.isEmpty())
+        return {};
+    return { { "width", size.width() }, { "height", size.height() } };
+}
+
+QStringList HRContentReader::captionFiles(const QString &clip) const
+{
+    return Hintreels::captionFiles(clip, m_settings().locales);
+}
+
+QVariantList HRContentReader::captions(const QString &path) const
+{
+    QVariantList captions;
+    const QVector<HRCaption> read = readCaptions(path);
+    for (const HRCaption &caption : read) {
+        captions.append(QVariantMap{
+            { "start", caption.start }, { "end", caption.end }, { "text", caption.text } });
+    }
+    return captions;
+}
+
+bool HRContentReader::reducedMotion() const
+{
+    return m_settings().reducedMotion;
 }
 
 QColor HRContentReader::readable(const QColor &wanted, const QColor &background) const

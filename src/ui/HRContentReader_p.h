@@ -4,9 +4,9 @@
 #pragma once
 
 #include "content/HRXmlElement.h"
+#include "ui/HRReaderSettings_p.h"
 
 #include <QColor>
-#include <QLocale>
 #include <QObject>
 #include <QVariantMap>
 
@@ -27,10 +27,10 @@ class HRContentReader : public QObject
     Q_OBJECT
 
 public:
-    using LocaleSource = std::function<QLocale()>;
+    using SettingsSource = std::function<HRReaderSettings()>;
 
-    /// @param currentLocale asked for content that names no locale of its own
-    explicit HRContentReader(LocaleSource currentLocale, QObject *parent = nullptr);
+    /// @param settings asked anew at each use
+    explicit HRContentReader(SettingsSource settings, QObject *parent = nullptr);
 
     /// Everything that is shown of a hint reel, an empty map for a null element.
     ///
@@ -52,6 +52,20 @@ public:
     /// 256 MB.
     Q_INVOKABLE QVariantMap picture(const QString &path) const;
 
+    /// The "width" and "height" of a clip in pixels, an empty map where it cannot be opened or its
+    /// header does not tell.
+    Q_INVOKABLE QVariantMap clip(const QString &path) const;
+
+    /// Names of the files in which a clip's captions may lie, the best for the reader first.
+    Q_INVOKABLE QStringList captionFiles(const QString &clip) const;
+
+    /// The captions of a WebVTT file, a map for each: "start" and "end" in seconds, and "text".
+    /// Empty where there is no such file.
+    Q_INVOKABLE QVariantList captions(const QString &path) const;
+
+    /// Whether nothing is to move unless the reader asks for it.
+    Q_INVOKABLE bool reducedMotion() const;
+
     /// @copydoc Hintreels::readableColor()
     Q_INVOKABLE QColor readable(const QColor &wanted, const QColor &background) const;
 
@@ -63,7 +77,7 @@ public:
     Q_INVOKABLE QVariantList styleText(QQuickTextDocument *document, const QVariantMap &look) const;
 
 private:
-    LocaleSource m_currentLocale;
+    SettingsSource m_settings;
 };
 
 /// Takes the indentation that all lines share off a block of text, and blank lines off its ends.

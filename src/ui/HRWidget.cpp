@@ -17,7 +17,6 @@
 #include <QApplication>
 #include <QCursor>
 #include <QFileInfo>
-#include <QLocale>
 #include <QPointer>
 #include <QQmlContext>
 #include <QQuickItem>
@@ -122,9 +121,9 @@ void HRWidgetPrivate::setContextProperties(HRXmlElement *content, const QString 
     if (context->contextProperty(QStringLiteral("hintreelView")).isValid())
         return;
     context->setContextProperty(QStringLiteral("hintreelView"), view.data());
-    const auto currentLocale = [m = manager] { return m ? m->currentLocale() : QLocale::system(); };
+    const auto settings = [m = manager] { return readerSettings(m); };
     context->setContextProperty(
-        QStringLiteral("hintreelReader"), new HRContentReader(currentLocale, view));
+        QStringLiteral("hintreelReader"), new HRContentReader(settings, view));
 }
 
 /// So that the popup does not appear in another size first, and sticks out of the screen.

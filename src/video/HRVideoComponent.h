@@ -78,6 +78,11 @@ public:
     /// 1 as soon as a picture is decoded, else 0.
     double loadProgress() const;
 
+    /// The time of the painted picture in seconds, 0 where there is none. The clock starts with the
+    /// item's first clip and runs on from clip to clip. Nothing tells of a change by itself: while
+    /// the clip plays, positionChanged() follows each picture.
+    Q_INVOKABLE double pictureTime() const { return m_frame.pts(); }
+
     void paint(QPainter *painter) override;
 
 Q_SIGNALS:

@@ -16,7 +16,9 @@ namespace {
 
 HRContentReader germanReader()
 {
-    return HRContentReader([] { return QLocale("de_DE"); });
+    return HRContentReader([] {
+        return HRReaderSettings{ { QLocale("de_DE"), QLocale("en_US") }, false };
+    });
 }
 
 HRXmlElement *addChild(HRXmlElement *parent, const QString &tag, const QString &text = {},
@@ -305,7 +307,9 @@ void tst_HRContentReader::read_tellsTheDirectionOfWriting()
     HRXmlElement root;
     root.setAttribute("locale", contentLocale);
     HRXmlElement *element = addChild(&root, "hintreel");
-    const HRContentReader reader([currentLocale] { return QLocale(currentLocale); });
+    const HRContentReader reader([currentLocale] {
+        return HRReaderSettings{ { QLocale(currentLocale) }, false };
+    });
 
     QCOMPARE(reader.read(element)["rightToLeft"].toBool(), rightToLeft);
 }

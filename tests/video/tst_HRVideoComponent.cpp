@@ -415,7 +415,7 @@ void tst_HRVideoComponent::metaObject_keepsItsOrder()
             "heightChanged()", "searchPathChanged()", "scrubbingChanged()",
             "contentHeightChanged()", "contentWidthChanged()", "loadProgressChanged()",
             "frameReady()", "play()", "pause()", "sourceChangedState()", "rewindToStart()",
-            "controllerPositionChanged()" }));
+            "controllerPositionChanged()", "pictureTime()" }));
     QStringList properties;
     for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i)
         properties += meta.property(i).name();

@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QSize>
+#include <QString>
+
+namespace Hintreels {
+
+/// The size of a clip's pictures in pixels as its header gives it; empty where it gives none, and
+/// for a file that cannot be opened as a clip.
+///
+/// Reads no further than the header, so that a popup may ask while it is being laid out.
+QSize clipSize(const QString &path);
+
+} // namespace Hintreels

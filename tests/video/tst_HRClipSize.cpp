@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "support/TestClip.h"
+#include "support/TestPackage.h"
+#include "video/HRClipSize_p.h"
+
+#include <QtTest>
+
+using namespace Hintreels;
+
+class tst_HRClipSize : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void clipSize_isThatOfItsPictures_data();
+    void clipSize_isThatOfItsPictures();
+    void clipSize_isEmpty_whenItIsNoClip_data();
+    void clipSize_isEmpty_whenItIsNoClip();
+};
+
+void tst_HRClipSize::clipSize_isThatOfItsPictures_data()
+{
+    QTest::addColumn<QString>("name");
+
+    QTest::newRow("MP4") << "clip.mp4";
+    QTest::newRow("Matroska") << "clip.mkv";
+}
+
+void tst_HRClipSize::clipSize_isThatOfItsPictures()
+{
+    QFETCH(QString, name);
+    TestPackages files;
+    TestClip clip;
+    clip.size = QSize(90, 50);
+
+    QCOMPARE(clipSize(clip.write(files.path() + "/" + name)), QSize(90, 50));
+}
+
+void tst_HRClipSize::clipSize_isEmpty_whenItIsNoClip_data()
+{
+    QTest::addColumn<QByteArray>("content");
+
+    QTest::newRow("empty file") << QByteArray();
+    QTest::newRow("text") << QByteArray("not a clip");
+    QTest::newRow("playlist") << QByteArray("#EXTM3U\n#EXTINF:1,\nclip.mp4\n");
+}
+
+void tst_HRClipSize::clipSize_isEmpty_whenItIsNoClip()
+{
+    QFETCH(QByteArray, content);
+    TestPackages files;
+
+    QVERIFY(clipSize(files.write("clip.mp4", content)).isEmpty());
+    QVERIFY(clipSize(files.path()).isEmpty());
+    QVERIFY(clipSize("Resources").isEmpty());
+}
+
+QTEST_APPLESS_MAIN(tst_HRClipSize)
+#include "tst_HRClipSize.moc"
