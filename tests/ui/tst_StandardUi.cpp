@@ -4,6 +4,7 @@
 #include "manager/HRManager.h"
 #include "support/MessageGuard.h"
 #include "support/RecordingHost.h"
+#include "support/TestClip.h"
 #include "support/TestPackage.h"
 #include "ui/HRReadableColor_p.h"
 #include "ui/HRView.h"
@@ -50,6 +51,15 @@ QByteArray png()
     return buffer.data();
 }
 
+/// In breadth first order; what a Repeater makes is no child of any object.
+QList<QQuickItem *> itemsBelow(QQuickItem *item)
+{
+    QList<QQuickItem *> items{ item };
+    for (int i = 0; i < items.size(); ++i)
+        items += items[i]->childItems();
+    return items;
+}
+
 /// A host with the standard UI and one package that uses it.
 struct Fixture
 {
@@ -60,6 +70,7 @@ struct Fixture
         packages.write("Test.hintreels/Resources/good.png", png());
         packages.write("Test.hintreels/Resources/broken.png", png().left(60));
         context.set(localeKey, QString(locale));
+        context.set(hideDelayKey, 0); // never: the pointer is not near
         context.set(allowNamedResourcesKey, true);
     }
 
@@ -91,7 +102,14 @@ struct Fixture
 
     HRView *view() const { return popup->view(); }
     QQuickItem *root() const { return view()->rootObject(); }
-    QQuickItem *item(const QString &name) const { return root()->findChild<QQuickItem *>(name); }
+    QQuickItem *item(const QString &name) const
+    {
+        for (QQuickItem *candidate : itemsBelow(root())) {
+            if (candidate->objectName() == name)
+                return candidate;
+        }
+        qFatal("there is no item %s", qPrintable(name));
+    }
     QString text(const QString &name) const { return item(name)->property("text").toString(); }
 
     void click(const QQuickItem *target) const
@@ -129,14 +147,6 @@ int heightOf(const QByteArray &blocks)
     return fixture.view()->height();
 }
 
-QList<QQuickItem *> itemsBelow(QQuickItem *item)
-{
-    QList<QQuickItem *> items{ item };
-    for (int i = 0; i < items.size(); ++i)
-        items += items[i]->childItems();
-    return items;
-}
-
 QQuickItem *itemWithText(const Fixture &fixture, const QString &text)
 {
     const QList<QQuickItem *> items = itemsBelow(fixture.root());
@@ -154,6 +164,34 @@ QColor backgroundOf(const QQuickItem *item)
             return color;
     }
     return {};
+}
+
+/// A hint whose only block is a clip, in the fixture's package.
+struct ClipFixture : Fixture
+{
+    explicit ClipFixture(const QByteArray &attributes = {}, const TestClip &recording = TestClip())
+        : Fixture("<hintreel key=\"key\" title=\"Pen\"><video source=\"clip.mp4\" " + attributes
+            + "/></hintreel>")
+    {
+        recording.write(packages.path() + "/Test.hintreels/Resources/clip.mp4");
+    }
+
+    QQuickItem *clip() const { return item("clip"); }
+    bool wanted() const { return clip()->property("wanted").toBool(); }
+    bool ended() const { return clip()->property("ended").toBool(); }
+    qreal time() const { return clip()->property("time").toReal(); }
+    /// Number of the picture on show, in a clip of 30 pictures a second.
+    int picture() const { return qRound(30 * time()); }
+    qreal progress() const { return clip()->property("progress").toReal(); }
+    QString buttonName() const { return item("clipButton")->property("name").toString(); }
+};
+
+TestClip longClip()
+{
+    TestClip clip;
+    clip.pictures = 58;
+    clip.rate = 10;
+    return clip;
 }
 
 QByteArray longText(int paragraphs)
@@ -220,6 +258,15 @@ private Q_SLOTS:
     void keyboard_reachesEveryLink_whenDetached();
     void keyboard_scrolls_whenDetached();
     void accessibility_namesWhatCanBePressed();
+    void video_playsOnceThrough_thenOffersReplay();
+    void video_playsAgain_whenItLoops();
+    void video_pausesAndGoesOn_whenClicked();
+    void video_goesWhereItsLineIsPressed();
+    void video_waitsForTheReader_whenMotionIsReduced();
+    void video_rests_whenThePopupIsHidden();
+    void video_keepsItsAspect_whenItIsWide();
+    void video_showsTheCaptionOfItsPicture();
+    void video_isReachedByKeyboard_whenDetached();
     void simpleUi_isAsWideAsItsText();
     void example_isShownWithoutTrouble_data();
     void example_isShownWithoutTrouble();
@@ -294,6 +341,9 @@ void tst_StandardUi::ui_leavesNoHole_data()
     QTest::newRow("empty text") << QByteArray("<text>  </text>");
     QTest::newRow("empty note") << QByteArray("<note kind=\"tip\"/>");
     QTest::newRow("empty summary") << QByteArray("<summary/>");
+    QTest::newRow("missing clip") << QByteArray("<video source=\"missing.mp4\">Caption</video>");
+    QTest::newRow("clip that is a picture")
+        << QByteArray("<video source=\"good.png\">Caption</video>");
     QTest::newRow("link to nowhere") << QByteArray("<link>Label</link>");
 }
 
@@ -360,13 +410,16 @@ void tst_StandardUi::ui_translatesThenInterpolates()
     fixture.translations = { { "Draws a %(quality)s line.", "Zeichnet eine %(quality)s Linie." },
         { "Tip", "Tipp" } };
     fixture.show();
+    QVERIFY(itemWithText(fixture, "Does it."));
     fixture.host->setGlobalProperty("quality", "feine");
+    fixture.translations["Does it."] = "Macht es.";
     fixture.popup->hide();
     fixture.show();
 
     QCOMPARE(fixture.text("summary"), QString("Zeichnet eine feine Linie."));
     QVERIFY(itemWithText(fixture, "Tipp"));
     QVERIFY(itemWithText(fixture, "Note"));
+    QVERIFY(itemWithText(fixture, "Macht es."));
     QVERIFY(fixture.host->requested.contains("Content:Does it."));
     QVERIFY(fixture.host->requested.contains("StandardUI:Tip"));
 }
@@ -589,6 +642,159 @@ void tst_StandardUi::accessibility_namesWhatCanBePressed()
     names.sort();
 
     QCOMPARE(names, (QStringList{ "Documentation", "Keep open in a window", "There", "link" }));
+}
+
+void tst_StandardUi::video_playsOnceThrough_thenOffersReplay()
+{
+    ClipFixture fixture;
+    fixture.show();
+    QCOMPARE(fixture.buttonName(), QString("Pause"));
+
+    QTRY_VERIFY(fixture.ended());
+    QTRY_COMPARE(fixture.picture(), 7);
+    QCOMPARE(fixture.buttonName(), QString("Play again"));
+
+    fixture.click(fixture.item("clipButton"));
+    QCOMPARE(fixture.buttonName(), QString("Pause"));
+    QTRY_VERIFY(fixture.time() < 0.1);
+    QTRY_VERIFY(fixture.ended());
+    QCOMPARE(fixture.troubles(), QStringList());
+}
+
+void tst_StandardUi::video_playsAgain_whenItLoops()
+{
+    ClipFixture fixture("loop=\"true\"");
+    fixture.show();
+
+    for (int round = 0; round < 2; ++round) {
+        QTRY_VERIFY(fixture.time() > 0.15);
+        QTRY_VERIFY(fixture.time() < 0.1);
+    }
+    QVERIFY(!fixture.ended());
+}
+
+void tst_StandardUi::video_pausesAndGoesOn_whenClicked()
+{
+    ClipFixture fixture({}, longClip());
+    fixture.show();
+    QTRY_VERIFY(fixture.time() > 0.2);
+
+    fixture.click(fixture.clip());
+    QCOMPARE(fixture.buttonName(), QString("Play"));
+    QTest::qWait(150);
+    const qreal pausedAt = fixture.time();
+    QTest::qWait(300);
+    QCOMPARE(fixture.time(), pausedAt);
+
+    fixture.click(fixture.item("clipButton"));
+    QTRY_VERIFY(fixture.time() > pausedAt + 0.2);
+}
+
+void tst_StandardUi::video_goesWhereItsLineIsPressed()
+{
+    ClipFixture fixture({}, longClip());
+    fixture.context.set(reducedMotionKey, true);
+    fixture.show();
+    QTRY_VERIFY(fixture.clip()->property("shown").toBool());
+    QTest::qWait(300); // until all is decoded
+
+    fixture.click(fixture.item("progressLine"));
+    QTRY_VERIFY(qAbs(fixture.progress() - 0.5) < 0.05);
+    QTRY_VERIFY(qAbs(fixture.time() - 2.9) < 0.2);
+    QVERIFY(!fixture.wanted());
+}
+
+void tst_StandardUi::video_waitsForTheReader_whenMotionIsReduced()
+{
+    ClipFixture fixture("loop=\"true\"");
+    fixture.context.set(reducedMotionKey, true);
+    fixture.show();
+    QTRY_VERIFY(fixture.clip()->property("shown").toBool());
+    QTest::qWait(300);
+    QCOMPARE(fixture.time(), 0.0);
+    QCOMPARE(fixture.buttonName(), QString("Play"));
+
+    fixture.click(fixture.clip());
+
+    QTRY_VERIFY(fixture.ended());
+    QTRY_COMPARE(fixture.picture(), 7);
+}
+
+void tst_StandardUi::video_rests_whenThePopupIsHidden()
+{
+    ClipFixture fixture({}, longClip());
+    fixture.show();
+    QTRY_VERIFY(fixture.time() > 0.1);
+
+    fixture.popup->hide();
+    QTest::qWait(150);
+    const qreal restingAt = fixture.progress();
+    QTest::qWait(300);
+
+    QCOMPARE(fixture.progress(), restingAt);
+}
+
+void tst_StandardUi::video_keepsItsAspect_whenItIsWide()
+{
+    TestClip wide;
+    wide.size = QSize(1200, 300);
+    wide.pictures = 2;
+    ClipFixture fixture({}, wide);
+    fixture.show();
+
+    const QQuickItem *clip = fixture.clip();
+    QVERIFY(clip->width() < fixture.root()->width());
+    QVERIFY(qAbs(clip->width() / clip->height() - 4) < 0.1);
+    QCOMPARE(fixture.root()->size(), fixture.sizeAtOnce);
+    QTRY_VERIFY(clip->property("shown").toBool());
+    QCOMPARE(fixture.root()->size(), fixture.sizeAtOnce);
+}
+
+void tst_StandardUi::video_showsTheCaptionOfItsPicture()
+{
+    ClipFixture fixture;
+    fixture.packages.write("Test.hintreels/Resources/clip.vtt",
+        "WEBVTT\n\n00:00.000 --> 00:00.010\nFirst\n\n00:00.200 --> 00:09.000\nLast\n");
+    fixture.packages.write("Test.hintreels/Resources/clip.de_DE.vtt",
+        "WEBVTT\n\n00:00.000 --> 00:00.010\nZuerst\n\n00:00.200 --> 00:09.000\nZuletzt\n");
+    fixture.context.set(reducedMotionKey, true);
+    fixture.show();
+    const QQuickItem *caption = fixture.item("clipCaption");
+    QTRY_VERIFY(caption->isVisible());
+    QCOMPARE(caption->property("text").toString(), QString("First"));
+
+    fixture.click(fixture.clip());
+    QTRY_VERIFY(fixture.ended());
+    QTRY_COMPARE(caption->property("text").toString(), QString("Last"));
+
+    fixture.popup->hide();
+    fixture.host->context().set(localeKey, "de_DE");
+    fixture.show();
+    QTRY_COMPARE(fixture.text("clipCaption"), QString("Zuerst"));
+}
+
+void tst_StandardUi::video_isReachedByKeyboard_whenDetached()
+{
+    ClipFixture fixture({}, longClip());
+    fixture.context.set(reducedMotionKey, true);
+    fixture.show();
+    QTRY_VERIFY(fixture.clip()->property("shown").toBool());
+    HRView *view = fixture.view();
+    view->setReserved(true);
+    view->requestActivate();
+    QTRY_COMPARE(QGuiApplication::focusWindow(), view);
+
+    QTest::keyClick(view, Qt::Key_Tab);
+    QTest::keyClick(view, Qt::Key_Space);
+    QVERIFY(fixture.wanted());
+    QTest::keyClick(view, Qt::Key_Space);
+    QVERIFY(!fixture.wanted());
+
+    const qreal before = fixture.progress();
+    QTest::keyClick(view, Qt::Key_Tab);
+    for (int i = 0; i < 4; ++i)
+        QTest::keyClick(view, Qt::Key_Right);
+    QVERIFY(fixture.progress() > before + 0.1);
 }
 
 void tst_StandardUi::simpleUi_isAsWideAsItsText()

@@ -12,19 +12,23 @@ Column {
         "keys": "KeysBlock.qml",
         "picture": "PictureBlock.qml",
         "note": "NoteBlock.qml",
-        "link": "LinkBlock.qml"
+        "link": "LinkBlock.qml",
+        "video": "VideoBlock.qml"
     })
 
     spacing: 3 * look.step
 
     Repeater {
-        model: hint.values.blocks
+        model: hint.blocks
 
         Loader {
             readonly property var block: modelData
 
             width: list.width
-            onBlockChanged: setSource(list.componentOfBlock[block.block], { "block": block })
+            // With its width from the start, a block has its height before the first frame.
+            onBlockChanged: setSource(list.componentOfBlock[block.block], {
+                "block": block, "width": list.width
+            })
         }
     }
 }

@@ -9,6 +9,7 @@ import QtQuick 2.15
 QtObject {
     readonly property QtObject element: hintreel
     property var values: ({})
+    property var blocks: []
     readonly property bool rightToLeft: values.rightToLeft === true
     readonly property string documentation: hintreelView.documentationAvailable && values.documentation || ""
 
@@ -22,9 +23,12 @@ QtObject {
         if (hintreelView.stayOpen)
             hintreelView.stayOpen = false
         values = hintreelReader.read(element)
+        // An equal list would leave all blocks as they are: a clip at its end, texts in the language
+        // of before.
+        blocks = []
+        blocks = values.blocks
         taken()
     }
 
     onElementChanged: take()
-    Component.onCompleted: take()
 }

@@ -40,10 +40,9 @@ Rectangle {
 
         Column {
             id: column
-            anchors.left: parent.left
-            anchors.right: parent.right
-            anchors.margins: look.padding
+            x: look.padding
             y: look.padding
+            width: look.width - 2 * look.padding
             spacing: 3 * look.step
 
             Title {

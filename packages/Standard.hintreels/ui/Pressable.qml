@@ -8,8 +8,8 @@ Item {
     id: pressable
 
     property string name
-    readonly property bool hovered: hover.hovered
-    readonly property bool pressed: tap.pressed
+    readonly property alias hovered: area.containsMouse
+    readonly property alias pressed: area.pressed
 
     signal triggered
 
@@ -24,14 +24,12 @@ Item {
     Keys.onEnterPressed: triggered()
     Keys.onSpacePressed: triggered()
 
-    TapHandler {
-        id: tap
-        onTapped: pressable.triggered()
-    }
-
-    HoverHandler {
-        id: hover
+    MouseArea {
+        id: area
+        anchors.fill: parent
+        hoverEnabled: true
         cursorShape: Qt.PointingHandCursor
+        onClicked: pressable.triggered()
     }
 
     FocusRing {}

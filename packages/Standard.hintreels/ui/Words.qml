@@ -10,6 +10,10 @@ import QtQuick 2.15
 QtObject {
     readonly property string documentation: own("Documentation")
     readonly property string pin: own("Keep open in a window")
+    readonly property string play: own("Play")
+    readonly property string pause: own("Pause")
+    readonly property string playAgain: own("Play again")
+    readonly property string position: own("Position in the clip")
     readonly property var noteTitles: ({
         "tip": own("Tip"), "note": own("Note"), "warning": own("Warning")
     })

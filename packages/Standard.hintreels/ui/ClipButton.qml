@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+// Plays, pauses and plays again: large in the middle of a resting clip, small in the corner else.
+import QtQuick 2.15
+
+Pressable {
+    id: button
+
+    property var player
+    property bool offered: true
+    readonly property bool resting: !player.wanted
+    readonly property real margin: resting ? 0 : 2 * look.step
+
+    name: player.ended ? words.playAgain : player.wanted ? words.pause : words.play
+    width: look.scaled(resting ? 44 : 28)
+    height: width
+    x: resting ? Math.round((parent.width - width) / 2) : margin
+    y: resting ? Math.round((parent.height - height) / 2) : parent.height - height - margin - look.step
+    opacity: offered ? 1 : 0
+    onTriggered: player.toggle()
+
+    Behavior on opacity {
+        enabled: !hintreelReader.reducedMotion()
+        NumberAnimation { duration: 120 }
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        radius: width / 2
+        color: button.hovered ? "#d0000000" : "#a0000000"
+    }
+
+    Icon {
+        anchors.centerIn: parent
+        width: Math.round(parent.width * 0.5)
+        height: width
+        color: "#ffffff"
+        filled: !button.player.ended
+        path: button.player.ended ? "M13 4 L13 8 L9 8 M13 8 A5.2 5.2 0 1 0 12 12"
+            : button.player.wanted ? "M4 3 L6 3 L6 13 L4 13 Z M10 3 L12 3 L12 13 L10 13 Z"
+            : "M5 3 L13 8 L5 13 Z"
+    }
+}

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+// The caption that belongs to the picture on show, from a file beside the clip.
+import QtQuick 2.15
+
+Rectangle {
+    id: caption
+
+    property string source
+    property real time: 0
+    property bool shown: false
+    readonly property var captions: find()
+    readonly property string text: captions.filter(c => c.start <= time && time < c.end)
+        .map(c => c.text).join("\n")
+
+    function find() {
+        for (const file of hintreelReader.captionFiles(source)) {
+            const found = hintreelReader.captions(hintreelView.findResource(file))
+            if (found.length)
+                return found
+        }
+        return []
+    }
+
+    anchors.horizontalCenter: parent.horizontalCenter
+    y: parent.height - height - 3 * look.step
+    width: label.width + 4 * look.step
+    height: label.height + 2 * look.step
+    visible: shown && text
+    radius: look.scaled(4)
+    color: "#c0000000"
+
+    Text {
+        id: label
+        anchors.centerIn: parent
+        width: Math.min(implicitWidth, caption.parent.width - 8 * look.step)
+        text: words.content(caption.text)
+        color: "#ffffff"
+        font.pixelSize: look.smallSize
+        textFormat: Text.PlainText
+        horizontalAlignment: Text.AlignHCenter
+        wrapMode: Text.Wrap
+    }
+}

@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+// How far the clip is; dragging it, or the arrow keys, goes through the clip by hand.
+import QtQuick 2.15
+
+Item {
+    id: line
+
+    property var player
+    property bool emphasized: false
+
+    // Time runs from left to right on every clip.
+    LayoutMirroring.enabled: false
+    LayoutMirroring.childrenInherit: true
+
+    anchors.left: parent.left
+    anchors.right: parent.right
+    anchors.bottom: parent.bottom
+    height: 3 * look.step
+    activeFocusOnTab: hintreelView.reserved
+    Accessible.role: Accessible.Slider
+    Accessible.name: words.position
+    Accessible.focusable: hintreelView.reserved
+    Accessible.onIncreaseAction: step(0.05)
+    Accessible.onDecreaseAction: step(-0.05)
+
+    function step(fraction) {
+        player.scrubTo(player.progress + fraction)
+        player.endScrubbing()
+    }
+
+    Keys.onLeftPressed: step(-0.05)
+    Keys.onRightPressed: step(0.05)
+
+    Rectangle {
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        height: line.emphasized || area.pressed ? look.scaled(5) : look.scaled(3)
+        color: "#70000000"
+
+        Rectangle {
+            width: Math.round(parent.width * line.player.progress)
+            height: parent.height
+            color: look.palette.highlight
+        }
+    }
+
+    MouseArea {
+        id: area
+        anchors.fill: parent
+        // The page would take the drag for its own scrolling.
+        preventStealing: true
+        cursorShape: Qt.PointingHandCursor
+        onPressed: line.player.scrubTo(mouse.x / width)
+        onPositionChanged: line.player.scrubTo(mouse.x / width)
+        onReleased: line.player.endScrubbing()
+        onCanceled: line.player.endScrubbing()
+    }
+
+    FocusRing {
+        anchors.margins: 0
+    }
+}
