@@ -22,7 +22,7 @@ Item {
     readonly property bool shown: video.implicitWidth > 0
     readonly property bool onScreen: Window.window !== null && Window.window.visible
     readonly property real progress: ended ? 1 : shown ? Math.min(1, video.progress) : 0
-    readonly property real time: video.pictureTime
+    property real time: 0
 
     // Within the last picture of any clip.
     readonly property real justBeforeTheEnd: 0.999999
@@ -98,6 +98,17 @@ Item {
             yScale: video.implicitHeight > 0 ? clip.height / video.implicitHeight : 1
         }
         onStateChanged: clip.goOn()
+        onPositionChanged: {
+            clip.time = pictureTime()
+            settling.restart()
+        }
+    }
+
+    // A picture that was asked for by hand comes a moment after the position.
+    Timer {
+        id: settling
+        interval: 150
+        onTriggered: clip.time = video.pictureTime()
     }
 
     // At the end of what is decoded, more may come; when nothing came for a while, that was the end.

@@ -12,6 +12,22 @@
         <translation>In einem Fenster offen halten</translation>
     </message>
     <message>
+        <source>Play</source>
+        <translation>Abspielen</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Play again</source>
+        <translation>Noch einmal abspielen</translation>
+    </message>
+    <message>
+        <source>Position in the clip</source>
+        <translation>Stelle im Film</translation>
+    </message>
+    <message>
         <source>Tip</source>
         <translation>Tipp</translation>
     </message>
