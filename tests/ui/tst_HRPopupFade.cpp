@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "ui/HRPopupFade_p.h"
+
+#include <QPropertyAnimation>
+#include <QWidget>
+#include <QtTest>
+
+using namespace Hintreels;
+
+namespace {
+
+constexpr int shortFade = 50; // ms
+constexpr int longFade = 60000; // ms
+
+struct Fixture
+{
+    QWidget window;
+    HRPopupFade fade{ &window };
+    int ended = 0;
+
+    Fixture() { window.setWindowOpacity(1.0); }
+    void fadeTo(qreal opacity, int duration)
+    {
+        fade.fadeTo(opacity, duration, [this] { ++ended; });
+    }
+};
+
+} // namespace
+
+class tst_HRPopupFade : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void animation_isChildOfWindow();
+    void fadeTo_reachesOpacityAndTells();
+    void fadeTo_startsFromCurrentOpacity();
+    void fadeTo_replacesRunningFade_whichTellsNobody();
+    void stop_leavesOpacity_andTellsNobody();
+    void isFadingOut_tellsDirection();
+};
+
+void tst_HRPopupFade::animation_isChildOfWindow()
+{
+    Fixture f;
+    const auto *animation = f.window.findChild<QPropertyAnimation *>();
+    QVERIFY(animation);
+    QCOMPARE(animation->targetObject(), &f.window);
+    QCOMPARE(animation->propertyName(), QByteArray("windowOpacity"));
+}
+
+void tst_HRPopupFade::fadeTo_reachesOpacityAndTells()
+{
+    Fixture f;
+    f.fadeTo(0.0, shortFade);
+    QVERIFY(f.fade.isRunning());
+    QTRY_COMPARE(f.ended, 1);
+    QVERIFY(!f.fade.isRunning());
+    QCOMPARE(f.window.windowOpacity(), 0.0);
+}
+
+void tst_HRPopupFade::fadeTo_startsFromCurrentOpacity()
+{
+    Fixture f;
+    f.fadeTo(0.0, shortFade);
+    QTRY_COMPARE(f.ended, 1);
+    f.window.setWindowOpacity(0.6);
+    f.fadeTo(0.0, longFade);
+    QCOMPARE(qRound(f.window.windowOpacity() * 10), 6);
+}
+
+void tst_HRPopupFade::fadeTo_replacesRunningFade_whichTellsNobody()
+{
+    Fixture f;
+    int firstEnded = 0;
+    f.fade.fadeTo(0.5, longFade, [&] { ++firstEnded; });
+    f.fadeTo(1.0, shortFade);
+    QTRY_COMPARE(f.ended, 1);
+    QCOMPARE(firstEnded, 0);
+}
+
+void tst_HRPopupFade::stop_leavesOpacity_andTellsNobody()
+{
+    Fixture f;
+    f.fadeTo(0.0, shortFade);
+    f.fade.stop();
+    QVERIFY(!f.fade.isRunning());
+    f.fade.stop();
+    QTest::qWait(2 * shortFade);
+    QCOMPARE(f.ended, 0);
+    QVERIFY(f.window.windowOpacity() > 0.5);
+}
+
+void tst_HRPopupFade::isFadingOut_tellsDirection()
+{
+    Fixture f;
+    QVERIFY(!f.fade.isFadingOut());
+    f.fadeTo(1.0, longFade);
+    QVERIFY(!f.fade.isFadingOut());
+    f.fadeTo(0.0, longFade);
+    QVERIFY(f.fade.isFadingOut());
+    f.fade.stop();
+    QVERIFY(!f.fade.isFadingOut());
+}
+
+QTEST_MAIN(tst_HRPopupFade)
+#include "tst_HRPopupFade.moc"
