@@ -37,9 +37,13 @@ bool HRControlReader::read(HRControlRecord &record)
 {
     const qint64 now = nanosecondsNow();
     record.isSettled = false;
-    if (!readWholeFile(record.nativePath, m_bytes, record.stamp))
+    HRRegularFile file(record.nativePath);
+    if (!file.isOpen())
         return false;
-    std::optional<HRControlReading> reading = searchControlFile(m_bytes);
+    record.stamp = file.stamp();
+    std::optional<HRControlReading> reading;
+    if (file.readAll(m_bytes))
+        reading = searchControlFile(m_bytes);
     record.reading = reading ? std::move(*reading) : parseControlFile(record.path);
     record.isSettled = isSettled(record.stamp, now);
     return true;

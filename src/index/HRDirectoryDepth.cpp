@@ -37,4 +37,16 @@ std::optional<int> levelsBelowPackage(const QString &filePath, const QString &pa
     }
 }
 
+std::optional<int> HRDirectoryDepth::levels(const QString &filePath, const QString &packagePath)
+{
+    const QStringRef directory = filePath.leftRef(filePath.lastIndexOf(QLatin1Char('/')) + 1);
+    if (!directory.isEmpty() && directory == m_directory && packagePath == m_package)
+        return m_levels;
+    const std::optional<int> levels = levelsBelowPackage(filePath, packagePath);
+    m_directory = levels ? directory.toString() : QString();
+    m_package = packagePath;
+    m_levels = levels.value_or(0);
+    return levels;
+}
+
 } // namespace Hintreels

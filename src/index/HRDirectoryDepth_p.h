@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include <optional>
+#include <QString>
 
-class QString;
+#include <optional>
 
 namespace Hintreels {
 
@@ -15,5 +15,18 @@ namespace Hintreels {
 /// the package on the way counts as the package. Nothing where the path does not begin with the
 /// package's path, character by character, or where the way up meets no such directory.
 std::optional<int> levelsBelowPackage(const QString &filePath, const QString &packagePath);
+
+/// Counts the same for the files of a scan, which come directory by directory: the way up is gone
+/// once for each.
+class HRDirectoryDepth
+{
+public:
+    std::optional<int> levels(const QString &filePath, const QString &packagePath);
+
+private:
+    QString m_directory; // of the file last asked for, with its slash
+    QString m_package;
+    int m_levels = 0;
+};
 
 } // namespace Hintreels

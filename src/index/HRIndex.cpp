@@ -32,7 +32,24 @@ struct HRIndexPrivate
     HRControlReader reader;
     HRPackageMap packages;
     HRControlFileProbe probe;
+    HRDirectoryDepth depth;
+    QString mappedPackage; // the one mapped last, under this suffix
+    QString mappedSuffix;
     bool inUpdate = false;
+
+    bool isControlFile(const QString &path)
+    {
+        if (path.startsWith(QLatin1Char(':'))) {
+            QFile resource(path);
+            return resource.open(QIODevice::ReadOnly)
+                && probe.isControlFile(
+                    [&](char *buffer, qint64 size) { return resource.read(buffer, size); });
+        }
+        HRRegularFile file(QFile::encodeName(path));
+        return file.isOpen() && probe.isControlFile([&](char *buffer, qint64 size) {
+            return file.read(buffer, size);
+        });
+    }
 };
 
 HRIndex::HRIndex(HRContext *context, const QStringList &paths)
@@ -126,11 +143,8 @@ QStringList HRIndex::keys()
 
 void HRIndex::indexControlFile(const QString &filePath, const QString &packagePath)
 {
-    const std::optional<int> depth = levelsBelowPackage(filePath, packagePath);
-    if (!depth)
-        return;
-    QFile file;
-    if (!openRegularFile(file, filePath) || !d->probe.isControlFile(file))
+    const std::optional<int> depth = d->depth.levels(filePath, packagePath);
+    if (!depth || !d->isControlFile(filePath))
         return;
     if (d->records.addFirst(filePath, *depth))
         mapControlFile(QString(), packagePath);
@@ -171,7 +185,13 @@ QString HRIndex::packageNameForLocation(const QString &path) const
 
 void HRIndex::mapControlFile(const QString &, const QString &packagePath)
 {
-    d->packages.add(packageNameForLocation(packagePath), packagePath);
+    const QString suffix = setting(context(), packageSuffixKey, QStringLiteral("hintreels"));
+    // A scan maps the same package for each of its files.
+    if (packagePath == d->mappedPackage && suffix == d->mappedSuffix)
+        return;
+    d->packages.add(packageNameOf(packagePath, suffix), packagePath);
+    d->mappedPackage = packagePath;
+    d->mappedSuffix = suffix;
 }
 
 QStringList HRIndex::componentPathsForPackageNamed(const QString &name) const

@@ -3,12 +3,16 @@
 
 #include "index/HRPosixFile_p.h"
 
-#include <QByteArray>
+#include <QDir>
 #include <QFile>
 
+#include <algorithm>
 #include <cerrno>
 #include <limits>
+#include <utility>
+#include <vector>
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -40,29 +44,27 @@ int openForReading(const QByteArray &path)
     return ::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
 }
 
-/// Reads up to the end of a file that may be growing or shrinking meanwhile.
-bool readToEnd(int descriptor, qint64 expectedSize, QByteArray &bytes)
+/// Whether a directory's entry is a regular file and no link, without a look at it where the
+/// directory itself tells.
+bool isRegularEntry(int directory, const struct dirent &entry)
 {
-    constexpr qint64 LargestArray = std::numeric_limits<int>::max() / 2;
-    if (expectedSize > LargestArray)
-        return false;
-    bytes.resize(int(expectedSize) + 1); // one more, to meet the end in the first read
-    int length = 0;
-    for (;;) {
-        const ssize_t got
-            = ::read(descriptor, bytes.data() + length, size_t(bytes.size() - length));
-        if (got < 0 && errno == EINTR)
-            continue;
-        if (got <= 0) {
-            bytes.resize(length);
-            return got == 0;
-        }
-        length += int(got);
-        if (length > LargestArray)
-            return false;
-        if (length == bytes.size())
-            bytes.resize(length * 2);
-    }
+    if (entry.d_type != DT_UNKNOWN)
+        return entry.d_type == DT_REG;
+    struct stat status;
+    return ::fstatat(directory, entry.d_name, &status, AT_SYMLINK_NOFOLLOW) == 0
+        && S_ISREG(status.st_mode);
+}
+
+/// As QDir sorts names by default.
+void sortIgnoringCase(QStringList &names)
+{
+    std::vector<std::pair<QString, QString>> keyed; // the name in lower case, and as it is
+    keyed.reserve(size_t(names.size()));
+    for (const QString &name : qAsConst(names))
+        keyed.emplace_back(name.toLower(), name);
+    std::sort(keyed.begin(), keyed.end());
+    std::transform(keyed.begin(), keyed.end(), names.begin(),
+        [](const std::pair<QString, QString> &pair) { return pair.second; });
 }
 
 bool isOwn(const struct stat &status)
@@ -106,27 +108,80 @@ bool openRegularFile(QFile &file, const QString &path)
     return false;
 }
 
+HRRegularFile::HRRegularFile(const QByteArray &path)
+    : m_descriptor(openForReading(path))
+{
+    struct stat status;
+    if (m_descriptor >= 0 && ::fstat(m_descriptor, &status) == 0 && S_ISREG(status.st_mode)) {
+        m_stamp = stampOf(status);
+    } else if (m_descriptor >= 0) {
+        ::close(m_descriptor);
+        m_descriptor = -1;
+    }
+}
+
+HRRegularFile::~HRRegularFile()
+{
+    if (m_descriptor >= 0)
+        ::close(m_descriptor);
+}
+
+qint64 HRRegularFile::read(char *buffer, qint64 size)
+{
+    ssize_t got = 0;
+    do
+        got = ::read(m_descriptor, buffer, size_t(size));
+    while (got < 0 && errno == EINTR);
+    return got;
+}
+
+bool HRRegularFile::readAll(QByteArray &bytes)
+{
+    constexpr qint64 LargestFile = std::numeric_limits<int>::max() / 4;
+    if (m_stamp.size > LargestFile)
+        return false;
+    bytes.resize(int(m_stamp.size) + 1); // one more, to meet the end without another round
+    int length = 0;
+    qint64 got = 0;
+    while ((got = read(bytes.data() + length, bytes.size() - length)) > 0) {
+        length += int(got);
+        if (length > LargestFile)
+            return false;
+        if (length == bytes.size())
+            bytes.resize(2 * length); // the file is growing
+    }
+    bytes.resize(length);
+    return got == 0;
+}
+
+QStringList readableFileNames(const QString &directory, const QString &suffix)
+{
+    if (directory.startsWith(QLatin1Char(':')))
+        return QDir(directory).entryList({ QLatin1Char('*') + suffix }, QDir::Files, QDir::NoSort);
+    QStringList names;
+    DIR *listing = ::opendir(QFile::encodeName(directory).constData());
+    if (!listing)
+        return names;
+    const int descriptor = ::dirfd(listing);
+    while (const struct dirent *entry = ::readdir(listing)) {
+        if (entry->d_name[0] == '.' || !isRegularEntry(descriptor, *entry))
+            continue;
+        const QString name = QFile::decodeName(entry->d_name);
+        if (name.endsWith(suffix, Qt::CaseInsensitive)
+            && ::faccessat(descriptor, entry->d_name, R_OK, 0) == 0)
+            names.append(name);
+    }
+    ::closedir(listing);
+    sortIgnoringCase(names);
+    return names;
+}
+
 std::optional<HRFileStamp> stampOfFile(const QByteArray &path)
 {
     struct stat status;
     if (::stat(path.constData(), &status) != 0 || !S_ISREG(status.st_mode))
         return std::nullopt;
     return stampOf(status);
-}
-
-bool readWholeFile(const QByteArray &path, QByteArray &bytes, HRFileStamp &stamp)
-{
-    const int descriptor = openForReading(path);
-    if (descriptor < 0)
-        return false;
-    struct stat status;
-    bool isRead = false;
-    if (::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode)) {
-        stamp = stampOf(status);
-        isRead = readToEnd(descriptor, status.st_size, bytes);
-    }
-    ::close(descriptor);
-    return isRead;
 }
 
 bool takeOwnFile(const QString &path)

@@ -5,6 +5,7 @@
 
 #include "context/HRSetting_p.h"
 #include "index/HRIndex.h"
+#include "index/HRPosixFile_p.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -59,14 +60,12 @@ void HRPackageScanner::indexFiles(const QFileInfo &directory, const QString &pac
 {
     m_report(QString("looking for control files in :%1").arg(directory.absoluteFilePath()));
 
-    const QFileInfoList files
-        = QDir(directory.absoluteFilePath())
-              .entryInfoList({ "*.xml" },
-                  QDir::Files | QDir::NoSymLinks | QDir::Readable | QDir::NoDotAndDotDot,
-                  QDir::NoSort);
-    for (const QFileInfo &file : files) {
-        const QString path = file.canonicalFilePath();
-        m_report(QString("found control file :%1").arg(path));
+    // A listed file is no link, so its canonical path follows from the directory's.
+    const QString base = directory.canonicalFilePath() + '/';
+    const QStringList names = readableFileNames(directory.absoluteFilePath(), ".xml");
+    for (const QString &name : names) {
+        const QString path = base + name;
+        m_report("found control file :" + path);
         m_index.indexControlFile(path, packagePath);
     }
 }

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void levels_areCounted();
     void levels_countFromTheLink_whenItLeadsBackToThePackage();
     void levels_areCounted_whenThePackageIsNamedByALink();
+    void levels_areRemembered_forOneDirectoryAndPackage();
 };
 
 namespace {
@@ -81,6 +82,22 @@ void tst_HRDirectoryDepth::levels_areCounted_whenThePackageIsNamedByALink()
     const QString link = packages.path() + "/link";
     QVERIFY(QFile::link(packages.path() + "/A.hintreels", link));
     QCOMPARE(levelsBelowPackage(link + "/Control/x.xml", link).value_or(Outside), 2);
+}
+
+void tst_HRDirectoryDepth::levels_areRemembered_forOneDirectoryAndPackage()
+{
+    const TestPackages packages;
+    packages.write("A.hintreels/Control/x.xml", "");
+    const QString outer = packages.path();
+    const QString package = outer + "/A.hintreels";
+    HRDirectoryDepth depth;
+    QCOMPARE(depth.levels(package + "/Control/x.xml", package).value_or(Outside), 2);
+    QCOMPARE(depth.levels(package + "/Control/y.xml", package).value_or(Outside), 2);
+    QCOMPARE(depth.levels(package + "/Control/x.xml", outer).value_or(Outside), 3);
+    QCOMPARE(depth.levels(package + "/Control/y.xml", outer + "/B").value_or(Outside), Outside);
+    QCOMPARE(depth.levels(package + "/x.xml", package).value_or(Outside), Outside);
+    packages.write("A.hintreels/x.xml", "");
+    QCOMPARE(depth.levels(package + "/x.xml", package).value_or(Outside), 1);
 }
 
 QTEST_GUILESS_MAIN(tst_HRDirectoryDepth)

@@ -6,7 +6,11 @@
 #include "manager/HRPackageScanner_p.h"
 #include "support/TestPackage.h"
 
+#include <QDir>
+#include <QFile>
 #include <QtTest>
+
+#include <sys/stat.h>
 
 using namespace Hintreels;
 
@@ -49,6 +53,7 @@ private Q_SLOTS:
     void scanDataPaths_remembersDirectoryOnce_butScansItTwice();
     void scanDataPaths_passesOverLinks();
     void scanPackage_isSilent_whenControlDirectoryIsMissing();
+    void scanPackage_takesWhatADirectoryListingTakes();
 };
 
 void tst_HRPackageScanner::scanDataPaths_indexesControlFilesOnly()
@@ -144,6 +149,29 @@ void tst_HRPackageScanner::scanPackage_isSilent_whenControlDirectoryIsMissing()
 
     QCOMPARE(f.reports.size(), 2);
     QVERIFY(f.index.calls.isEmpty());
+}
+
+void tst_HRPackageScanner::scanPackage_takesWhatADirectoryListingTakes()
+{
+    Fixture f;
+    const QString control = f.path + "/A.hintreels/Control";
+    for (const char *name : { "a.xml", "B.XML", ".hidden.xml", "c.xml.bak", "d.xMl", ".xml", "xml",
+             "e f.xml", "\xC3\xA9.xml", "unreadable.xml" })
+        f.packages.write("A.hintreels/Control/" + QString::fromUtf8(name), "");
+    QVERIFY(QDir(control).mkdir("directory.xml"));
+    QVERIFY(QFile::link(control + "/a.xml", control + "/link.xml"));
+    QCOMPARE(::mkfifo(qPrintable(control + "/pipe.xml"), 0600), 0);
+    QVERIFY(QFile::setPermissions(control + "/unreadable.xml", QFile::WriteOwner));
+    const QStringList names = QDir(control).entryList({ "*.xml" },
+        QDir::Files | QDir::NoSymLinks | QDir::Readable | QDir::NoDotAndDotDot, QDir::NoSort);
+    QStringList expected;
+    for (const QString &name : names)
+        expected += control + '/' + name + " in " + f.path + "/A.hintreels";
+
+    f.scanner.scanDataPaths({ f.path });
+
+    QCOMPARE(f.index.calls, expected);
+    QVERIFY(expected.size() >= 5);
 }
 
 QTEST_APPLESS_MAIN(tst_HRPackageScanner)
