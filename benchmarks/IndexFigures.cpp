@@ -1,0 +1,150 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "IndexFigures.h"
+
+#include "Baselines.h"
+#include "PackageTree.h"
+#include "RatioTable.h"
+#include "content/HRXmlElement.h"
+#include "context/HRContext.h"
+#include "index/HRIndex.h"
+#include "manager/HRPackageScanner_p.h"
+
+#include <QElapsedTimer>
+#include <QLocale>
+
+#include <malloc.h>
+
+#include <map>
+#include <memory>
+
+using namespace Hintreels;
+
+namespace {
+
+const QString NobodysKey = "suite.nobody.has.this";
+
+template <typename Action>
+double seconds(Action action)
+{
+    QElapsedTimer timer;
+    timer.start();
+    action();
+    return double(timer.nsecsElapsed()) / 1e9;
+}
+
+/// Looks a key up and frees what is found.
+bool find(HRIndex &index, const QString &key, const QString &locale)
+{
+    QString directory;
+    int depth = 0;
+    HRXmlElement *root = nullptr;
+    if (!index.retrieve(key, QLocale(locale), directory, depth, root))
+        return false;
+    delete root;
+    return true;
+}
+
+void expect(bool found, bool expected)
+{
+    if (found != expected)
+        qFatal("the index answers wrongly");
+}
+
+void scan(HRIndex &index, const PackageTree &tree)
+{
+    static const HRContext context;
+    HRPackageScanner(context, index, [](const QString &) {}).scanDataPaths({ tree.path() });
+}
+
+/// An index that has answered before.
+HRIndex &warmIndex(int files)
+{
+    static std::map<int, std::unique_ptr<HRIndex>> indexes;
+    std::unique_ptr<HRIndex> &index = indexes[files];
+    if (!index) {
+        index = std::make_unique<HRIndex>(nullptr, QStringList());
+        scan(*index, settledTree(files));
+        expect(find(*index, NobodysKey, "en_US"), false);
+    }
+    return *index;
+}
+
+/// The file that lies in the middle of the order in which files are tried.
+int middleFile(int files)
+{
+    return files / 2;
+}
+
+} // namespace
+
+void addIndexFigures(RatioTable &table, int files)
+{
+    const int middle = middleFile(files);
+    const auto findMiddle = [=] {
+        return find(warmIndex(files), PackageTree::keyOf(middle), PackageTree::localeOf(middle));
+    };
+    const auto middlePath = [=] { return settledTree(files).files()[size_t(middle)].path; };
+
+    table.add({ "HRIndex: key that nobody has", files, 1.5,
+        [=] { return seconds([&] { Baseline::statAll(settledTree(files)); }); },
+        [=] {
+            HRIndex &index = warmIndex(files);
+            return seconds([&] { expect(find(index, NobodysKey, "en_US"), false); });
+        } });
+    table.add({ "HRIndex: key in the middle file", files, 1.3,
+        [=] {
+            return seconds([&] {
+                Baseline::statAll(settledTree(files));
+                Baseline::parse(middlePath());
+            });
+        },
+        [=] {
+            warmIndex(files);
+            return seconds([&] { expect(findMiddle(), true); });
+        } });
+    table.add({ "HRIndex: the very first look-up, key that nobody has", files, 3,
+        [=] {
+            return seconds([&] { Baseline::searchAll(settledTree(files), NobodysKey.toUtf8()); });
+        },
+        [=] {
+            HRIndex index(nullptr, {});
+            scan(index, settledTree(files));
+            return seconds([&] { expect(find(index, NobodysKey, "en_US"), false); });
+        },
+        5 });
+    table.add({ "HRIndex: a later look-up after one file was edited", files, 1.3,
+        [=] {
+            return seconds([&] {
+                Baseline::statAll(settledTree(files));
+                Baseline::parse(settledTree(files).files().back().path);
+                Baseline::parse(middlePath());
+            });
+        },
+        [=] {
+            warmIndex(files);
+            settledTree(files).edit(files - 1);
+            const double taken = seconds([&] { expect(findMiddle(), true); });
+            waitUntilSettled();
+            findMiddle();
+            return taken;
+        },
+        3 });
+    table.add({ "start with HRIndex: scan and root elements", files, 2,
+        [=] { return seconds([&] { Baseline::listAndReadHeads(settledTree(files)); }); },
+        [=] {
+            HRIndex index(nullptr, {});
+            return seconds([&] { scan(index, settledTree(files)); });
+        } });
+    table.add({ "HRIndex: memory of the remembered readings", files, 4,
+        [=] { return double(settledTree(files).keyBytes()); },
+        [=] {
+            HRIndex index(nullptr, {});
+            scan(index, settledTree(files));
+            const auto before = ::mallinfo2().uordblks;
+            find(index, NobodysKey, "en_US");
+            return double(::mallinfo2().uordblks - before);
+        },
+        1 });
+}

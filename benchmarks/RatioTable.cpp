@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "RatioTable.h"
+
+#include <algorithm>
+#include <cstdio>
+
+namespace {
+
+std::string runName(const std::string &figure, int files, const char *side)
+{
+    return figure + "/" + std::to_string(files) + "/" + side;
+}
+
+void registerRun(const std::string &name, const Measure &measure, int repetitions)
+{
+    benchmark::RegisterBenchmark(name.c_str(),
+        [measure](benchmark::State &state) {
+            for (auto _ : state)
+                state.SetIterationTime(measure());
+        })
+        ->UseManualTime()
+        ->Iterations(1)
+        ->Repetitions(repetitions)
+        ->Unit(benchmark::kMillisecond);
+}
+
+std::string formatted(const char *format, double value)
+{
+    char text[64];
+    std::snprintf(text, sizeof text, format, value);
+    return text;
+}
+
+} // namespace
+
+void RatioTable::add(const Figure &figure)
+{
+    const std::string baseline = runName(figure.name, figure.files, "baseline");
+    const std::string ours = runName(figure.name, figure.files, "ours");
+    registerRun(baseline, figure.baseline, figure.repetitions);
+    registerRun(ours, figure.ours, figure.repetitions);
+    m_lines.push_back({ figure.name, figure.files, baseline, ours, figure.bar, false });
+}
+
+void RatioTable::addGrowth(const std::string &name, double bar)
+{
+    int least = 0;
+    int most = 0;
+    for (const Line &line : m_lines) {
+        if (line.name != name)
+            continue;
+        least = least == 0 ? line.files : std::min(least, line.files);
+        most = std::max(most, line.files);
+    }
+    m_lines.push_back({ name + ", growth", most, runName(name, least, "ours"),
+        runName(name, most, "ours"), bar, true });
+}
+
+void RatioTable::ReportRuns(const std::vector<Run> &runs)
+{
+    for (const Run &run : runs) {
+        if (run.run_type != Run::RT_Iteration)
+            continue;
+        const std::string name = run.run_name.function_name;
+        const double value = run.real_accumulated_time / double(run.iterations);
+        const auto known = m_least.find(name);
+        m_least[name] = known == m_least.end() ? value : std::min(known->second, value);
+    }
+}
+
+void RatioTable::printTable(std::ostream &stream) const
+{
+    stream
+        << "| figure | files | baseline | ours | ratio | bar | |\n|---|---|---|---|---|---|---|\n";
+    for (const Line &line : m_lines) {
+        if (!isMeasured(line))
+            continue;
+        const Result measured = result(line);
+        stream << "| " << line.name << " | " << line.files << " | "
+               << formatted("%.4g", measured.baseline * 1000) << " | "
+               << formatted("%.4g", measured.ours * 1000) << " | "
+               << formatted("%.2f", measured.ratio()) << " | " << formatted("%.1f", line.bar)
+               << " | " << (measured.ratio() <= line.bar ? "" : "over") << " |\n";
+    }
+}
+
+void RatioTable::printJson(std::ostream &stream) const
+{
+    const char *separator = "[\n";
+    for (const Line &line : m_lines) {
+        if (!isMeasured(line))
+            continue;
+        const Result measured = result(line);
+        stream << separator << "  {\"figure\": \"" << line.name << "\", \"files\": " << line.files
+               << ", \"baseline\": " << formatted("%.9g", measured.baseline)
+               << ", \"ours\": " << formatted("%.9g", measured.ours)
+               << ", \"ratio\": " << formatted("%.4f", measured.ratio())
+               << ", \"bar\": " << formatted("%.4f", line.bar) << "}";
+        separator = ",\n";
+    }
+    stream << "\n]\n";
+}
+
+bool RatioTable::printMissed(std::ostream &stream) const
+{
+    bool isGood = true;
+    for (const Line &line : m_lines) {
+        if (!isMeasured(line) || result(line).ratio() <= line.bar)
+            continue;
+        isGood = false;
+        stream << "over its bar: " << line.name << " (" << line.files
+               << " files): " << formatted("%.2f", result(line).ratio()) << " where "
+               << formatted("%.1f", line.bar) << " is the most\n";
+    }
+    return isGood;
+}
+
+RatioTable::Result RatioTable::result(const Line &line) const
+{
+    return { m_least.at(line.baselineRun), m_least.at(line.oursRun) };
+}
+
+bool RatioTable::isMeasured(const Line &line) const
+{
+    return m_least.count(line.baselineRun) > 0 && m_least.count(line.oursRun) > 0;
+}
