@@ -261,8 +261,9 @@ void tst_HRView::loadQML_reportsWarnings()
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression("ReferenceError"));
     f.view->loadQML(f.write("a.qml", "import QtQuick 2.15\nItem { width: nowhere }\n"));
     QTRY_VERIFY(!f.host->messages.isEmpty());
+    // Qt names no column for these.
     QCOMPARE(
-        f.takeMessages(), QStringList{ "QML Warning 2:15:ReferenceError: nowhere is not defined" });
+        f.takeMessages(), QStringList{ "QML Warning 2:-1:ReferenceError: nowhere is not defined" });
 }
 
 void tst_HRView::resetState_emptiesStateOfRoot()
