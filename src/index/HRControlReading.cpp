@@ -3,6 +3,7 @@
 
 #include "index/HRControlReading_p.h"
 
+#include "content/HRXmlElement.h"
 #include "index/HRControlTree_p.h"
 
 #include <QXmlAttributes>
@@ -28,7 +29,8 @@ void noteRoot(Notes &notes, const QXmlAttributes &attributes)
     // A root in the root may make a file that yields it for any key.
     notes.reading.mayHoldAnything |= notes.isInRoot;
     notes.isInRoot = true;
-    const QString locale = attributes.value(QLatin1String("locale"));
+    // Qt's reader lets an attribute stand twice; loading keeps the last one.
+    const QString locale = HRXmlElement(nullptr, attributes).attribute(QStringLiteral("locale"));
     notes.reading.servesAllLocales = locale.isEmpty();
     notes.reading.locale = QLocale(locale);
 }

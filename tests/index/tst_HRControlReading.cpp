@@ -26,6 +26,7 @@ private Q_SLOTS:
     void search_isQuick_whateverTheFile_data();
     void search_isQuick_whateverTheFile();
     void parse_promisesAnything_whenRootsAreNested();
+    void parse_takesTheLastLocale_whenItStandsTwice();
     void readings_neverDenyWhatLoadingFinds();
 };
 
@@ -151,6 +152,15 @@ void tst_HRControlReading::parse_promisesAnything_whenRootsAreNested()
     const QString file = packages.write("a.xml", "<hintreels><hintreels/></hintreels>");
     QVERIFY(loads(file, "whatever", English));
     QCOMPARE(served(parseControlFile(file)), QString("EDEDED"));
+}
+
+void tst_HRControlReading::parse_takesTheLastLocale_whenItStandsTwice()
+{
+    const TestPackages packages;
+    const QString file = packages.write(
+        "a.xml", "<hintreels locale='de_DE' locale='en_US'><hintreel key='a'/></hintreels>");
+    QVERIFY(loads(file, "a", English));
+    QCOMPARE(served(parseControlFile(file)), QString("E-----"));
 }
 
 void tst_HRControlReading::readings_neverDenyWhatLoadingFinds()
