@@ -819,7 +819,7 @@ void tst_StandardUi::example_isShownWithoutTrouble_data()
     QTest::addColumn<QString>("key");
     QTest::addColumn<int>("blocks");
 
-    QTest::newRow("pen") << "toolPen" << 6;
+    QTest::newRow("pen") << "toolPen" << 7;
     QTest::newRow("undo") << "editUndo" << 0;
 }
 
@@ -836,6 +836,7 @@ void tst_StandardUi::example_isShownWithoutTrouble()
     Fixture fixture(hint(""));
     fixture.packages.write("Painter.hintreels/Control/en_US.xml", example.toUtf8());
     fixture.packages.write("Painter.hintreels/Resources/pen.png", png());
+    TestClip().write(fixture.packages.path() + "/Painter.hintreels/Resources/pen.mp4");
 
     fixture.show(key);
 
