@@ -237,7 +237,7 @@ void tst_SketchpadContent::hint_usesTheVocabularyOnly()
         { "picture", { "source", "alt", "width" } },
         { "note", { "kind" } },
         { "link", { "to" } },
-        { "video", { "source", "loop" } },
+        { "video", { "source", "alt", "width", "loop" } },
     };
     QFETCH(QDomElement, hint);
     QCOMPARE(hint.tagName(), QString("hintreel"));
@@ -332,8 +332,10 @@ void tst_SketchpadContent::tools_haveClips()
 {
     QFETCH(QDomElement, hint);
     const auto clips = childrenOf(hint, "video");
-    for (const QDomElement &clip : clips)
+    for (const QDomElement &clip : clips) {
         QVERIFY(QFile::exists(package + "/Resources/" + clip.attribute("source")));
+        QVERIFY(!clip.attribute("alt").isEmpty());
+    }
     QCOMPARE(clips.size(), hint.attribute("key").startsWith("tool") ? 1 : 0);
 }
 

@@ -38,6 +38,7 @@ const QStringList locales = { "en_US", "de_DE" };
 
 const int widest = 480;
 const int largest = 150000; // bytes
+const int longestCaption = 40; // fits one line of a hint
 
 QString contentOf(const QString &path)
 {
@@ -125,6 +126,8 @@ void tst_SketchpadClips::captions_sayWhatTheScriptSays()
     for (const QString &locale : locales) {
         QVERIFY(!saidInScript(name, locale).isEmpty());
         QCOMPARE(saidInCaptions(name, locale), saidInScript(name, locale));
+        for (const QString &said : saidInScript(name, locale))
+            QVERIFY2(said.size() <= longestCaption, qPrintable(said));
     }
 }
 

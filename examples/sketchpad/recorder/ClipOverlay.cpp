@@ -34,7 +34,7 @@ void paintPointer(QPainter &painter, const QPointF &pointer)
 
 void paintKeys(QPainter &painter, const QRectF &picture, const QStringList &keys)
 {
-    const double left = 54; // beside the bar of the tools
+    const double left = 80; // on the sheet, beside the bar of the tools
     const double margin = 10;
     const double height = 24;
     QFont font = QGuiApplication::font();
@@ -44,7 +44,7 @@ void paintKeys(QPainter &painter, const QRectF &picture, const QStringList &keys
     double x = left;
     for (const QString &key : keys) {
         const double width = qMax(height, QFontMetricsF(font).horizontalAdvance(key) + 16);
-        const QRectF cap(x, picture.bottom() - margin - height, width, height);
+        const QRectF cap(x, picture.top() + margin, width, height);
         painter.setPen(QPen(ink, 1.2));
         painter.setBrush(Qt::white);
         painter.drawRoundedRect(cap, 5, 5);
