@@ -3,6 +3,8 @@
 
 #include "ui/HRScrollBarComponent.h"
 
+#include "ui/HRWidgetLength_p.h"
+
 #include <QtMath>
 
 #include <limits>
@@ -24,11 +26,6 @@ int toHundredths(float value)
 float fromHundredths(int hundredths)
 {
     return float(hundredths) / hundredthsInOne;
-}
-
-int toWidgetLength(qreal length)
-{
-    return int(qBound(0.0, length, double(QWIDGETSIZE_MAX)));
 }
 
 } // namespace
@@ -109,7 +106,7 @@ void HRScrollBarComponent::scrollBarPositionChanged(int)
 void HRScrollBarComponent::updateDimensions()
 {
     if (m_bar)
-        m_bar->setFixedSize(toWidgetLength(width()), toWidgetLength(height()));
+        m_bar->setFixedSize(Hintreels::widgetLength(width()), Hintreels::widgetLength(height()));
 }
 
 void HRScrollBarComponent::setPositionExternal(float value)

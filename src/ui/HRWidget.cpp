@@ -8,7 +8,9 @@
 #include "ui/HRContentReader_p.h"
 #include "ui/HRContentTree_p.h"
 #include "ui/HRPointerWatch_p.h"
+#include "ui/HRPopupDetaching_p.h"
 #include "ui/HRPopupFade_p.h"
+#include "ui/HRPopupFit_p.h"
 #include "ui/HRPopupGeometry_p.h"
 #include "ui/HRPopupScreen_p.h"
 #include "ui/HRView.h"
@@ -17,11 +19,10 @@
 #include <QApplication>
 #include <QCursor>
 #include <QFileInfo>
+#include <QLayout>
 #include <QPointer>
 #include <QQmlContext>
-#include <QQuickItem>
 #include <QTimer>
-#include <QVBoxLayout>
 #include <QWindow>
 
 #include <limits>
@@ -32,34 +33,6 @@ namespace {
 
 // Low enough to fade in from, high enough for window managers to map the window at all.
 constexpr qreal fadeInStart = 0.1;
-
-QSize sizeOf(const QQuickItem *root)
-{
-    const QRectF bounds = root->boundingRect();
-    return QSize(int(bounds.width()), int(bounds.height()));
-}
-
-/// What the popup's own pixels should look like, beside the content.
-QColor backgroundOf(const HRView *view)
-{
-    const QColor color = view->rootObject()->property("color").value<QColor>();
-    return color.isValid() ? color : view->color();
-}
-
-void freeSize(QWidget *widget)
-{
-    widget->setMinimumSize(0, 0);
-    widget->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-}
-
-QLayout *layoutFor(QWidget *window)
-{
-    if (QLayout *layout = window->layout())
-        return layout;
-    auto *layout = new QVBoxLayout(window);
-    layout->setContentsMargins(0, 0, 0, 0);
-    return layout;
-}
 
 } // namespace
 
@@ -74,20 +47,13 @@ struct HRWidgetPrivate
     }
 
     QRect screen() const { return availableGeometry(reference, q->window()->pos()); }
-    QQuickItem *root() const { return view ? view->rootObject() : nullptr; }
 
     void setContextProperties(HRXmlElement *content, const QString &rootPath);
-    void takeContentSize();
-    void matchBackground();
-    void fitContainer(const QSize &size, const HRContentFit &fit);
-    void settle();
     void followReferenceWindow();
     void keepTimeFor(const QPoint &pointer);
     void endFadeIn();
     void stopHiding();
     void becomeOrdinaryWindow();
-    void moveInto(QWidget *window);
-    void moveIntoOwnWindow();
 
     HRWidget *q;
     QPointer<HRManager> manager;
@@ -124,53 +90,6 @@ void HRWidgetPrivate::setContextProperties(HRXmlElement *content, const QString 
     const auto settings = [m = manager] { return readerSettings(m); };
     context->setContextProperty(
         QStringLiteral("hintreelReader"), new HRContentReader(settings, view));
-}
-
-/// So that the popup does not appear in another size first, and sticks out of the screen.
-void HRWidgetPrivate::takeContentSize()
-{
-    if (!root() || q->isVisible())
-        return;
-    freeSize(q);
-    if (container)
-        freeSize(container);
-    q->resize(sizeOf(root()));
-}
-
-/// The popup is one pixel wider and higher than its content: that seam should not be seen.
-void HRWidgetPrivate::matchBackground()
-{
-    if (!root())
-        return;
-    QPalette palette = q->palette();
-    const QColor color = backgroundOf(view);
-    if (palette.color(QPalette::Window) == color)
-        return;
-    palette.setColor(QPalette::Window, color);
-    q->setPalette(palette);
-}
-
-void HRWidgetPrivate::fitContainer(const QSize &size, const HRContentFit &fit)
-{
-    if (!container)
-        return;
-    container->setFixedSize(size);
-    container->update();
-    // A global position for a child: the popup's layout puts it right again.
-    if (fit.pushed)
-        container->move(fit.geometry.topLeft());
-}
-
-/// What follows from a new size: the container's place, the seam and the popup's place.
-void HRWidgetPrivate::settle()
-{
-    if (QLayout *layout = q->layout()) {
-        layout->invalidate();
-        layout->activate();
-    }
-    matchBackground();
-    if (!detached && q->isVisible())
-        q->reposition();
 }
 
 /// On Wayland a popup has its position only beside a window that it belongs to.
@@ -212,33 +131,6 @@ void HRWidgetPrivate::becomeOrdinaryWindow()
     q->setAttribute(Qt::WA_ShowWithoutActivating, false);
     view->setFlag(Qt::WindowDoesNotAcceptFocus, false);
     embedding.release();
-}
-
-void HRWidgetPrivate::moveInto(QWidget *window)
-{
-    const QPoint position = q->pos();
-    q->setParent(window);
-    if (view->content())
-        window->setWindowTitle(view->content()->attribute(QStringLiteral("title")));
-    layoutFor(window)->addWidget(q);
-    q->contentResized();
-    window->move(position);
-    q->show();
-    window->show();
-}
-
-void HRWidgetPrivate::moveIntoOwnWindow()
-{
-    const QPoint position = q->pos();
-    q->setAttribute(Qt::WA_DeleteOnClose);
-    q->setParent(reference ? reference->window() : nullptr,
-        Qt::Tool | Qt::WindowTitleHint | Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint);
-    q->setWindowModality(Qt::NonModal);
-    // The property, not the attribute: content names such a window only where it sets one.
-    if (view->content())
-        q->setWindowTitle(view->content()->property("title").toString());
-    q->move(position);
-    q->show();
 }
 
 HRWidget::HRWidget(HRManager *manager, QWidget *parent, QWidget *reference)
@@ -354,8 +246,9 @@ void HRWidget::showWithContent(
     if (previous != content)
         deleteContentTree(previous);
     d->view->loadQML(QFileInfo(d->view->uiRootFilePath()).absoluteFilePath());
-    d->takeContentSize();
-    d->matchBackground();
+    if (!isVisible())
+        takeContentSize(*this, d->container);
+    matchBackground(*this);
     if (isVisible())
         d->keepTimeFor(QCursor::pos());
     showAnimated();
@@ -422,24 +315,17 @@ void HRWidget::contentReservedChanged()
         return;
     d->becomeOrdinaryWindow();
     if (window)
-        d->moveInto(window);
+        moveIntoWindow(*this, window);
     else
-        d->moveIntoOwnWindow();
+        moveIntoOwnWindow(*this);
 }
 
 void HRWidget::contentResized()
 {
-    if (!d->root())
-        return;
-    const QSize size = sizeOf(d->root());
-    const QRect frame = window()->frameGeometry();
-    const int titleBar = frame.top() - window()->geometry().top();
-    const HRContentFit fit = fitContent(size, frame.topLeft(), titleBar, d->screen());
-    const QSize outer = fit.geometry.size() + QSize(1, 1);
-    d->fitContainer(size, fit);
-    setFixedSize(outer);
-    window()->setFixedSize(outer);
-    d->settle();
+    fitToContent(*this, d->container, d->screen());
+    matchBackground(*this);
+    if (!d->detached && isVisible())
+        reposition();
 }
 
 QRect HRWidget::findVisibleGeometry(QRect geometry, bool *move)

@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "ui/HRPopupFit_p.h"
+
+#include "ui/HRPopupGeometry_p.h"
+#include "ui/HRView.h"
+#include "ui/HRWidget.h"
+#include "ui/HRWidgetLength_p.h"
+
+#include <QLayout>
+#include <QQuickItem>
+
+namespace Hintreels {
+
+namespace {
+
+QQuickItem *rootOf(const HRWidget &popup)
+{
+    return popup.view() ? popup.view()->rootObject() : nullptr;
+}
+
+QSize sizeOf(const QQuickItem *root)
+{
+    const QRectF bounds = root->boundingRect();
+    return QSize(widgetLength(bounds.width()), widgetLength(bounds.height()));
+}
+
+void freeSize(QWidget &widget)
+{
+    widget.setMinimumSize(0, 0);
+    widget.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+}
+
+void fitContainer(QWidget &container, const QSize &size, const HRContentFit &fit)
+{
+    container.setFixedSize(size);
+    container.update();
+    // A global position for a child: the popup's layout puts it right again.
+    if (fit.pushed)
+        container.move(fit.geometry.topLeft());
+}
+
+void settleLayout(QLayout *layout)
+{
+    if (!layout)
+        return;
+    layout->invalidate();
+    layout->activate();
+}
+
+} // namespace
+
+void takeContentSize(HRWidget &popup, QWidget *container)
+{
+    const QQuickItem *root = rootOf(popup);
+    if (!root)
+        return;
+    freeSize(popup);
+    if (container)
+        freeSize(*container);
+    popup.resize(sizeOf(root));
+}
+
+void fitToContent(HRWidget &popup, QWidget *container, const QRect &screen)
+{
+    const QQuickItem *root = rootOf(popup);
+    if (!root)
+        return;
+    const QSize size = sizeOf(root);
+    QWidget *window = popup.window();
+    const QRect frame = window->frameGeometry();
+    const int titleBar = frame.top() - window->geometry().top();
+    const HRContentFit fit = fitContent(size, frame.topLeft(), titleBar, screen);
+    if (container)
+        fitContainer(*container, size, fit);
+    const QSize outer = fit.geometry.size() + QSize(1, 1);
+    popup.setFixedSize(outer);
+    window->setFixedSize(outer);
+    settleLayout(popup.layout());
+}
+
+void matchBackground(HRWidget &popup)
+{
+    const QQuickItem *root = rootOf(popup);
+    if (!root)
+        return;
+    const QColor ofRoot = root->property("color").value<QColor>();
+    const QColor color = ofRoot.isValid() ? ofRoot : popup.view()->color();
+    QPalette palette = popup.palette();
+    if (palette.color(QPalette::Window) == color)
+        return;
+    palette.setColor(QPalette::Window, color);
+    popup.setPalette(palette);
+}
+
+} // namespace Hintreels

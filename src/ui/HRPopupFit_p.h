@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QRect>
+
+class QWidget;
+
+namespace Hintreels {
+
+class HRWidget;
+
+// How a popup takes the size and the colour of its content. All of it does nothing while the popup
+// has no QML root item.
+
+/// Gives a popup the size of its content before it is shown.
+///
+/// It would appear in another size first otherwise, and stick out of the screen.
+/// @param container embeds the view; may be null
+void takeContentSize(HRWidget &popup, QWidget *container);
+
+/// Fixes popup and window to the size of the content, as far as the screen allows.
+/// @param container embeds the view; may be null
+void fitToContent(HRWidget &popup, QWidget *container, const QRect &screen);
+
+/// Gives a popup the colour of its content, from the root item's `color` or else from the view.
+///
+/// The popup is one pixel wider and higher than its content: that seam should not be seen.
+void matchBackground(HRWidget &popup);
+
+} // namespace Hintreels
