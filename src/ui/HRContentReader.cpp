@@ -231,12 +231,13 @@ QColor HRContentReader::readable(const QColor &wanted, const QColor &background)
     return readableColor(wanted, background);
 }
 
-QVariantList HRContentReader::styleText(QQuickTextDocument *document, const QVariantMap &look) const
+QVariantList HRContentReader::showMarkdown(
+    QQuickTextDocument *document, const QString &markdown, const QVariantMap &look) const
 {
     QTextDocument *text = document ? document->textDocument() : nullptr;
     if (!text)
         return {};
-    styleMarkdown(*text,
+    setMarkdown(*text, markdown,
         { look.value("link").value<QColor>(), look.value("codeBackground").value<QColor>(),
             look.value("spacing").toReal() });
     return linksIn(*text);

@@ -69,12 +69,13 @@ public:
     /// @copydoc Hintreels::readableColor()
     Q_INVOKABLE QColor readable(const QColor &wanted, const QColor &background) const;
 
-    /// Gives the Markdown that a TextEdit holds the look of the UI, and finds its links.
+    /// Fills the document of a TextEdit with Markdown in the look of the UI, and finds its links.
     ///
     /// @param look the colours "link" and "codeBackground", and "spacing" in pixels
     /// @return a map for each link, in reading order: "href", "text", and the character positions
     ///     "start" and "end"
-    Q_INVOKABLE QVariantList styleText(QQuickTextDocument *document, const QVariantMap &look) const;
+    Q_INVOKABLE QVariantList showMarkdown(
+        QQuickTextDocument *document, const QString &markdown, const QVariantMap &look) const;
 
 private:
     SettingsSource m_settings;

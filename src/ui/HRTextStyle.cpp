@@ -106,14 +106,18 @@ void removeLeftovers(QTextDocument &document)
 
 } // namespace
 
-void styleMarkdown(QTextDocument &document, const HRTextLook &look)
+void setMarkdown(QTextDocument &document, const QString &markdown, const HRTextLook &look)
 {
+    QTextCursor whole(&document);
+    whole.beginEditBlock();
+    document.setMarkdown(markdown);
     removeLeftovers(document);
     document.setIndentWidth(look.spacing * indentPerSpacing);
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         styleBlock(block, look);
         styleCharacters(document, block, look);
     }
+    whole.endEditBlock();
 }
 
 QVariantList linksIn(const QTextDocument &document)

@@ -20,9 +20,12 @@ struct HRTextLook
     qreal spacing; ///< px between paragraphs; list items stand half as far apart
 };
 
-/// Gives a document that came from Markdown the look of the UI, instead of Qt's own margins and
-/// sizes: even spacing with none at the ends, headings in the size of the text, calm code.
-void styleMarkdown(QTextDocument &document, const HRTextLook &look);
+/// Fills a document with Markdown in the look of the UI, instead of Qt's own margins and sizes:
+/// even spacing with none at the ends, headings in the size of the text, calm code.
+///
+/// The document is laid out once, at the end: Qt's own road lays it out after each piece of text,
+/// which takes minutes for a paragraph of some thousand links.
+void setMarkdown(QTextDocument &document, const QString &markdown, const HRTextLook &look);
 
 /// A map for each link, in reading order: "href", "text", and the positions "start" and "end".
 QVariantList linksIn(const QTextDocument &document);

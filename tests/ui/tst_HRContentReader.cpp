@@ -76,7 +76,7 @@ private Q_SLOTS:
     void read_tellsTheDirectionOfWriting();
     void picture_answersPicturesOnly_data();
     void picture_answersPicturesOnly();
-    void styleText_findsNothing_whenDocumentIsNull();
+    void showMarkdown_findsNothing_whenDocumentIsNull();
 };
 
 void tst_HRContentReader::dedent_takesTheIndentationAway_data()
@@ -342,9 +342,9 @@ void tst_HRContentReader::picture_answersPicturesOnly()
     QVERIFY(reader.picture("Resources").isEmpty());
 }
 
-void tst_HRContentReader::styleText_findsNothing_whenDocumentIsNull()
+void tst_HRContentReader::showMarkdown_findsNothing_whenDocumentIsNull()
 {
-    QVERIFY(germanReader().styleText(nullptr, {}).isEmpty());
+    QVERIFY(germanReader().showMarkdown(nullptr, "[a](b)", {}).isEmpty());
 }
 
 QTEST_MAIN(tst_HRContentReader)

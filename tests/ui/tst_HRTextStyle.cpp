@@ -16,11 +16,7 @@ const HRTextLook look{ QColor("#0000ff"), QColor("#dddddd"), 8 };
 
 struct Styled
 {
-    explicit Styled(const QString &markdown)
-    {
-        document.setMarkdown(markdown);
-        styleMarkdown(document, look);
-    }
+    explicit Styled(const QString &markdown) { setMarkdown(document, markdown, look); }
 
     QTextBlock block(int number) const { return document.findBlockByNumber(number); }
 
@@ -36,21 +32,21 @@ class tst_HRTextStyle : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void styleMarkdown_spacesParagraphsOnlyBetween();
-    void styleMarkdown_setsListItemsCloser();
-    void styleMarkdown_keepsNestedLists();
-    void styleMarkdown_indentsCode_asOneBlock();
-    void styleMarkdown_leavesNoEmptyParagraph_whenCodeEndsTheText();
-    void styleMarkdown_indentsQuotations();
-    void styleMarkdown_setsHeadingsInTheSizeOfTheText();
-    void styleMarkdown_usesOneStrongWeight();
-    void styleMarkdown_colorsLinksAndInlineCode();
-    void styleMarkdown_keepsTheLook_whenAppliedAgain();
-    void styleMarkdown_acceptsAnEmptyDocument();
+    void setMarkdown_spacesParagraphsOnlyBetween();
+    void setMarkdown_setsListItemsCloser();
+    void setMarkdown_keepsNestedLists();
+    void setMarkdown_indentsCode_asOneBlock();
+    void setMarkdown_leavesNoEmptyParagraph_whenCodeEndsTheText();
+    void setMarkdown_indentsQuotations();
+    void setMarkdown_setsHeadingsInTheSizeOfTheText();
+    void setMarkdown_usesOneStrongWeight();
+    void setMarkdown_colorsLinksAndInlineCode();
+    void setMarkdown_keepsTheLook_whenAppliedAgain();
+    void setMarkdown_acceptsAnEmptyDocument();
     void linksIn_findsLinksInReadingOrder();
 };
 
-void tst_HRTextStyle::styleMarkdown_spacesParagraphsOnlyBetween()
+void tst_HRTextStyle::setMarkdown_spacesParagraphsOnlyBetween()
 {
     const Styled styled("One\n\nTwo\n\nThree");
 
@@ -61,7 +57,7 @@ void tst_HRTextStyle::styleMarkdown_spacesParagraphsOnlyBetween()
     QCOMPARE(styled.block(2).blockFormat().bottomMargin(), 0.0);
 }
 
-void tst_HRTextStyle::styleMarkdown_setsListItemsCloser()
+void tst_HRTextStyle::setMarkdown_setsListItemsCloser()
 {
     const Styled styled("- One\n- Two\n\nAfter");
 
@@ -69,7 +65,7 @@ void tst_HRTextStyle::styleMarkdown_setsListItemsCloser()
     QCOMPARE(styled.block(1).blockFormat().bottomMargin(), 8.0);
 }
 
-void tst_HRTextStyle::styleMarkdown_keepsNestedLists()
+void tst_HRTextStyle::setMarkdown_keepsNestedLists()
 {
     const Styled styled("- One\n  - Inner\n- Two");
 
@@ -77,7 +73,7 @@ void tst_HRTextStyle::styleMarkdown_keepsNestedLists()
     QCOMPARE(styled.block(2).textList(), styled.block(0).textList());
 }
 
-void tst_HRTextStyle::styleMarkdown_indentsCode_asOneBlock()
+void tst_HRTextStyle::setMarkdown_indentsCode_asOneBlock()
 {
     const Styled styled("Before\n\n```\nfirst\nsecond\n```\n\nAfter");
 
@@ -88,14 +84,14 @@ void tst_HRTextStyle::styleMarkdown_indentsCode_asOneBlock()
     QVERIFY(!styled.formatOf("first").hasProperty(QTextFormat::BackgroundBrush));
 }
 
-void tst_HRTextStyle::styleMarkdown_leavesNoEmptyParagraph_whenCodeEndsTheText()
+void tst_HRTextStyle::setMarkdown_leavesNoEmptyParagraph_whenCodeEndsTheText()
 {
     const Styled styled("Before\n\n```\nlast\n```\n");
 
     QCOMPARE(styled.document.lastBlock().text(), QString("last"));
 }
 
-void tst_HRTextStyle::styleMarkdown_indentsQuotations()
+void tst_HRTextStyle::setMarkdown_indentsQuotations()
 {
     const Styled styled("> Quoted");
 
@@ -103,7 +99,7 @@ void tst_HRTextStyle::styleMarkdown_indentsQuotations()
     QCOMPARE(styled.block(0).blockFormat().rightMargin(), 0.0);
 }
 
-void tst_HRTextStyle::styleMarkdown_setsHeadingsInTheSizeOfTheText()
+void tst_HRTextStyle::setMarkdown_setsHeadingsInTheSizeOfTheText()
 {
     const Styled styled("# Heading\n\nText");
 
@@ -111,7 +107,7 @@ void tst_HRTextStyle::styleMarkdown_setsHeadingsInTheSizeOfTheText()
     QCOMPARE(styled.formatOf("Heading").fontWeight(), int(QFont::DemiBold));
 }
 
-void tst_HRTextStyle::styleMarkdown_usesOneStrongWeight()
+void tst_HRTextStyle::setMarkdown_usesOneStrongWeight()
 {
     const Styled styled("A **strong** word");
 
@@ -119,7 +115,7 @@ void tst_HRTextStyle::styleMarkdown_usesOneStrongWeight()
     QVERIFY(styled.formatOf("word").fontWeight() <= int(QFont::Normal));
 }
 
-void tst_HRTextStyle::styleMarkdown_colorsLinksAndInlineCode()
+void tst_HRTextStyle::setMarkdown_colorsLinksAndInlineCode()
 {
     const Styled styled("A [link](there) and `code`");
 
@@ -128,17 +124,18 @@ void tst_HRTextStyle::styleMarkdown_colorsLinksAndInlineCode()
     QVERIFY(!styled.formatOf("and").hasProperty(QTextFormat::BackgroundBrush));
 }
 
-void tst_HRTextStyle::styleMarkdown_keepsTheLook_whenAppliedAgain()
+void tst_HRTextStyle::setMarkdown_keepsTheLook_whenAppliedAgain()
 {
-    Styled styled("# A\n\n- b `c`\n\n> [d](e)\n\n```\nf\n```");
+    const QString markdown = "# A\n\n- b `c`\n\n> [d](e)\n\n```\nf\n```";
+    Styled styled(markdown);
     const QString once = styled.document.toHtml();
 
-    styleMarkdown(styled.document, look);
+    setMarkdown(styled.document, markdown, look);
 
     QCOMPARE(styled.document.toHtml(), once);
 }
 
-void tst_HRTextStyle::styleMarkdown_acceptsAnEmptyDocument()
+void tst_HRTextStyle::setMarkdown_acceptsAnEmptyDocument()
 {
     const Styled styled("");
 

@@ -239,6 +239,8 @@ private Q_SLOTS:
     void ui_loadsWithoutTrouble_data();
     void ui_loadsWithoutTrouble();
     void ui_keepsItsWidth_andGrowsInHeight();
+    void ui_hasItsSizeAtOnce_data();
+    void ui_hasItsSizeAtOnce();
     void ui_leavesNoHole_data();
     void ui_leavesNoHole();
     void ui_scrolls_whenTheScreenIsTooSmall();
@@ -327,6 +329,36 @@ void tst_StandardUi::ui_keepsItsWidth_andGrowsInHeight()
     QCOMPARE(large.width(), small.width());
     QVERIFY(large.height() > 3 * small.height());
     QVERIFY(small.height() < 80);
+}
+
+void tst_StandardUi::ui_hasItsSizeAtOnce_data()
+{
+    QTest::addColumn<QByteArray>("block");
+
+    QTest::newRow("text") << QByteArray("<text>- Some\n- text</text>");
+    QTest::newRow("keys") << QByteArray("<keys press=\"Ctrl+A\">Does it.</keys>");
+    QTest::newRow("picture") << QByteArray("<picture source=\"good.png\">Caption</picture>");
+    QTest::newRow("note") << QByteArray("<note>A note\n\nof two paragraphs</note>");
+    QTest::newRow("link") << QByteArray("<link to=\"page\">There</link>");
+    QTest::newRow("video") << QByteArray("<video source=\"clip.mp4\">Caption</video>");
+}
+
+void tst_StandardUi::ui_hasItsSizeAtOnce()
+{
+    QFETCH(QByteArray, block);
+    Fixture fixture(hint(block) + "<hintreel key=\"empty\"/>");
+    TestClip().write(fixture.packages.path() + "/Test.hintreels/Resources/clip.mp4");
+
+    fixture.show();
+    const QSizeF first = fixture.sizeAtOnce;
+    QTest::qWait(50);
+    QCOMPARE(fixture.root()->size(), first);
+    QVERIFY(first.height() > 60);
+
+    fixture.show("empty");
+    QVERIFY(fixture.sizeAtOnce.height() < first.height() - 20);
+    fixture.show();
+    QCOMPARE(fixture.sizeAtOnce, first);
 }
 
 void tst_StandardUi::ui_leavesNoHole_data()

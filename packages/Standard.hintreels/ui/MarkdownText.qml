@@ -7,11 +7,12 @@ import QtQuick 2.15
 TextEdit {
     id: edit
 
+    property string markdown
     property var links: []
     property string linkUnderPointer
 
-    function restyle() {
-        links = hintreelReader.styleText(textDocument, {
+    function refill() {
+        links = hintreelReader.showMarkdown(textDocument, markdown, {
             "link": look.link, "codeBackground": look.code, "spacing": 2 * look.step
         })
     }
@@ -19,7 +20,7 @@ TextEdit {
     color: look.text
     font.pixelSize: look.bodySize
     horizontalAlignment: TextEdit.AlignLeft
-    textFormat: TextEdit.MarkdownText
+    textFormat: TextEdit.RichText
     wrapMode: TextEdit.Wrap
     readOnly: true
     activeFocusOnPress: hintreelView.reserved
@@ -30,7 +31,7 @@ TextEdit {
 
     onLinkActivated: hintreelView.openExternalResource(link)
     onLinkHovered: linkUnderPointer = link
-    Component.onCompleted: restyle()
+    Component.onCompleted: refill()
 
     HoverHandler {
         cursorShape: edit.linkUnderPointer ? Qt.PointingHandCursor
@@ -39,8 +40,8 @@ TextEdit {
 
     Connections {
         target: look
-        function onLinkChanged() { edit.restyle() }
-        function onCodeChanged() { edit.restyle() }
+        function onLinkChanged() { edit.refill() }
+        function onCodeChanged() { edit.refill() }
     }
 
     Repeater {

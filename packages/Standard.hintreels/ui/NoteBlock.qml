@@ -11,7 +11,7 @@ Rectangle {
     readonly property string kind: words.noteTitles[block.kind] ? block.kind : "note"
     readonly property color accent: look.noteColors[kind]
 
-    implicitHeight: column.height + 4 * look.step
+    implicitHeight: text.y + text.height + 2 * look.step
     radius: look.radius
     color: look.mix(accent, 0.10)
 
@@ -26,28 +26,25 @@ Rectangle {
         color: note.accent
     }
 
-    Column {
-        id: column
-        anchors.left: parent.left
-        anchors.right: parent.right
-        anchors.leftMargin: 5 * look.step
-        anchors.rightMargin: 3 * look.step
+    Text {
+        id: title
+        anchors.left: text.left
+        anchors.right: text.right
         y: 2 * look.step
-        spacing: look.step / 2
+        text: words.noteTitles[note.kind]
+        color: hintreelReader.readable(note.accent, note.color)
+        font.pixelSize: look.smallSize
+        font.weight: look.strong
+        horizontalAlignment: Text.AlignLeft
+        textFormat: Text.PlainText
+    }
 
-        Text {
-            width: parent.width
-            text: words.noteTitles[note.kind]
-            color: hintreelReader.readable(note.accent, note.color)
-            font.pixelSize: look.smallSize
-            font.weight: look.strong
-            horizontalAlignment: Text.AlignLeft
-            textFormat: Text.PlainText
-        }
-
-        MarkdownText {
-            width: parent.width
-            text: words.content(note.block.text)
-        }
+    MarkdownText {
+        id: text
+        anchors.left: parent.left
+        anchors.leftMargin: 5 * look.step
+        y: title.y + title.height + look.step / 2
+        width: note.width - 8 * look.step
+        markdown: words.content(note.block.text)
     }
 }

@@ -4,5 +4,5 @@
 MarkdownText {
     property var block
 
-    text: words.content(block.text)
+    markdown: words.content(block.text)
 }
