@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
+#include "support/TestClip.h"
 #include "support/TestPackage.h"
 #include "ui/HRContentReader_p.h"
 
@@ -76,6 +77,10 @@ private Q_SLOTS:
     void read_tellsTheDirectionOfWriting();
     void picture_answersPicturesOnly_data();
     void picture_answersPicturesOnly();
+    void clip_tellsTheSizeInItsHeader();
+    void captions_areMapsInTheirOrder();
+    void captionFiles_followTheReadersLocales();
+    void reducedMotion_isAskedAnew();
     void showMarkdown_findsNothing_whenDocumentIsNull();
 };
 
@@ -236,6 +241,12 @@ void tst_HRContentReader::read_leavesOut_whatShowsNothing_data()
     QTest::newRow("link without target") << "link"
                                          << ""
                                          << "Label" << false;
+    QTest::newRow("video without caption") << "video"
+                                           << "source"
+                                           << "" << true;
+    QTest::newRow("video without source") << "video"
+                                          << ""
+                                          << "Caption" << false;
     QTest::newRow("unknown element") << "blink"
                                      << ""
                                      << "Text" << false;
@@ -340,6 +351,46 @@ void tst_HRContentReader::picture_answersPicturesOnly()
     QCOMPARE(reader.picture(path), shown ? picture : QVariantMap());
     QVERIFY(reader.picture(files.path()).isEmpty());
     QVERIFY(reader.picture("Resources").isEmpty());
+}
+
+void tst_HRContentReader::clip_tellsTheSizeInItsHeader()
+{
+    TestPackages files;
+    const HRContentReader reader = germanReader();
+
+    QCOMPARE(reader.clip(TestClip().write(files.path() + "/clip.mp4")),
+        (QVariantMap{ { "width", 64 }, { "height", 48 } }));
+    QVERIFY(reader.clip(files.write("text.mp4", "not a clip")).isEmpty());
+}
+
+void tst_HRContentReader::captions_areMapsInTheirOrder()
+{
+    TestPackages files;
+    const QString path = files.write(
+        "clip.vtt", "WEBVTT\n\n00:00.000 --> 00:01.500\nOne\n\n00:02.000 --> 00:03.000\nTwo\n");
+
+    QCOMPARE(germanReader().captions(path),
+        (QVariantList{ QVariantMap{ { "start", 0.0 }, { "end", 1.5 }, { "text", "One" } },
+            QVariantMap{ { "start", 2.0 }, { "end", 3.0 }, { "text", "Two" } } }));
+}
+
+void tst_HRContentReader::captionFiles_followTheReadersLocales()
+{
+    QCOMPARE(germanReader().captionFiles("clip.mp4"),
+        (QStringList{ "clip.de_DE.vtt", "clip.en_US.vtt", "clip.vtt" }));
+}
+
+void tst_HRContentReader::reducedMotion_isAskedAnew()
+{
+    bool reduced = false;
+    const HRContentReader reader([&reduced] {
+        return HRReaderSettings{ { QLocale("en_US") }, reduced };
+    });
+    QVERIFY(!reader.reducedMotion());
+
+    reduced = true;
+
+    QVERIFY(reader.reducedMotion());
 }
 
 void tst_HRContentReader::showMarkdown_findsNothing_whenDocumentIsNull()

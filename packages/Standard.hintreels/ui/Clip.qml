@@ -111,7 +111,7 @@ Item {
         onTriggered: clip.time = video.pictureTime()
     }
 
-    // At the end of what is decoded, more may come; when nothing came for a while, that was the end.
+    // At the end of what is decoded more may come; where nothing came for a while, it was the end.
     Timer {
         property int looks: 0
 

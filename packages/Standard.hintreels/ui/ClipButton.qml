@@ -16,7 +16,8 @@ Pressable {
     width: look.scaled(resting ? 44 : 28)
     height: width
     x: resting ? Math.round((parent.width - width) / 2) : margin
-    y: resting ? Math.round((parent.height - height) / 2) : parent.height - height - margin - look.step
+    y: resting ? Math.round((parent.height - height) / 2)
+        : parent.height - height - margin - look.step
     opacity: offered ? 1 : 0
     onTriggered: player.toggle()
 

@@ -3,7 +3,7 @@
 
 // The hint reel on show, as plain values.
 //
-// They outlast the element: between two hints it is deleted, and the popup must not shrink meanwhile.
+// They outlast the element: it is deleted between two hints, and the popup must not shrink then.
 import QtQuick 2.15
 
 QtObject {
@@ -11,7 +11,8 @@ QtObject {
     property var values: ({})
     property var blocks: []
     readonly property bool rightToLeft: values.rightToLeft === true
-    readonly property string documentation: hintreelView.documentationAvailable && values.documentation || ""
+    readonly property string documentation:
+        hintreelView.documentationAvailable && values.documentation || ""
 
     // All that binds to the values has them by now.
     signal taken
@@ -23,8 +24,8 @@ QtObject {
         if (hintreelView.stayOpen)
             hintreelView.stayOpen = false
         values = hintreelReader.read(element)
-        // An equal list would leave all blocks as they are: a clip at its end, texts in the language
-        // of before.
+        // An equal list would leave all blocks as they are: a clip at its end, texts in the
+        // language of before.
         blocks = []
         blocks = values.blocks
         taken()

@@ -9,7 +9,8 @@ Rectangle {
     id: root
 
     readonly property bool detached: hintreelView.reserved
-    readonly property int tallest: Math.min(Screen.height, Screen.desktopAvailableHeight) - 2 * look.padding
+    readonly property int tallest:
+        Math.min(Screen.height, Screen.desktopAvailableHeight) - 2 * look.padding
 
     // The popup takes its size at once; columns on their own lay themselves out a frame later.
     function layOut() {

@@ -8,16 +8,18 @@ TextEdit {
     id: edit
 
     property string markdown
+    property color background: look.background
+    readonly property color linkColor: hintreelReader.readable(look.palette.highlight, background)
     property var links: []
     property string linkUnderPointer
 
     function refill() {
         links = hintreelReader.showMarkdown(textDocument, markdown, {
-            "link": look.link, "codeBackground": look.code, "spacing": 2 * look.step
+            "link": linkColor, "codeBackground": look.code, "spacing": 2 * look.step
         })
     }
 
-    color: look.text
+    color: hintreelReader.readable(look.text, background)
     font.pixelSize: look.bodySize
     horizontalAlignment: TextEdit.AlignLeft
     textFormat: TextEdit.RichText
@@ -38,10 +40,11 @@ TextEdit {
             : edit.selectByMouse ? Qt.IBeamCursor : Qt.ArrowCursor
     }
 
+    // Once, when all colours of a new palette are there.
     Connections {
         target: look
-        function onLinkChanged() { edit.refill() }
-        function onCodeChanged() { edit.refill() }
+        function onLinkChanged() { Qt.callLater(edit.refill) }
+        function onCodeChanged() { Qt.callLater(edit.refill) }
     }
 
     Repeater {

@@ -45,6 +45,7 @@ Rectangle {
         anchors.leftMargin: 5 * look.step
         y: title.y + title.height + look.step / 2
         width: note.width - 8 * look.step
+        background: note.color
         markdown: words.content(note.block.text)
     }
 }

@@ -9,7 +9,8 @@ Column {
 
     property var block
     readonly property var file: hintreelReader.picture(hintreelView.findResource(block.source))
-    readonly property real wantedWidth: look.scaled(Number(block.width) > 0 ? block.width : file.width || 0)
+    readonly property real wantedWidth:
+        look.scaled(Number(block.width) > 0 ? block.width : file.width || 0)
     readonly property bool shown: file.url !== undefined && picture.status !== Image.Error
 
     visible: shown

@@ -13,7 +13,8 @@ Column {
     readonly property string shortcut: hint.values.shortcut || ""
     readonly property real lineWidth: width - reserve
     readonly property real lineHeight: title.contentHeight / title.lineCount
-    readonly property bool oneLine: title.implicitWidth + caps.naturalWidth + 3 * look.step <= lineWidth
+    readonly property bool oneLine:
+        title.implicitWidth + caps.naturalWidth + 3 * look.step <= lineWidth
 
     // The width at which nothing wraps.
     readonly property real naturalWidth: Math.ceil(Math.max(summary.implicitWidth,
@@ -47,7 +48,8 @@ Column {
             objectName: "shortcut"
             anchors.left: heading.oneLine ? title.right : parent.left
             anchors.leftMargin: heading.oneLine && title.text ? 3 * look.step : 0
-            y: heading.oneLine ? Math.round((heading.lineHeight - height) / 2) : title.height + 2 * look.step
+            y: heading.oneLine ? Math.round((heading.lineHeight - height) / 2)
+                : title.height + 2 * look.step
             visible: heading.shortcut
             shortcut: heading.shortcut
             availableWidth: heading.width

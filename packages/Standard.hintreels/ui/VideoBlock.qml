@@ -10,7 +10,8 @@ Column {
     property var block
     readonly property string path: hintreelView.findResource(block.source)
     readonly property var header: hintreelReader.clip(path)
-    readonly property real wantedWidth: look.scaled(Number(block.width) > 0 ? block.width : header.width || 0)
+    readonly property real wantedWidth:
+        look.scaled(Number(block.width) > 0 ? block.width : header.width || 0)
     readonly property bool shown: header.width !== undefined && !patience.over
 
     visible: shown
