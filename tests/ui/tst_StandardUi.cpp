@@ -1,139 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
-#include "manager/HRManager.h"
-#include "support/MessageGuard.h"
-#include "support/RecordingHost.h"
 #include "support/TestClip.h"
-#include "support/TestPackage.h"
 #include "ui/HRReadableColor_p.h"
-#include "ui/HRView.h"
-#include "ui/HRWidget.h"
+#include "ui/StandardUiFixture.h"
 
 #include <QAccessible>
-#include <QBuffer>
 #include <QFile>
-#include <QImage>
-#include <QQuickItem>
 #include <QRegularExpression>
-#include <QtTest>
-
-#include <memory>
 
 using namespace Hintreels;
 
 namespace {
-
-const QString packagesPath = QStringLiteral(HINTREELS_SOURCE_DIR "/packages");
-const QPoint anywhere(50, 50);
-
-class TranslatingHost : public RecordingHost
-{
-public:
-    using RecordingHost::RecordingHost;
-
-    QString translateString(const QString &text, const QString &context) override
-    {
-        requested.append(context + ":" + text);
-        return translations.value(text);
-    }
-
-    QMap<QString, QString> translations; ///< a text without one comes back null
-    QStringList requested; ///< "context:text"
-};
-
-QByteArray png()
-{
-    QImage image(200, 100, QImage::Format_RGB32);
-    image.fill(Qt::darkGreen);
-    QBuffer buffer;
-    image.save(&buffer, "PNG");
-    return buffer.data();
-}
-
-/// In breadth first order; what a Repeater makes is no child of any object.
-QList<QQuickItem *> itemsBelow(QQuickItem *item)
-{
-    QList<QQuickItem *> items{ item };
-    for (int i = 0; i < items.size(); ++i)
-        items += items[i]->childItems();
-    return items;
-}
-
-/// A host with the standard UI and one package that uses it.
-struct Fixture
-{
-    explicit Fixture(const QByteArray &entries, const QByteArray &locale = "en_US")
-    {
-        packages.writeControl(
-            "Test", "test.xml", entries, "search=\"Standard\" locale=\"" + locale + "\"");
-        packages.write("Test.hintreels/Resources/good.png", png());
-        packages.write("Test.hintreels/Resources/broken.png", png().left(60));
-        context.set(localeKey, QString(locale));
-        context.set(hideDelayKey, 0); // never: the pointer is not near
-        context.set(allowNamedResourcesKey, true);
-    }
-
-    /// The offscreen platform has messages of its own; those of QML fail the test, also the last
-    /// ones that are written while the popup goes.
-    ~Fixture()
-    {
-        host.reset();
-        delete popup;
-        const QStringList messages = guard.takeMessages().filter(".qml");
-        if (!messages.isEmpty())
-            QTest::qFail(qPrintable(messages.join(" | ")), __FILE__, __LINE__);
-    }
-
-    /// Shows a key; settings are changed before the first time.
-    void show(const QString &key = "key")
-    {
-        if (!host)
-            host = std::make_unique<TranslatingHost>(
-                context, QStringList{ packages.path(), packagesPath });
-        host->context().set(messageLevelKey, int(messageDebug));
-        host->translations = translations;
-        QVERIFY(host->show(key, anywhere, nullptr));
-        popup = host->manager()->widget();
-        QVERIFY(root());
-        sizeAtOnce = root()->size();
-        QCoreApplication::processEvents();
-    }
-
-    HRView *view() const { return popup->view(); }
-    QQuickItem *root() const { return view()->rootObject(); }
-    QQuickItem *item(const QString &name) const
-    {
-        for (QQuickItem *candidate : itemsBelow(root())) {
-            if (candidate->objectName() == name)
-                return candidate;
-        }
-        qFatal("there is no item %s", qPrintable(name));
-    }
-    QString text(const QString &name) const { return item(name)->property("text").toString(); }
-
-    void click(const QQuickItem *target) const
-    {
-        const QPointF center
-            = target->mapToScene(QPointF(target->width() / 2, target->height() / 2));
-        QTest::mouseClick(view(), Qt::LeftButton, {}, center.toPoint());
-    }
-
-    QStringList troubles() const
-    {
-        QStringList found = host->takeMessages(messageDebug);
-        found += host->takeMessages(messageWarning) + host->takeMessages(messageError);
-        return found;
-    }
-
-    MessageGuard guard;
-    TestPackages packages;
-    HRContext context;
-    QMap<QString, QString> translations;
-    std::unique_ptr<TranslatingHost> host;
-    QPointer<HRWidget> popup;
-    QSizeF sizeAtOnce; ///< the content's size before any event was handled
-};
 
 QByteArray hint(const QByteArray &blocks, const QByteArray &attributes = "title=\"Pen\"")
 {
@@ -142,12 +20,12 @@ QByteArray hint(const QByteArray &blocks, const QByteArray &attributes = "title=
 
 int heightOf(const QByteArray &blocks)
 {
-    Fixture fixture(hint(blocks));
+    StandardUiFixture fixture(hint(blocks));
     fixture.show();
     return fixture.view()->height();
 }
 
-QQuickItem *itemWithText(const Fixture &fixture, const QString &text)
+QQuickItem *itemWithText(const StandardUiFixture &fixture, const QString &text)
 {
     const QList<QQuickItem *> items = itemsBelow(fixture.root());
     const auto found = std::find_if(items.begin(), items.end(),
@@ -164,34 +42,6 @@ QColor backgroundOf(const QQuickItem *item)
             return color;
     }
     return {};
-}
-
-/// A hint whose only block is a clip, in the fixture's package.
-struct ClipFixture : Fixture
-{
-    explicit ClipFixture(const QByteArray &attributes = {}, const TestClip &recording = TestClip())
-        : Fixture("<hintreel key=\"key\" title=\"Pen\"><video source=\"clip.mp4\" " + attributes
-            + "/></hintreel>")
-    {
-        recording.write(packages.path() + "/Test.hintreels/Resources/clip.mp4");
-    }
-
-    QQuickItem *clip() const { return item("clip"); }
-    bool wanted() const { return clip()->property("wanted").toBool(); }
-    bool ended() const { return clip()->property("ended").toBool(); }
-    qreal time() const { return clip()->property("time").toReal(); }
-    /// Number of the picture on show, in a clip of 30 pictures a second.
-    int picture() const { return qRound(30 * time()); }
-    qreal progress() const { return clip()->property("progress").toReal(); }
-    QString buttonName() const { return item("clipButton")->property("name").toString(); }
-};
-
-TestClip longClip()
-{
-    TestClip clip;
-    clip.pictures = 58;
-    clip.rate = 10;
-    return clip;
 }
 
 QByteArray longText(int paragraphs)
@@ -260,15 +110,6 @@ private Q_SLOTS:
     void keyboard_reachesEveryLink_whenDetached();
     void keyboard_scrolls_whenDetached();
     void accessibility_namesWhatCanBePressed();
-    void video_playsOnceThrough_thenOffersReplay();
-    void video_playsAgain_whenItLoops();
-    void video_pausesAndGoesOn_whenClicked();
-    void video_goesWhereItsLineIsPressed();
-    void video_waitsForTheReader_whenMotionIsReduced();
-    void video_rests_whenThePopupIsHidden();
-    void video_keepsItsAspect_whenItIsWide();
-    void video_showsTheCaptionOfItsPicture();
-    void video_isReachedByKeyboard_whenDetached();
     void simpleUi_isAsWideAsItsText();
     void example_isShownWithoutTrouble_data();
     void example_isShownWithoutTrouble();
@@ -304,7 +145,7 @@ void tst_StandardUi::ui_loadsWithoutTrouble()
 {
     QFETCH(QByteArray, entry);
     QFETCH(bool, simple);
-    Fixture fixture(entry);
+    StandardUiFixture fixture(entry);
     fixture.context.set(simpleTooltipKey, simple);
 
     fixture.show();
@@ -317,7 +158,7 @@ void tst_StandardUi::ui_loadsWithoutTrouble()
 
 void tst_StandardUi::ui_keepsItsWidth_andGrowsInHeight()
 {
-    Fixture fixture(
+    StandardUiFixture fixture(
         hint("") + "<hintreel key=\"long\" title=\"A title\">" + everything + "</hintreel>");
 
     fixture.show();
@@ -346,7 +187,7 @@ void tst_StandardUi::ui_hasItsSizeAtOnce_data()
 void tst_StandardUi::ui_hasItsSizeAtOnce()
 {
     QFETCH(QByteArray, block);
-    Fixture fixture(hint(block) + "<hintreel key=\"empty\"/>");
+    StandardUiFixture fixture(hint(block) + "<hintreel key=\"empty\"/>");
     TestClip().write(fixture.packages.path() + "/Test.hintreels/Resources/clip.mp4");
 
     fixture.show();
@@ -391,7 +232,7 @@ void tst_StandardUi::ui_leavesNoHole()
 
 void tst_StandardUi::ui_scrolls_whenTheScreenIsTooSmall()
 {
-    Fixture fixture(hint(longText(100)) + "<hintreel key=\"short\" title=\"Short\"/>");
+    StandardUiFixture fixture(hint(longText(100)) + "<hintreel key=\"short\" title=\"Short\"/>");
     fixture.show();
     QQuickItem *page = fixture.item("page");
     const auto *bar = page->findChild<QQuickItem *>("scrollBar");
@@ -410,7 +251,7 @@ void tst_StandardUi::ui_scrolls_whenTheScreenIsTooSmall()
 
 void tst_StandardUi::ui_showsTheNextHint_inTheSameScene()
 {
-    Fixture fixture(hint(everything)
+    StandardUiFixture fixture(hint(everything)
         + "<hintreel key=\"next\" title=\"Line\" shortcut=\"L\">\n"
           "<summary>Next</summary></hintreel>\n");
     fixture.show();
@@ -427,7 +268,7 @@ void tst_StandardUi::ui_showsTheNextHint_inTheSameScene()
 
 void tst_StandardUi::ui_takesBackStayOpen_whenTheNextHintComes()
 {
-    Fixture fixture(hint("") + "<hintreel key=\"next\" title=\"Line\"/>");
+    StandardUiFixture fixture(hint("") + "<hintreel key=\"next\" title=\"Line\"/>");
     fixture.show();
     fixture.view()->setStayOpen(true);
 
@@ -438,7 +279,7 @@ void tst_StandardUi::ui_takesBackStayOpen_whenTheNextHintComes()
 
 void tst_StandardUi::ui_translatesThenInterpolates()
 {
-    Fixture fixture(hint(everything));
+    StandardUiFixture fixture(hint(everything));
     fixture.translations = { { "Draws a %(quality)s line.", "Zeichnet eine %(quality)s Linie." },
         { "Tip", "Tipp" } };
     fixture.show();
@@ -458,7 +299,7 @@ void tst_StandardUi::ui_translatesThenInterpolates()
 
 void tst_StandardUi::ui_keepsItsWords_whenDetached()
 {
-    Fixture fixture(hint(everything));
+    StandardUiFixture fixture(hint(everything));
     fixture.translations = { { "Tip", "Tipp" } };
     fixture.show();
 
@@ -489,7 +330,7 @@ void tst_StandardUi::ui_offersDocumentation()
     QFETCH(QByteArray, attributes);
     QFETCH(bool, available);
     QFETCH(bool, offered);
-    Fixture fixture(hint("", attributes));
+    StandardUiFixture fixture(hint("", attributes));
     fixture.context.set(allowNamedResourcesKey, available);
 
     fixture.show();
@@ -526,7 +367,7 @@ void tst_StandardUi::ui_opensLinks()
     QFETCH(QByteArray, block);
     QFETCH(int, type);
     QFETCH(QString, resource);
-    Fixture fixture(hint(block));
+    StandardUiFixture fixture(hint(block));
     fixture.show();
 
     const QList<QQuickItem *> items = itemsBelow(fixture.item("blocks"));
@@ -542,7 +383,7 @@ void tst_StandardUi::ui_opensLinks()
 
 void tst_StandardUi::ui_detaches_whenThePinIsPressed()
 {
-    Fixture fixture(hint(everything));
+    StandardUiFixture fixture(hint(everything));
     fixture.show();
     const QPointer<HRWidget> popup = fixture.popup;
     QVERIFY(fixture.item("pin")->isVisible());
@@ -567,7 +408,8 @@ void tst_StandardUi::ui_followsTheHostsPalette_data()
 void tst_StandardUi::ui_followsTheHostsPalette()
 {
     QFETCH(QPalette, palette);
-    Fixture fixture(hint(everything, "title=\"Pen\" shortcut=\"P\" documentation=\"pen\""));
+    StandardUiFixture fixture(
+        hint(everything, "title=\"Pen\" shortcut=\"P\" documentation=\"pen\""));
     fixture.show();
 
     QGuiApplication::setPalette(palette);
@@ -589,7 +431,7 @@ void tst_StandardUi::ui_followsTheHostsPalette()
 
 void tst_StandardUi::ui_isMirrored_whenTheLocaleIsWrittenFromRightToLeft()
 {
-    Fixture fixture(hint(everything, "title=\"Pen\" shortcut=\"Ctrl+P\""), "he_IL");
+    StandardUiFixture fixture(hint(everything, "title=\"Pen\" shortcut=\"Ctrl+P\""), "he_IL");
     fixture.show();
     const auto centerOf = [&](const QQuickItem *item) {
         return item->mapToScene({ item->width() / 2, 0 }).x();
@@ -604,11 +446,11 @@ void tst_StandardUi::ui_isMirrored_whenTheLocaleIsWrittenFromRightToLeft()
 
 void tst_StandardUi::ui_scalesItsSizes()
 {
-    Fixture normal(hint("<picture source=\"good.png\"/>"));
+    StandardUiFixture normal(hint("<picture source=\"good.png\"/>"));
     normal.show();
     const QSize size = normal.view()->size();
 
-    Fixture doubled(hint("<picture source=\"good.png\"/>"));
+    StandardUiFixture doubled(hint("<picture source=\"good.png\"/>"));
     doubled.context.set(scaleKey, 2.0);
     doubled.show();
 
@@ -618,7 +460,7 @@ void tst_StandardUi::ui_scalesItsSizes()
 
 void tst_StandardUi::keyboard_reachesEveryLink_whenDetached()
 {
-    Fixture fixture(hint(everything, "title=\"Pen\" documentation=\"pen\""));
+    StandardUiFixture fixture(hint(everything, "title=\"Pen\" documentation=\"pen\""));
     fixture.show();
     HRView *view = fixture.view();
     view->setReserved(true);
@@ -637,7 +479,7 @@ void tst_StandardUi::keyboard_reachesEveryLink_whenDetached()
 
 void tst_StandardUi::keyboard_scrolls_whenDetached()
 {
-    Fixture fixture(hint(longText(100)));
+    StandardUiFixture fixture(hint(longText(100)));
     fixture.show();
     HRView *view = fixture.view();
     view->setReserved(true);
@@ -661,7 +503,7 @@ void tst_StandardUi::keyboard_scrolls_whenDetached()
 
 void tst_StandardUi::accessibility_namesWhatCanBePressed()
 {
-    Fixture fixture(hint(everything, "title=\"Pen\" documentation=\"pen\""));
+    StandardUiFixture fixture(hint(everything, "title=\"Pen\" documentation=\"pen\""));
     fixture.show();
 
     QStringList names;
@@ -676,162 +518,9 @@ void tst_StandardUi::accessibility_namesWhatCanBePressed()
     QCOMPARE(names, (QStringList{ "Documentation", "Keep open in a window", "There", "link" }));
 }
 
-void tst_StandardUi::video_playsOnceThrough_thenOffersReplay()
-{
-    ClipFixture fixture;
-    fixture.show();
-    QCOMPARE(fixture.buttonName(), QString("Pause"));
-
-    QTRY_VERIFY(fixture.ended());
-    QTRY_COMPARE(fixture.picture(), 7);
-    QCOMPARE(fixture.buttonName(), QString("Play again"));
-
-    fixture.click(fixture.item("clipButton"));
-    QCOMPARE(fixture.buttonName(), QString("Pause"));
-    QTRY_VERIFY(fixture.time() < 0.1);
-    QTRY_VERIFY(fixture.ended());
-    QCOMPARE(fixture.troubles(), QStringList());
-}
-
-void tst_StandardUi::video_playsAgain_whenItLoops()
-{
-    ClipFixture fixture("loop=\"true\"");
-    fixture.show();
-
-    for (int round = 0; round < 2; ++round) {
-        QTRY_VERIFY(fixture.time() > 0.15);
-        QTRY_VERIFY(fixture.time() < 0.1);
-    }
-    QVERIFY(!fixture.ended());
-}
-
-void tst_StandardUi::video_pausesAndGoesOn_whenClicked()
-{
-    ClipFixture fixture({}, longClip());
-    fixture.show();
-    QTRY_VERIFY(fixture.time() > 0.2);
-
-    fixture.click(fixture.clip());
-    QCOMPARE(fixture.buttonName(), QString("Play"));
-    QTest::qWait(150);
-    const qreal pausedAt = fixture.time();
-    QTest::qWait(300);
-    QCOMPARE(fixture.time(), pausedAt);
-
-    fixture.click(fixture.item("clipButton"));
-    QTRY_VERIFY(fixture.time() > pausedAt + 0.2);
-}
-
-void tst_StandardUi::video_goesWhereItsLineIsPressed()
-{
-    ClipFixture fixture({}, longClip());
-    fixture.context.set(reducedMotionKey, true);
-    fixture.show();
-    QTRY_VERIFY(fixture.clip()->property("shown").toBool());
-    QTest::qWait(300); // until all is decoded
-
-    fixture.click(fixture.item("progressLine"));
-    QTRY_VERIFY(qAbs(fixture.progress() - 0.5) < 0.05);
-    QTRY_VERIFY(qAbs(fixture.time() - 2.9) < 0.2);
-    QVERIFY(!fixture.wanted());
-}
-
-void tst_StandardUi::video_waitsForTheReader_whenMotionIsReduced()
-{
-    ClipFixture fixture("loop=\"true\"");
-    fixture.context.set(reducedMotionKey, true);
-    fixture.show();
-    QTRY_VERIFY(fixture.clip()->property("shown").toBool());
-    QTest::qWait(300);
-    QCOMPARE(fixture.time(), 0.0);
-    QCOMPARE(fixture.buttonName(), QString("Play"));
-
-    fixture.click(fixture.clip());
-
-    QTRY_VERIFY(fixture.ended());
-    QTRY_COMPARE(fixture.picture(), 7);
-}
-
-void tst_StandardUi::video_rests_whenThePopupIsHidden()
-{
-    ClipFixture fixture({}, longClip());
-    fixture.show();
-    QTRY_VERIFY(fixture.time() > 0.1);
-
-    fixture.popup->hide();
-    QTest::qWait(150);
-    const qreal restingAt = fixture.progress();
-    QTest::qWait(300);
-
-    QCOMPARE(fixture.progress(), restingAt);
-}
-
-void tst_StandardUi::video_keepsItsAspect_whenItIsWide()
-{
-    TestClip wide;
-    wide.size = QSize(1200, 300);
-    wide.pictures = 2;
-    ClipFixture fixture({}, wide);
-    fixture.show();
-
-    const QQuickItem *clip = fixture.clip();
-    QVERIFY(clip->width() < fixture.root()->width());
-    QVERIFY(qAbs(clip->width() / clip->height() - 4) < 0.1);
-    QCOMPARE(fixture.root()->size(), fixture.sizeAtOnce);
-    QTRY_VERIFY(clip->property("shown").toBool());
-    QCOMPARE(fixture.root()->size(), fixture.sizeAtOnce);
-}
-
-void tst_StandardUi::video_showsTheCaptionOfItsPicture()
-{
-    ClipFixture fixture;
-    fixture.packages.write("Test.hintreels/Resources/clip.vtt",
-        "WEBVTT\n\n00:00.000 --> 00:00.010\nFirst\n\n00:00.200 --> 00:09.000\nLast\n");
-    fixture.packages.write("Test.hintreels/Resources/clip.de_DE.vtt",
-        "WEBVTT\n\n00:00.000 --> 00:00.010\nZuerst\n\n00:00.200 --> 00:09.000\nZuletzt\n");
-    fixture.context.set(reducedMotionKey, true);
-    fixture.show();
-    const QQuickItem *caption = fixture.item("clipCaption");
-    QTRY_VERIFY(caption->isVisible());
-    QCOMPARE(caption->property("text").toString(), QString("First"));
-
-    fixture.click(fixture.clip());
-    QTRY_VERIFY(fixture.ended());
-    QTRY_COMPARE(caption->property("text").toString(), QString("Last"));
-
-    fixture.popup->hide();
-    fixture.host->context().set(localeKey, "de_DE");
-    fixture.show();
-    QTRY_COMPARE(fixture.text("clipCaption"), QString("Zuerst"));
-}
-
-void tst_StandardUi::video_isReachedByKeyboard_whenDetached()
-{
-    ClipFixture fixture({}, longClip());
-    fixture.context.set(reducedMotionKey, true);
-    fixture.show();
-    QTRY_VERIFY(fixture.clip()->property("shown").toBool());
-    HRView *view = fixture.view();
-    view->setReserved(true);
-    view->requestActivate();
-    QTRY_COMPARE(QGuiApplication::focusWindow(), view);
-
-    QTest::keyClick(view, Qt::Key_Tab);
-    QTest::keyClick(view, Qt::Key_Space);
-    QVERIFY(fixture.wanted());
-    QTest::keyClick(view, Qt::Key_Space);
-    QVERIFY(!fixture.wanted());
-
-    const qreal before = fixture.progress();
-    QTest::keyClick(view, Qt::Key_Tab);
-    for (int i = 0; i < 4; ++i)
-        QTest::keyClick(view, Qt::Key_Right);
-    QVERIFY(fixture.progress() > before + 0.1);
-}
-
 void tst_StandardUi::simpleUi_isAsWideAsItsText()
 {
-    Fixture fixture(hint("<summary>A summary</summary>", "title=\"Pen\" shortcut=\"P\"")
+    StandardUiFixture fixture(hint("<summary>A summary</summary>", "title=\"Pen\" shortcut=\"P\"")
         + "<hintreel key=\"long\" title=\"Pen\"><summary>" + QByteArray(" A summary").repeated(50)
         + "</summary></hintreel>");
     fixture.context.set(simpleTooltipKey, true);
@@ -865,7 +554,7 @@ void tst_StandardUi::example_isShownWithoutTrouble()
         "```xml\n(<\\?xml.*?)```", QRegularExpression::DotMatchesEverythingOption);
     const QString example = fence.match(QString::fromUtf8(document.readAll())).captured(1);
     QVERIFY(!example.isEmpty());
-    Fixture fixture(hint(""));
+    StandardUiFixture fixture(hint(""));
     fixture.packages.write("Painter.hintreels/Control/en_US.xml", example.toUtf8());
     fixture.packages.write("Painter.hintreels/Resources/pen.png", png());
     TestClip().write(fixture.packages.path() + "/Painter.hintreels/Resources/pen.mp4");

@@ -1,0 +1,211 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "support/TestClip.h"
+#include "ui/StandardUiFixture.h"
+
+using namespace Hintreels;
+
+namespace {
+
+/// A hint whose only block is a clip, in the fixture's package.
+struct ClipFixture : StandardUiFixture
+{
+    explicit ClipFixture(const QByteArray &attributes = {}, const TestClip &recording = TestClip())
+        : StandardUiFixture("<hintreel key=\"key\" title=\"Pen\"><video source=\"clip.mp4\" "
+            + attributes + "/></hintreel>")
+    {
+        recording.write(packages.path() + "/Test.hintreels/Resources/clip.mp4");
+    }
+
+    QQuickItem *clip() const { return item("clip"); }
+    bool wanted() const { return clip()->property("wanted").toBool(); }
+    bool ended() const { return clip()->property("ended").toBool(); }
+    qreal time() const { return clip()->property("time").toReal(); }
+    /// Number of the picture on show, in a clip of 30 pictures a second.
+    int picture() const { return qRound(30 * time()); }
+    qreal progress() const { return clip()->property("progress").toReal(); }
+    QString buttonName() const { return item("clipButton")->property("name").toString(); }
+};
+
+TestClip longClip()
+{
+    TestClip clip;
+    clip.pictures = 58;
+    clip.rate = 10;
+    return clip;
+}
+
+} // namespace
+
+class tst_StandardUiClips : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void video_playsOnceThrough_thenOffersReplay();
+    void video_playsAgain_whenItLoops();
+    void video_pausesAndGoesOn_whenClicked();
+    void video_goesWhereItsLineIsPressed();
+    void video_waitsForTheReader_whenMotionIsReduced();
+    void video_rests_whenThePopupIsHidden();
+    void video_keepsItsAspect_whenItIsWide();
+    void video_showsTheCaptionOfItsPicture();
+    void video_isReachedByKeyboard_whenDetached();
+};
+
+void tst_StandardUiClips::video_playsOnceThrough_thenOffersReplay()
+{
+    ClipFixture fixture;
+    fixture.show();
+    QCOMPARE(fixture.buttonName(), QString("Pause"));
+
+    QTRY_VERIFY(fixture.ended());
+    QTRY_COMPARE(fixture.picture(), 7);
+    QCOMPARE(fixture.buttonName(), QString("Play again"));
+
+    fixture.click(fixture.item("clipButton"));
+    QCOMPARE(fixture.buttonName(), QString("Pause"));
+    QTRY_VERIFY(fixture.time() < 0.1);
+    QTRY_VERIFY(fixture.ended());
+    QCOMPARE(fixture.troubles(), QStringList());
+}
+
+void tst_StandardUiClips::video_playsAgain_whenItLoops()
+{
+    ClipFixture fixture("loop=\"true\"");
+    fixture.show();
+
+    for (int round = 0; round < 2; ++round) {
+        QTRY_VERIFY(fixture.time() > 0.15);
+        QTRY_VERIFY(fixture.time() < 0.1);
+    }
+    QVERIFY(!fixture.ended());
+}
+
+void tst_StandardUiClips::video_pausesAndGoesOn_whenClicked()
+{
+    ClipFixture fixture({}, longClip());
+    fixture.show();
+    QTRY_VERIFY(fixture.time() > 0.2);
+
+    fixture.click(fixture.clip());
+    QCOMPARE(fixture.buttonName(), QString("Play"));
+    QTest::qWait(150);
+    const qreal pausedAt = fixture.time();
+    QTest::qWait(300);
+    QCOMPARE(fixture.time(), pausedAt);
+
+    fixture.click(fixture.item("clipButton"));
+    QTRY_VERIFY(fixture.time() > pausedAt + 0.2);
+}
+
+void tst_StandardUiClips::video_goesWhereItsLineIsPressed()
+{
+    ClipFixture fixture({}, longClip());
+    fixture.context.set(reducedMotionKey, true);
+    fixture.show();
+    QTRY_VERIFY(fixture.clip()->property("shown").toBool());
+    QTest::qWait(300); // until all is decoded
+
+    fixture.click(fixture.item("progressLine"));
+    QTRY_VERIFY(qAbs(fixture.progress() - 0.5) < 0.05);
+    QTRY_VERIFY(qAbs(fixture.time() - 2.9) < 0.2);
+    QVERIFY(!fixture.wanted());
+}
+
+void tst_StandardUiClips::video_waitsForTheReader_whenMotionIsReduced()
+{
+    ClipFixture fixture("loop=\"true\"");
+    fixture.context.set(reducedMotionKey, true);
+    fixture.show();
+    QTRY_VERIFY(fixture.clip()->property("shown").toBool());
+    QTest::qWait(300);
+    QCOMPARE(fixture.time(), 0.0);
+    QCOMPARE(fixture.buttonName(), QString("Play"));
+
+    fixture.click(fixture.clip());
+
+    QTRY_VERIFY(fixture.ended());
+    QTRY_COMPARE(fixture.picture(), 7);
+}
+
+void tst_StandardUiClips::video_rests_whenThePopupIsHidden()
+{
+    ClipFixture fixture({}, longClip());
+    fixture.show();
+    QTRY_VERIFY(fixture.time() > 0.1);
+
+    fixture.popup->hide();
+    QTest::qWait(150);
+    const qreal restingAt = fixture.progress();
+    QTest::qWait(300);
+
+    QCOMPARE(fixture.progress(), restingAt);
+}
+
+void tst_StandardUiClips::video_keepsItsAspect_whenItIsWide()
+{
+    TestClip wide;
+    wide.size = QSize(1200, 300);
+    wide.pictures = 2;
+    ClipFixture fixture({}, wide);
+    fixture.show();
+
+    const QQuickItem *clip = fixture.clip();
+    QVERIFY(clip->width() < fixture.root()->width());
+    QVERIFY(qAbs(clip->width() / clip->height() - 4) < 0.1);
+    QCOMPARE(fixture.root()->size(), fixture.sizeAtOnce);
+    QTRY_VERIFY(clip->property("shown").toBool());
+    QCOMPARE(fixture.root()->size(), fixture.sizeAtOnce);
+}
+
+void tst_StandardUiClips::video_showsTheCaptionOfItsPicture()
+{
+    ClipFixture fixture;
+    fixture.packages.write("Test.hintreels/Resources/clip.vtt",
+        "WEBVTT\n\n00:00.000 --> 00:00.010\nFirst\n\n00:00.200 --> 00:09.000\nLast\n");
+    fixture.packages.write("Test.hintreels/Resources/clip.de_DE.vtt",
+        "WEBVTT\n\n00:00.000 --> 00:00.010\nZuerst\n\n00:00.200 --> 00:09.000\nZuletzt\n");
+    fixture.context.set(reducedMotionKey, true);
+    fixture.show();
+    const QQuickItem *caption = fixture.item("clipCaption");
+    QTRY_VERIFY(caption->isVisible());
+    QCOMPARE(caption->property("text").toString(), QString("First"));
+
+    fixture.click(fixture.clip());
+    QTRY_VERIFY(fixture.ended());
+    QTRY_COMPARE(caption->property("text").toString(), QString("Last"));
+
+    fixture.popup->hide();
+    fixture.host->context().set(localeKey, "de_DE");
+    fixture.show();
+    QTRY_COMPARE(fixture.text("clipCaption"), QString("Zuerst"));
+}
+
+void tst_StandardUiClips::video_isReachedByKeyboard_whenDetached()
+{
+    ClipFixture fixture({}, longClip());
+    fixture.context.set(reducedMotionKey, true);
+    fixture.show();
+    QTRY_VERIFY(fixture.clip()->property("shown").toBool());
+    HRView *view = fixture.view();
+    view->setReserved(true);
+    view->requestActivate();
+    QTRY_COMPARE(QGuiApplication::focusWindow(), view);
+
+    QTest::keyClick(view, Qt::Key_Tab);
+    QTest::keyClick(view, Qt::Key_Space);
+    QVERIFY(fixture.wanted());
+    QTest::keyClick(view, Qt::Key_Space);
+    QVERIFY(!fixture.wanted());
+
+    const qreal before = fixture.progress();
+    QTest::keyClick(view, Qt::Key_Tab);
+    for (int i = 0; i < 4; ++i)
+        QTest::keyClick(view, Qt::Key_Right);
+    QVERIFY(fixture.progress() > before + 0.1);
+}
+
+QTEST_MAIN(tst_StandardUiClips)
+#include "tst_StandardUiClips.moc"
