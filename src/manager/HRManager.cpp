@@ -24,6 +24,7 @@
 #include <QHBoxLayout>
 #include <QHelpEvent>
 #include <QMouseEvent>
+#include <QPointer>
 
 #include <limits>
 
@@ -39,14 +40,17 @@ struct HRManagerPrivate
         , index(hostIndex ? hostIndex : new HRIndex(&context, paths))
         , scanner(context, *index, reporterOf(manager))
         , lookup(context, *index, reporterOf(manager))
-        , presenter(context, *host, lookup)
+        , presenter(context, host, lookup)
         , translation(manager)
     {
     }
 
     static HRPackageScanner::Report reporterOf(HRManager *manager)
     {
-        return [manager](const QString &text) { manager->handleMessage(messageInformation, text); };
+        return [guarded = QPointer<HRManager>(manager)](const QString &text) {
+            if (guarded)
+                guarded->handleMessage(messageInformation, text);
+        };
     }
 
     HRInterface *interface;
@@ -89,7 +93,7 @@ HRWidget *createPopup(HRManager *manager)
 
 HRManager::HRManager(
     HRInterface *interface, HRContext &context, const QStringList &dataPaths, HRIndex *index)
-    : d(std::make_unique<HRManagerPrivate>(this, interface, context, dataPaths, index))
+    : d(std::make_shared<HRManagerPrivate>(this, interface, context, dataPaths, index))
 {
     d->index->open();
     if (setting(d->context, alwaysShowToolTipsKey, false))
@@ -150,12 +154,14 @@ QStringList HRManager::searchPaths() const
 
 void HRManager::loadDataPath(const QStringList &paths)
 {
-    d->scanner.scanDataPaths(paths);
+    const std::shared_ptr<HRManagerPrivate> work = d;
+    work->scanner.scanDataPaths(paths);
 }
 
 void HRManager::loadPackage(const QFileInfo &package)
 {
-    d->scanner.scanPackage(package);
+    const std::shared_ptr<HRManagerPrivate> work = d;
+    work->scanner.scanPackage(package);
 }
 
 void HRManager::indexControFile(const QString &controlFile, const QString &package)
@@ -193,7 +199,8 @@ QString HRManager::translateString(const QString &text, const QString &context)
 HRXmlElement *HRManager::retrieve(
     const QString &key, QString &path, int &depth, HRXmlElement *&root)
 {
-    const HRFoundContent found = d->lookup.find(key);
+    const std::shared_ptr<HRManagerPrivate> work = d;
+    const HRFoundContent found = work->lookup.find(key);
     path = found.path;
     depth = found.depth;
     root = found.root;
@@ -202,14 +209,26 @@ HRXmlElement *HRManager::retrieve(
 
 bool HRManager::show(const QString &key, const QPoint &globalPos, QObject *object)
 {
+    const std::shared_ptr<HRManagerPrivate> work = d;
+    const QPointer<HRManager> guarded = this;
+    const HRHover hover{ key, globalPos, object };
     handleMessage(messageInformation, "looking for Hintreel for key:" + key);
-    if (setting(d->context, disabledKey, false))
+    if (!guarded || setting(d->context, disabledKey, false))
         return false;
     const int modifiers = setting(d->context, modifierKey, 0);
     if (modifiers != 0 && int(QGuiApplication::keyboardModifiers()) != modifiers)
         return false;
     initializeTooltipWindow();
-    return d->presenter.show({ key, globalPos, object });
+    return work->presenter.show(hover);
+}
+
+/// True also where the host has deleted the object meanwhile: nobody else may see the event then.
+bool HRManager::showToolTip(QObject *object, const QPoint &globalPos)
+{
+    const QPointer<HRManager> guarded = this;
+    const QPointer<QObject> target = object;
+    const QString key = keyForObject(object);
+    return !target || (guarded && show(key, globalPos, target));
 }
 
 QString HRManager::keyForObject(QObject *object)
@@ -237,7 +256,11 @@ bool HRManager::reserve(HRWidget *widget, QWidget *&window)
 {
     if (!widget || widget != d->presenter.popup())
         return false;
+    const QPointer<HRManager> guarded = this;
+    const QPointer<HRWidget> popup = widget;
     window = d->interface->createWindow(reservedPopupWindow);
+    if (!guarded || !popup || !popup->view() || popup != d->presenter.popup())
+        return false;
     d->reservedPopups.append(widget);
     d->presenter.setPopup(nullptr);
     initializeTooltipWindow();
@@ -267,7 +290,7 @@ bool HRManager::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
     case QEvent::ToolTip:
-        return show(keyForObject(watched), static_cast<QHelpEvent *>(event)->globalPos(), watched);
+        return showToolTip(watched, static_cast<QHelpEvent *>(event)->globalPos());
     case QEvent::ApplicationDeactivate:
         if (widget())
             widget()->hide();
@@ -295,12 +318,10 @@ bool HRManager::mouseMoveEventFilter(QObject *, QMouseEvent *event)
 bool HRManager::mouseButtonEventFilter(QObject *watched, QMouseEvent *)
 {
     const auto *target = qobject_cast<QWidget *>(watched);
-    if (!target || !d->presenter.isPopupVisible())
-        return false;
     HRWidget *popup = widget();
-    if (popup == target || popup->isAncestorOf(target))
+    if (!target || !popup || !popup->isVisible() || popup == target || popup->isAncestorOf(target))
         return false;
-    if (popup->view()->stayOpen())
+    if (popup->view() && popup->view()->stayOpen())
         popup->activateWindow();
     else
         popup->hide();
@@ -332,7 +353,8 @@ QString HRManager::hintreelAttribute(
         return valueOf(*shown);
     if (const HRXmlElement *reserved = d->reservedPopups.content(key))
         return valueOf(*reserved);
-    HRFoundContent found = d->lookup.find(key);
+    const std::shared_ptr<HRManagerPrivate> work = d;
+    HRFoundContent found = work->lookup.find(key);
     const QString value = found.element ? valueOf(*found.element) : defaultValue;
     found.discard();
     return value;

@@ -145,7 +145,10 @@ protected:
     void initializeTooltipWindow();
 
 private:
-    std::unique_ptr<HRManagerPrivate> d;
+    bool showToolTip(QObject *object, const QPoint &globalPos);
+
+    // Shared with what is at work: the host may delete the manager from any callback.
+    std::shared_ptr<HRManagerPrivate> d;
 };
 
 } // namespace Hintreels

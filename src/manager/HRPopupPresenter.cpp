@@ -8,20 +8,18 @@
 #include "interface/HRInterface.h"
 #include "ui/HRView.h"
 
-#include <memory>
-
 namespace Hintreels {
 
 namespace {
 
 // Takes what a view shows out of it, with its whole tree, unless it shows that next, too.
-std::unique_ptr<QObject> takeShownContent(HRView *view, const HRXmlElement *next)
+QObject *takeShownContent(HRView *view, const HRXmlElement *next)
 {
     HRXmlElement *content = view->content();
     if (!content || content == next)
         return nullptr;
     view->setContent(nullptr);
-    return std::unique_ptr<QObject>(content->parent() ? content->parent() : content);
+    return content->parent() ? content->parent() : content;
 }
 
 } // namespace
@@ -35,7 +33,7 @@ HRXmlElement *shownContent(const HRWidget *popup, const QString &key)
 }
 
 HRPopupPresenter::HRPopupPresenter(
-    const HRContext &context, HRInterface &interface, const HRContentLookup &lookup)
+    const HRContext &context, HRInterface *interface, const HRContentLookup &lookup)
     : m_context(context)
     , m_interface(interface)
     , m_lookup(lookup)
@@ -55,9 +53,13 @@ bool HRPopupPresenter::show(const HRHover &hover)
         found.discard();
         return keepOrHide(hover);
     }
-    if (!isPopupVisible() || m_popup->view()->content() != found.element)
-        present(hover, found);
-    return true;
+    if (!canPresent()) {
+        found.discard();
+        return false;
+    }
+    if (isPopupVisible() && m_popup->view()->content() == found.element)
+        return true;
+    return present(hover, found) || (canPresent() && isPopupVisible());
 }
 
 QPoint HRPopupPresenter::position(const QPoint &globalPos) const
@@ -89,23 +91,41 @@ bool HRPopupPresenter::keepOrHide(const HRHover &hover)
     return false;
 }
 
-void HRPopupPresenter::present(const HRHover &hover, const HRFoundContent &found)
+bool HRPopupPresenter::canPresent() const
 {
-    HRXmlElement *element = found.element;
+    return m_interface && m_popup && m_popup->view();
+}
+
+bool HRPopupPresenter::present(const HRHover &hover, const HRFoundContent &found)
+{
+    const QPointer<HRWidget> popup = m_popup;
+    const QPointer<HRXmlElement> element = found.element;
     // Freed only at the end, or the scene's bindings would see null on the way.
-    const std::unique_ptr<QObject> previous = takeShownContent(m_popup->view(), element);
-    m_popup->view()->setContent(element);
+    const QPointer<QObject> previous = takeShownContent(popup->view(), element);
+    popup->view()->setContent(element);
+    nameShortcut(hover, element);
+    const bool isWanted
+        = canPresent() && popup == m_popup && element && popup->view()->content() == element;
+    if (isWanted) {
+        popup->showWithContent(
+            hover.object, position(hover.globalPos), element, found.packageDirectory());
+        // Without its view, Qt's container of it crashes when raised.
+        if (popup && popup->view())
+            popup->raise();
+    }
+    delete previous;
+    return isWanted && popup;
+}
 
-    // The host names the shortcut of what the pointer rests on, also where the content shown is
-    // that of the fallback key.
+// The host names the shortcut of what the pointer rests on, also where the content shown is that of
+// the fallback key.
+void HRPopupPresenter::nameShortcut(const HRHover &hover, HRXmlElement *element)
+{
+    const QPointer<HRXmlElement> guarded = element;
     const QString shortcut
-        = m_interface.shortCutForObject(hover.key, hover.object, element->attribute("shortcut"));
-    if (!shortcut.isEmpty())
-        element->setAttribute("shortcut", shortcut);
-
-    m_popup->showWithContent(
-        hover.object, position(hover.globalPos), element, found.packageDirectory());
-    m_popup->raise();
+        = m_interface->shortCutForObject(hover.key, hover.object, element->attribute("shortcut"));
+    if (guarded && !shortcut.isEmpty())
+        guarded->setAttribute("shortcut", shortcut);
 }
 
 } // namespace Hintreels

@@ -21,7 +21,7 @@ struct HRHover
 {
     QString key;
     QPoint globalPos; ///< global coordinates
-    QObject *object = nullptr; ///< may be null
+    QPointer<QObject> object; ///< may be null
 };
 
 /// The content that a popup shows, if it is that of a key; else null.
@@ -29,13 +29,13 @@ HRXmlElement *shownContent(const HRWidget *popup, const QString &key);
 
 /// Decides for each hover whether the popup shows new content, stays as it is or goes.
 ///
-/// What it borrows must outlive it, but for the popup, which may be deleted by others at any time.
-/// GUI thread only.
+/// What it borrows must outlive it, but for the interface and the popup: the host may delete either
+/// whenever it is called back, and may show something else meanwhile. GUI thread only.
 class HRPopupPresenter
 {
 public:
     HRPopupPresenter(
-        const HRContext &context, HRInterface &interface, const HRContentLookup &lookup);
+        const HRContext &context, HRInterface *interface, const HRContentLookup &lookup);
 
     /// The popup for hovers; null before the first is set.
     HRWidget *popup() const { return m_popup; }
@@ -52,10 +52,12 @@ public:
 private:
     bool keepsShowing(const QString &key);
     bool keepOrHide(const HRHover &hover);
-    void present(const HRHover &hover, const HRFoundContent &found);
+    bool canPresent() const;
+    bool present(const HRHover &hover, const HRFoundContent &found);
+    void nameShortcut(const HRHover &hover, HRXmlElement *element);
 
     const HRContext &m_context;
-    HRInterface &m_interface;
+    QPointer<HRInterface> m_interface;
     const HRContentLookup &m_lookup;
     QPointer<HRWidget> m_popup;
 };

@@ -245,7 +245,11 @@ void HRWidget::showWithContent(
     // Not before the scene has let go of it, or its bindings would see null on the way.
     if (previous != content)
         deleteContentTree(previous);
+    // The host may delete the popup or its view when it is told of a missing file.
+    const QPointer<HRWidget> guarded = this;
     d->view->loadQML(QFileInfo(d->view->uiRootFilePath()).absoluteFilePath());
+    if (!guarded || !d->view)
+        return;
     if (!isVisible())
         takeContentSize(*this, d->container);
     matchBackground(*this);
@@ -311,6 +315,7 @@ void HRWidget::setTimer()
 void HRWidget::contentReservedChanged()
 {
     QWidget *window = nullptr;
+    // The manager agrees only where the popup has outlived the question to the host.
     if (!d->view || !d->view->reserved() || !d->manager || !d->manager->reserve(this, window))
         return;
     d->becomeOrdinaryWindow();
