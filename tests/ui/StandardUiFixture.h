@@ -77,13 +77,19 @@ struct StandardUiFixture
             QTest::qFail(qPrintable(messages.join(" | ")), __FILE__, __LINE__);
     }
 
-    /// Shows a key; settings are changed before the first time.
+    /// Makes the host; settings are changed before that.
+    void start()
+    {
+        host = std::make_unique<TranslatingHost>(
+            context, QStringList{ packages.path(), HINTREELS_SOURCE_DIR "/packages" });
+        host->context().set(Hintreels::messageLevelKey, int(Hintreels::messageDebug));
+    }
+
+    /// Shows a key, and makes the host if need be.
     void show(const QString &key = "key")
     {
         if (!host)
-            host = std::make_unique<TranslatingHost>(
-                context, QStringList{ packages.path(), HINTREELS_SOURCE_DIR "/packages" });
-        host->context().set(Hintreels::messageLevelKey, int(Hintreels::messageDebug));
+            start();
         host->translations = translations;
         QVERIFY(host->show(key, QPoint(50, 50), nullptr));
         popup = host->manager()->widget();
