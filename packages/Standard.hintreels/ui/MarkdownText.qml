@@ -24,6 +24,8 @@ TextEdit {
     horizontalAlignment: TextEdit.AlignLeft
     textFormat: TextEdit.RichText
     wrapMode: TextEdit.Wrap
+    // The space between lines stands below the last one, too.
+    bottomPadding: -look.step
     readOnly: true
     activeFocusOnPress: hintreelView.reserved
     selectByMouse: hintreelView.reserved
