@@ -6,17 +6,9 @@
 #include "index/HRControlRecords_p.h"
 #include "index/HRPosixFile_p.h"
 
-#include <chrono>
-
 namespace Hintreels {
 
 namespace {
-
-qint64 nanosecondsNow()
-{
-    using namespace std::chrono;
-    return duration_cast<nanoseconds>(system_clock::now().time_since_epoch()).count();
-}
 
 /// Qt's resources are no files to the operating system; they have no stamp and are always tried.
 bool isResource(const HRControlRecord &record)

@@ -32,6 +32,7 @@ void noteRoot(Notes &notes, const QXmlAttributes &attributes)
     // Qt's reader lets an attribute stand twice; loading keeps the last one.
     const QString locale = HRXmlElement(nullptr, attributes).attribute(QStringLiteral("locale"));
     notes.reading.servesAllLocales = locale.isEmpty();
+    notes.reading.localeName = locale.toUtf8();
     notes.reading.locale = QLocale(locale);
 }
 

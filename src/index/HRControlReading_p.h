@@ -24,7 +24,8 @@ struct HRControlReading
 {
     bool mayHoldAnything = false; // the rest then says nothing
     bool servesAllLocales = true;
-    QLocale locale; // where it does not serve all
+    QByteArray localeName; // as the file spells it, in UTF-8
+    QLocale locale; // the same; it counts where the file does not serve all
     std::vector<quint32> keys; // numbers in ascending order
 
     bool mayServe(quint32 key, const QLocale &wanted) const;

@@ -3,31 +3,31 @@
 
 #include "index/HRControlRecords_p.h"
 
-#include <QFile>
+#include <utility>
 
 namespace Hintreels {
 
-HRControlRecord *HRControlRecords::addFirst(const QString &path, int depth)
+bool HRControlRecords::addFirst(HRControlRecord &&record)
 {
-    if (!learn(path, depth))
-        return nullptr;
-    m_records.push_front({ path, depth, QFile::encodeName(path) });
-    return &m_records.front();
-}
-
-HRControlRecord *HRControlRecords::addLast(const QString &path, int depth)
-{
-    if (!learn(path, depth))
-        return nullptr;
-    m_records.push_back({ path, depth, QFile::encodeName(path) });
-    return &m_records.back();
-}
-
-bool HRControlRecords::learn(const QString &path, int depth)
-{
-    if (m_known.contains(path, depth))
+    if (!learn(record))
         return false;
-    m_known.insert(path, depth);
+    m_records.push_front(std::move(record));
+    return true;
+}
+
+bool HRControlRecords::addLast(HRControlRecord &&record)
+{
+    if (!learn(record))
+        return false;
+    m_records.push_back(std::move(record));
+    return true;
+}
+
+bool HRControlRecords::learn(const HRControlRecord &record)
+{
+    if (m_known.contains(record.path, record.depth))
+        return false;
+    m_known.insert(record.path, record.depth);
     return true;
 }
 

@@ -19,7 +19,7 @@ struct HRControlRecord
 {
     QString path;
     int depth; // levels below the package directory; 1 directly in it
-    QByteArray nativePath = {};
+    QByteArray nativePath; // as QFile::encodeName() spells it
     HRControlReading reading = {};
     HRFileStamp stamp = {}; // of the file when the reading was taken
     bool isSettled = false; // whether the stamp will tell of every edit since
@@ -29,17 +29,17 @@ struct HRControlRecord
 class HRControlRecords
 {
 public:
-    /// Takes a file in, to be tried before all others; null where it is known.
-    HRControlRecord *addFirst(const QString &path, int depth);
+    /// Takes a file in, to be tried before all others; false where it is known.
+    bool addFirst(HRControlRecord &&record);
 
-    /// Takes a file in, to be tried after all others; null where it is known.
-    HRControlRecord *addLast(const QString &path, int depth);
+    /// Takes a file in, to be tried after all others; false where it is known.
+    bool addLast(HRControlRecord &&record);
 
     std::deque<HRControlRecord>::iterator begin() { return m_records.begin(); }
     std::deque<HRControlRecord>::iterator end() { return m_records.end(); }
 
 private:
-    bool learn(const QString &path, int depth);
+    bool learn(const HRControlRecord &record);
 
     std::deque<HRControlRecord> m_records;
     QMultiHash<QString, int> m_known; // the depths of each path

@@ -140,6 +140,7 @@ bool readRoot(Bytes text, HRControlReading &reading)
             return false;
         hasLocale = true;
         reading.servesAllLocales = value.empty();
+        reading.localeName = QByteArray(value.data(), int(value.size()));
         reading.locale = QLocale(QString::fromUtf8(value.data(), int(value.size())));
         return true;
     });

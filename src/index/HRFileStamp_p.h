@@ -5,6 +5,8 @@
 
 #include <QtGlobal>
 
+#include <chrono>
+
 namespace Hintreels {
 
 /// What the file system tells about a file without reading it. Another edit gives another stamp,
@@ -24,6 +26,13 @@ struct HRFileStamp
     }
     bool operator!=(const HRFileStamp &other) const { return !(*this == other); }
 };
+
+/// Nanoseconds since 1970.
+inline qint64 nanosecondsNow()
+{
+    using namespace std::chrono;
+    return duration_cast<nanoseconds>(system_clock::now().time_since_epoch()).count();
+}
 
 /// Whether a reading begun at @p now (ns since 1970) can be told from every later edit by the
 /// file's stamp alone.

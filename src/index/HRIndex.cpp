@@ -5,52 +5,31 @@
 
 #include "content/HRXmlElement.h"
 #include "content/HRXmlParser.h"
-#include "context/HRContext.h"
 #include "context/HRSetting_p.h"
-#include "index/HRControlFileProbe_p.h"
-#include "index/HRControlReader_p.h"
-#include "index/HRControlRecords_p.h"
 #include "index/HRControlTree_p.h"
-#include "index/HRDirectoryDepth_p.h"
 #include "index/HRElementFilters_p.h"
-#include "index/HRPackageMap_p.h"
+#include "index/HRIndex_p.h"
 #include "index/HRPosixFile_p.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
-#include <QPointer>
 
 namespace Hintreels {
 
-struct HRIndexPrivate
+bool HRIndexPrivate::isControlFile(const QString &path)
 {
-    QPointer<HRContext> context;
-    QStringList paths;
-    HRControlRecords records;
-    HRControlReader reader;
-    HRPackageMap packages;
-    HRControlFileProbe probe;
-    HRDirectoryDepth depth;
-    QString mappedPackage; // the one mapped last, under this suffix
-    QString mappedSuffix;
-    bool inUpdate = false;
-
-    bool isControlFile(const QString &path)
-    {
-        if (path.startsWith(QLatin1Char(':'))) {
-            QFile resource(path);
-            return resource.open(QIODevice::ReadOnly)
-                && probe.isControlFile(
-                    [&](char *buffer, qint64 size) { return resource.read(buffer, size); });
-        }
-        HRRegularFile file(QFile::encodeName(path));
-        return file.isOpen() && probe.isControlFile([&](char *buffer, qint64 size) {
-            return file.read(buffer, size);
-        });
+    if (path.startsWith(QLatin1Char(':'))) {
+        QFile resource(path);
+        return resource.open(QIODevice::ReadOnly)
+            && probe.isControlFile(
+                [&](char *buffer, qint64 size) { return resource.read(buffer, size); });
     }
-};
+    HRRegularFile file(QFile::encodeName(path));
+    return file.isOpen()
+        && probe.isControlFile([&](char *buffer, qint64 size) { return file.read(buffer, size); });
+}
 
 HRIndex::HRIndex(HRContext *context, const QStringList &paths)
     : d(new HRIndexPrivate)
@@ -119,7 +98,7 @@ HRXmlElement *HRIndex::retrieve(
 
 bool HRIndex::store(HRXmlElement *, const QLocale &, const QString &filePath, int depth)
 {
-    d->records.addLast(filePath, depth);
+    d->records.addLast({ filePath, depth, QFile::encodeName(filePath) });
     return true;
 }
 
@@ -146,7 +125,7 @@ void HRIndex::indexControlFile(const QString &filePath, const QString &packagePa
     const std::optional<int> depth = d->depth.levels(filePath, packagePath);
     if (!depth || !d->isControlFile(filePath))
         return;
-    if (d->records.addFirst(filePath, *depth))
+    if (d->records.addFirst({ filePath, *depth, QFile::encodeName(filePath) }))
         mapControlFile(QString(), packagePath);
 }
 

@@ -124,6 +124,9 @@ public:
 protected:
     bool isInUpdate() const;
 
+    /// What the index knows in memory, for the indexes of this library.
+    HRIndexPrivate &memory() { return *d; }
+
 private:
     std::unique_ptr<HRIndexPrivate> d;
 };

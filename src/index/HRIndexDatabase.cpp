@@ -52,6 +52,12 @@ void reportSqlError(const char *message, const QSqlError &error)
     qDebug().noquote() << QLatin1String(message) + error.text();
 }
 
+bool isDamage(const QSqlError &error)
+{
+    const int code = primaryCode(error);
+    return code == CorruptCode || code == NoDatabaseCode;
+}
+
 HRIndexDatabase::~HRIndexDatabase()
 {
     close();

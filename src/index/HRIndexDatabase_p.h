@@ -14,6 +14,9 @@ namespace Hintreels {
 /// Writes what failed and SQLite's reason to Qt's debug output.
 void reportSqlError(const char *message, const QSqlError &error);
 
+/// Whether SQLite calls the database corrupt, or no database.
+bool isDamage(const QSqlError &error);
+
 /// One named connection to an SQLite file that belongs to this user and holds our tables only.
 class HRIndexDatabase
 {

@@ -62,13 +62,13 @@ HRSQLiteIndex::HRSQLiteIndex(HRContext *context, const QStringList &paths)
 
 HRSQLiteIndex::~HRSQLiteIndex()
 {
-    drop();
+    closeDatabase();
 }
 
 bool HRSQLiteIndex::open()
 {
     HRIndex::open();
-    drop();
+    closeDatabase();
     d->path.clear();
     const QString path = databaseFilePath();
     if (path.isEmpty())
@@ -115,7 +115,7 @@ bool HRSQLiteIndex::clear()
 
 bool HRSQLiteIndex::close()
 {
-    drop();
+    closeDatabase();
     if (setting(context(), removeIndexOnCloseKey, true))
         remove();
     return true;
@@ -124,7 +124,7 @@ bool HRSQLiteIndex::close()
 bool HRSQLiteIndex::remove()
 {
     // Not by way of close(), which calls this.
-    drop();
+    closeDatabase();
     if (!d->path.isEmpty())
         QFile::remove(d->path);
     return true;
@@ -255,12 +255,12 @@ bool HRSQLiteIndex::openAt(const QString &path)
     d->path = path;
     if (setup())
         return true;
-    drop();
+    closeDatabase();
     d->path.clear(); // never to be removed: it may be another's
     return false;
 }
 
-void HRSQLiteIndex::drop()
+void HRSQLiteIndex::closeDatabase()
 {
     // Queries go before their connection.
     d->update.reset();

@@ -77,9 +77,11 @@ protected:
     /// The open database; invalid while none is open.
     QSqlDatabase database() const;
 
+    /// Closes the database and drops its connection; queries of subclasses must be gone.
+    void closeDatabase();
+
 private:
     bool openAt(const QString &path);
-    void drop();
 
     std::unique_ptr<HRSQLiteIndexPrivate> d;
 };

@@ -40,7 +40,11 @@ struct Fixture
 {
     bool mayServe(const QString &key) { return reader.mayServe(*record, keyNumber(key), locale); }
 
-    void add(const QString &path) { record = records.addFirst(path, 1); }
+    void add(const QString &path)
+    {
+        records.addFirst({ path, 1, QFile::encodeName(path) });
+        record = &*records.begin();
+    }
 
     TestPackages packages;
     HRControlReader reader;

@@ -1,0 +1,127 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "index/HRDirectoryStore_p.h"
+
+#include "index/HRIndexDatabase_p.h"
+
+#include <QFileInfo>
+#include <QSqlError>
+#include <QVariant>
+
+namespace Hintreels {
+
+namespace {
+
+// Enough to make the costs of a transaction small against those of what it writes.
+constexpr int MostUnsavedBytes = 1 << 20;
+
+} // namespace
+
+QString HRDirectoryStore::tableName()
+{
+    return QStringLiteral("control_directories");
+}
+
+HRDirectoryStore::HRDirectoryStore(const QSqlDatabase &database)
+    : m_database(database)
+    , m_select(database)
+{
+    // What is lost in a crash of the machine is read again. Unlike the journal in memory, the one
+    // on disk keeps the file whole when the process is killed.
+    QSqlQuery query(m_database);
+    query.exec(QStringLiteral("PRAGMA synchronous=OFF"));
+    query.prepare(QStringLiteral("CREATE TABLE IF NOT EXISTS control_directories "
+                                 "( path TEXT PRIMARY KEY, files BLOB )"));
+    m_isUsable = run(query);
+    m_select.setForwardOnly(true);
+    m_select.prepare(QStringLiteral("SELECT files FROM control_directories WHERE path = ?"));
+}
+
+QByteArray HRDirectoryStore::load(const QString &directory)
+{
+    const auto unsaved = m_unsaved.constFind(directory);
+    if (unsaved != m_unsaved.cend())
+        return *unsaved;
+    m_select.bindValue(0, directory);
+    QByteArray snapshot;
+    if (run(m_select) && m_select.next())
+        snapshot = m_select.value(0).toByteArray();
+    m_select.finish();
+    return snapshot;
+}
+
+void HRDirectoryStore::save(const QString &directory, const QByteArray &snapshot)
+{
+    m_unsaved.insert(directory, snapshot);
+    m_unsavedBytes += snapshot.size();
+    if (m_unsavedBytes > MostUnsavedBytes)
+        flush();
+}
+
+void HRDirectoryStore::flush()
+{
+    if (m_unsaved.isEmpty())
+        return;
+    m_database.transaction();
+    QSqlQuery query(m_database);
+    query.prepare(
+        QStringLiteral("REPLACE INTO control_directories ( path, files ) VALUES ( ?, ? )"));
+    for (auto it = m_unsaved.cbegin(); it != m_unsaved.cend(); ++it) {
+        query.bindValue(0, it.key());
+        query.bindValue(1, it.value());
+        if (!run(query))
+            break; // a locked database stays locked for the next one
+    }
+    query.finish();
+    if (!m_database.commit())
+        m_database.rollback();
+    m_unsaved.clear();
+    m_unsavedBytes = 0;
+}
+
+void HRDirectoryStore::clear()
+{
+    m_unsaved.clear();
+    m_unsavedBytes = 0;
+    QSqlQuery query(m_database);
+    query.prepare(QStringLiteral("DELETE FROM control_directories"));
+    run(query);
+}
+
+void HRDirectoryStore::removeMissing()
+{
+    const QStringList missing = missingDirectories();
+    QSqlQuery query(m_database);
+    query.prepare(QStringLiteral("DELETE FROM control_directories WHERE path = ?"));
+    for (const QString &directory : missing) {
+        query.bindValue(0, directory);
+        run(query);
+    }
+}
+
+bool HRDirectoryStore::run(QSqlQuery &query)
+{
+    if (query.exec())
+        return true;
+    m_isDamaged = m_isDamaged || isDamage(query.lastError());
+    return false;
+}
+
+QStringList HRDirectoryStore::missingDirectories()
+{
+    QSqlQuery query(m_database);
+    query.setForwardOnly(true);
+    query.prepare(QStringLiteral("SELECT path FROM control_directories"));
+    QStringList missing;
+    if (!run(query))
+        return missing;
+    while (query.next()) {
+        const QString directory = query.value(0).toString();
+        if (!QFileInfo(directory).isDir())
+            missing.append(directory);
+    }
+    return missing;
+}
+
+} // namespace Hintreels

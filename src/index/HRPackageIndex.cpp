@@ -1,0 +1,279 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "index/HRPackageIndex.h"
+
+#include "content/HRXmlElement.h"
+#include "context/HRContext.h"
+#include "context/HRSetting_p.h"
+#include "index/HRDirectorySnapshot_p.h"
+#include "index/HRDirectoryStore_p.h"
+#include "index/HRIndex_p.h"
+#include "index/HRPosixFile_p.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLocale>
+#include <QSqlDatabase>
+#include <QStandardPaths>
+
+#include <optional>
+#include <utility>
+
+namespace Hintreels {
+
+namespace {
+
+std::string_view fileName(const QByteArray &nativePath)
+{
+    const std::string_view path(nativePath.constData(), size_t(nativePath.size()));
+    return path.substr(path.rfind('/') + 1);
+}
+
+/// A directory that may be missing yet.
+bool makeDirectory(const QString &path)
+{
+    return !path.isEmpty() && QDir().mkpath(path);
+}
+
+} // namespace
+
+struct HRPackageIndexPrivate
+{
+    std::optional<HRDirectoryStore> store; // none while the database is closed
+    QString directory; // the one whose files are being indexed, with its slash
+    HRDirectorySnapshot snapshot; // of that directory
+    bool isChanged = false; // whether the snapshot differs from the stored one
+    bool willSave = false;
+    bool isDamaged = false;
+    bool isRebuilt = false;
+};
+
+HRPackageIndex::HRPackageIndex(HRContext *context, const QStringList &paths)
+    : HRSQLiteIndex(context, paths)
+    , d(new HRPackageIndexPrivate)
+{
+}
+
+HRPackageIndex::~HRPackageIndex()
+{
+    HRPackageIndex::close();
+}
+
+bool HRPackageIndex::open()
+{
+    leaveDirectory();
+    d->store.reset();
+    d->isDamaged = false;
+    if (HRSQLiteIndex::open())
+        return true;
+    if (!d->isDamaged || d->isRebuilt)
+        return false;
+    rebuild();
+    return d->store.has_value();
+}
+
+bool HRPackageIndex::setup()
+{
+    if (!database().isValid())
+        return true;
+    d->store.emplace(database());
+    if (d->store->isUsable())
+        return true;
+    d->isDamaged = d->store->isDamaged();
+    d->store.reset();
+    return false;
+}
+
+bool HRPackageIndex::clear()
+{
+    HRIndex::clear();
+    d->directory.clear();
+    if (d->store)
+        d->store->clear();
+    return true;
+}
+
+bool HRPackageIndex::close()
+{
+    saveNow();
+    d->store.reset();
+    closeDatabase();
+    return true;
+}
+
+bool HRPackageIndex::remove()
+{
+    d->store.reset();
+    return HRSQLiteIndex::remove();
+}
+
+HRXmlElement *HRPackageIndex::retrieve(
+    const QString &key, const QLocale &locale, QString &directory, int &depth, HRXmlElement *&root)
+{
+    return HRIndex::retrieve(key, locale, directory, depth, root);
+}
+
+bool HRPackageIndex::store(
+    HRXmlElement *entry, const QLocale &locale, const QString &filePath, int depth)
+{
+    return HRIndex::store(entry, locale, filePath, depth);
+}
+
+void HRPackageIndex::startUpdate()
+{
+    HRIndex::startUpdate();
+}
+
+void HRPackageIndex::endUpdate()
+{
+    HRIndex::endUpdate();
+}
+
+QStringList HRPackageIndex::keys()
+{
+    return HRIndex::keys();
+}
+
+void HRPackageIndex::indexControlFile(const QString &filePath, const QString &packagePath)
+{
+    const std::optional<int> depth = memory().depth.levels(filePath, packagePath);
+    if (!depth)
+        return;
+    HRControlRecord record{ filePath, *depth, QFile::encodeName(filePath) };
+    const std::optional<HRFileStamp> stamp = stampOfFile(record.nativePath);
+    if (!stamp) {
+        HRIndex::indexControlFile(filePath, packagePath); // it may be a Qt resource
+        return;
+    }
+    enterDirectory(filePath);
+    if (recall(record, *stamp) && memory().records.addFirst(std::move(record)))
+        mapControlFile(QString(), packagePath);
+}
+
+QString HRPackageIndex::databaseFilePath()
+{
+    QString directory = setting(context(), persistentDirectoryKey, QString());
+    if (directory.isEmpty() || !QFileInfo(directory).isDir())
+        directory = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
+    if (!makeDirectory(directory)) {
+        qDebug().noquote() << "No cache directory. Cannot create index database. Index will be "
+                              "kept in memory";
+        return QString();
+    }
+    const QString name = setting(context(), indexFileNameKey, QString());
+    return QDir(directory).absoluteFilePath(
+        name.isEmpty() ? QStringLiteral("HintreelsPackages.sqlite") : name);
+}
+
+QStringList HRPackageIndex::tableNames() const
+{
+    return HRSQLiteIndex::tableNames() << HRDirectoryStore::tableName();
+}
+
+/// Fills a record from the database or, where that knows another state of the file, from the file;
+/// false where it is no control file.
+bool HRPackageIndex::recall(HRControlRecord &record, const HRFileStamp &stamp)
+{
+    const std::string_view name = fileName(record.nativePath);
+    HRStoredFile file;
+    record.isSettled = d->snapshot.find(name, stamp, file);
+    record.stamp = stamp;
+    if (!record.isSettled) {
+        const qint64 now = nanosecondsNow();
+        file.isControlFile = memory().isControlFile(record.path);
+        if (file.isControlFile && !memory().reader.read(record))
+            return false;
+        file.stamp = record.stamp;
+        file.reading = record.reading;
+        if (isSettled(file.stamp, now))
+            d->snapshot.put(name, file);
+        else
+            d->snapshot.remove(name);
+        d->isChanged = true;
+    } else {
+        record.reading = std::move(file.reading);
+    }
+    return file.isControlFile;
+}
+
+void HRPackageIndex::enterDirectory(const QString &filePath)
+{
+    const QStringRef directory = filePath.leftRef(filePath.lastIndexOf(QLatin1Char('/')) + 1);
+    if (directory == d->directory)
+        return;
+    leaveDirectory();
+    d->directory = directory.toString();
+    const QByteArray stored = d->store ? d->store->load(d->directory) : QByteArray();
+    if (!stored.isEmpty()) {
+        std::optional<HRDirectorySnapshot> snapshot = HRDirectorySnapshot::decoded(stored);
+        d->isDamaged = !snapshot;
+        if (snapshot)
+            d->snapshot = std::move(*snapshot);
+    }
+    rebuildIfDamaged();
+    saveSoon();
+}
+
+void HRPackageIndex::leaveDirectory()
+{
+    if (d->directory.isEmpty())
+        return;
+    for (const QByteArray &name : d->snapshot.untouched()) {
+        if (stampOfFile(QFile::encodeName(d->directory) + name))
+            continue;
+        d->snapshot.remove({ name.constData(), size_t(name.size()) });
+        d->isChanged = true;
+    }
+    if (d->store && d->isChanged)
+        d->store->save(d->directory, d->snapshot.encoded());
+    d->snapshot = HRDirectorySnapshot();
+    d->directory.clear();
+    d->isChanged = false;
+}
+
+/// Nobody tells when a scan is over; the first event after it does.
+void HRPackageIndex::saveSoon()
+{
+    if (std::exchange(d->willSave, true))
+        return;
+    const auto save = [this] {
+        d->willSave = false;
+        saveNow();
+        if (d->store)
+            d->store->removeMissing();
+    };
+    QMetaObject::invokeMethod(this, save, Qt::QueuedConnection);
+}
+
+void HRPackageIndex::saveNow()
+{
+    leaveDirectory();
+    if (d->store)
+        d->store->flush();
+    rebuildIfDamaged();
+}
+
+void HRPackageIndex::rebuildIfDamaged()
+{
+    d->isDamaged = d->isDamaged || (d->store && d->store->isDamaged());
+    if (d->isDamaged)
+        rebuild();
+}
+
+/// Once in a run: a disk that damages what was just written is not worth a second try.
+void HRPackageIndex::rebuild()
+{
+    qDebug().noquote() << "Index database is damaged. It is made anew";
+    const QString path = databaseFilePath();
+    d->isDamaged = false;
+    d->store.reset();
+    closeDatabase();
+    QFile::remove(path);
+    if (!std::exchange(d->isRebuilt, true))
+        HRSQLiteIndex::open();
+}
+
+} // namespace Hintreels

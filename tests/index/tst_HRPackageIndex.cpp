@@ -1,0 +1,342 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "content/HRXmlElement.h"
+#include "context/HRContext.h"
+#include "index/HRDirectorySnapshot_p.h"
+#include "index/HRDirectoryStore_p.h"
+#include "index/HRPackageIndex.h"
+#include "index/HRPosixFile_p.h"
+#include "manager/HRPackageScanner_p.h"
+#include "support/MessageGuard.h"
+#include "support/TestPackage.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRandomGenerator>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QStandardPaths>
+#include <QtTest>
+
+using namespace Hintreels;
+
+class tst_HRPackageIndex : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void open_usesTheCacheLocation_byDefault();
+    void answers_areThoseOfHRIndex();
+    void warmStart_readsOnlyWhatChanged();
+    void warmStart_forgetsWhatIsGone();
+    void database_isWritten_withoutClose();
+    void database_isKept_whateverTheSettingsSay();
+    void damage_isHealed_data();
+    void damage_isHealed();
+    void twoIndexes_mayShareTheFile();
+    void closedIndex_servesFromMemory();
+};
+
+namespace {
+
+const QString Rebuilt = "Index database is damaged. It is made anew";
+
+/// An index for one run over packages, with its database in a directory of the test.
+struct Run
+{
+    explicit Run(const TestPackages &packages, const QString &connection = "run")
+    {
+        QDir().mkpath(packages.path() + "/cache");
+        context.set(persistentDirectoryKey, packages.path() + "/cache");
+        context.set(indexConnectionKey, connection);
+        file = packages.path() + "/cache/HintreelsPackages.sqlite";
+        isOpen = index.open();
+    }
+
+    void scan(const QString &path)
+    {
+        HRPackageScanner(context, index, [](const QString &) {}).scanDataPaths({ path });
+    }
+
+    HRContext context;
+    HRPackageIndex index{ &context, {} };
+    QString file;
+    bool isOpen;
+};
+
+/// Everything that tells one answer of an index from another.
+QString answer(HRIndex &index, const QString &key, const QString &locale)
+{
+    QString directory;
+    int depth = 0;
+    HRXmlElement *root = nullptr;
+    HRXmlElement *entry = index.retrieve(key, QLocale(locale), directory, depth, root);
+    if (!entry)
+        return "none";
+    const std::unique_ptr<HRXmlElement> tree(root);
+    return directory + ' ' + QString::number(depth) + '\n' + root->toXml()
+        + index.componentPathsForElement(entry, "x.png").join(' ');
+}
+
+/// Packages with everything in them that two indexes could differ about.
+void writeTree(const TestPackages &packages, quint32 seed)
+{
+    QRandomGenerator random(seed);
+    const QByteArrayList roots{ "", "locale='en_US'", "locale='de_DE'", "locale='de'",
+        "locale='zh_Hant_TW'", "locale='C'", "locale='en&#95;US' search='P1, P2'" };
+    const QByteArrayList entries{ "<hintreel key='a'><t/></hintreel>", "<hintreel key='b'/>",
+        "<hintreel key='b' n='2'/>", "<hintreel key='&#97;'/>", "<hintreel/>",
+        "<hintreel key='\xC3\xA9'/>", "<!-- <hintreel key='c'/> -->", "<hintreels/>",
+        "<group><hintreel key='c'/></group>", "<hintreel key=''/>" };
+    const QByteArrayList prologs{ "", "<?xml version='1.0'?>\n", "<!-- <x> -->\n",
+        "<!DOCTYPE hintreels>\n", "<?xml version='1.0' encoding='ISO-8859-1'?>\n" };
+    for (int i = 0; i < 40; ++i) {
+        QByteArray content = prologs.at(random.bounded(prologs.size())) + "<hintreels "
+            + roots.at(random.bounded(roots.size())) + ">";
+        for (int j = random.bounded(4); j >= 0; --j)
+            content += entries.at(random.bounded(entries.size()));
+        packages.write(QString("%1P%2.hintreels/Control/%3.xml")
+                           .arg(i % 3 == 0 ? "inner.hintreels/" : "")
+                           .arg(i % 4)
+                           .arg(i),
+            content + (random.bounded(8) ? "</hintreels>" : ""));
+    }
+}
+
+void compare(HRIndex &plain, HRIndex &kept)
+{
+    QCOMPARE(kept.keys(), plain.keys());
+    for (const char *key : { "a", "b", "c", "\xC3\xA9", "", "none" }) {
+        for (const char *locale : { "en_US", "de_DE", "de_AT", "de", "C", "zh_TW", "ja_JP" })
+            QCOMPARE(answer(kept, QString::fromUtf8(key), locale),
+                answer(plain, QString::fromUtf8(key), locale));
+    }
+    for (const char *package : { "P0", "P1", "P2", "P3", "inner", "none" })
+        QCOMPARE(kept.componentPathsForPackageNamed(package),
+            plain.componentPathsForPackageNamed(package));
+}
+
+void waitUntilSettled()
+{
+    QTest::qWait(2600);
+}
+
+} // namespace
+
+void tst_HRPackageIndex::open_usesTheCacheLocation_byDefault()
+{
+    MessageGuard messages;
+    QStandardPaths::setTestModeEnabled(true);
+    HRContext context;
+    HRPackageIndex index(&context, {});
+    QVERIFY(index.open());
+    const QString file = QStandardPaths::writableLocation(QStandardPaths::CacheLocation)
+        + "/HintreelsPackages.sqlite";
+    QVERIFY(messages.take("Creating index database in " + file));
+    QVERIFY(QFileInfo(file).isFile());
+    index.remove();
+    QVERIFY(!QFileInfo::exists(file));
+    QStandardPaths::setTestModeEnabled(false);
+}
+
+void tst_HRPackageIndex::answers_areThoseOfHRIndex()
+{
+    MessageGuard messages;
+    for (quint32 seed = 1; seed <= 6; ++seed) {
+        const TestPackages packages;
+        writeTree(packages, seed);
+        if (seed <= 2)
+            waitUntilSettled();
+        for (int start = 0; start < 3; ++start) {
+            Run run(packages);
+            QVERIFY(run.isOpen);
+            run.scan(packages.path());
+            run.scan(packages.path() + "/inner.hintreels");
+            HRIndex plain(&run.context, {});
+            HRPackageScanner scanner(run.context, plain, [](const QString &) {});
+            scanner.scanDataPaths({ packages.path(), packages.path() + "/inner.hintreels" });
+            compare(plain, run.index);
+            writeTree(packages, seed * 100 + quint32(start));
+            compare(plain, run.index);
+        }
+    }
+    messages.takeMessages();
+}
+
+void tst_HRPackageIndex::warmStart_readsOnlyWhatChanged()
+{
+    MessageGuard messages;
+    const TestPackages packages;
+    const QString file = packages.writeControl("A", "a.xml", "<hintreel key='a'/>");
+    const QString other = packages.writeControl("A", "b.xml", "<hintreel key='b'/>");
+    waitUntilSettled();
+    Run(packages).scan(packages.path());
+    {
+        // What is kept now says that both files have the key "kept", which neither has.
+        Run run(packages);
+        HRStoredFile kept;
+        kept.isControlFile = true;
+        kept.reading.keys = { keyNumber(QString("kept")) };
+        HRDirectorySnapshot snapshot;
+        for (const QString &path : { file, other }) {
+            kept.stamp = *stampOfFile(QFile::encodeName(path));
+            snapshot.put(QFileInfo(path).fileName().toStdString(), kept);
+        }
+        HRDirectoryStore store(QSqlDatabase::database("run"));
+        store.save(QFileInfo(file).path() + '/', snapshot.encoded());
+        store.flush();
+    }
+    packages.writeControl("A", "b.xml", "<hintreel key='b'/>");
+    Run run(packages);
+    run.scan(packages.path());
+    QCOMPARE(answer(run.index, "a", "en_US"), QString("none")); // not read again
+    QVERIFY(answer(run.index, "b", "en_US") != "none"); // read again
+    messages.takeMessages();
+}
+
+void tst_HRPackageIndex::warmStart_forgetsWhatIsGone()
+{
+    MessageGuard messages;
+    const TestPackages packages;
+    const QString file = packages.writeControl("A", "a.xml", "<hintreel key='a'/>");
+    packages.writeControl("A", "b.xml", "<hintreel key='b'/>");
+    packages.writeControl("B", "c.xml", "<hintreel key='c'/>");
+    waitUntilSettled();
+    Run(packages).scan(packages.path());
+    QVERIFY(QFile::remove(file));
+    QVERIFY(QDir(packages.path() + "/B.hintreels").removeRecursively());
+    Run run(packages);
+    run.scan(packages.path());
+    QCOMPARE(run.index.keys(), QStringList("b"));
+    QCoreApplication::processEvents();
+    QSqlQuery query("SELECT path, files FROM control_directories", QSqlDatabase::database("run"));
+    QVERIFY(query.next());
+    QCOMPARE(query.value(0).toString(), packages.path() + "/A.hintreels/Control/");
+    QVERIFY(!query.value(1).toByteArray().contains("a.xml"));
+    QVERIFY(query.value(1).toByteArray().contains("b.xml"));
+    QVERIFY(!query.next());
+    messages.takeMessages();
+}
+
+void tst_HRPackageIndex::database_isWritten_withoutClose()
+{
+    MessageGuard messages;
+    const TestPackages packages;
+    packages.writeControl("A", "a.xml", "<hintreel key='a'/>");
+    waitUntilSettled();
+    Run run(packages);
+    run.scan(packages.path());
+    QCoreApplication::processEvents();
+    Run other(packages, "other");
+    HRDirectoryStore store(QSqlDatabase::database("other"));
+    QVERIFY(store.load(packages.path() + "/A.hintreels/Control/").contains("a.xml"));
+    messages.takeMessages();
+}
+
+void tst_HRPackageIndex::database_isKept_whateverTheSettingsSay()
+{
+    MessageGuard messages;
+    const TestPackages packages;
+    packages.writeControl("A", "a.xml", "<hintreel key='a'/>");
+    waitUntilSettled();
+    Run run(packages);
+    run.context.set(clearIndexKey, true);
+    run.context.set(removeIndexOnCloseKey, true);
+    run.scan(packages.path());
+    run.index.close();
+    QVERIFY(QFileInfo(run.file).isFile());
+    QVERIFY(run.index.open());
+    HRDirectoryStore store(QSqlDatabase::database("run"));
+    const QString directory = packages.path() + "/A.hintreels/Control/";
+    QVERIFY(!store.load(directory).isEmpty());
+    run.index.clear();
+    QVERIFY(store.load(directory).isEmpty());
+    messages.takeMessages();
+}
+
+void tst_HRPackageIndex::damage_isHealed_data()
+{
+    QTest::addColumn<int>("first");
+    QTest::addColumn<int>("last");
+    QTest::newRow("header") << 16 << 100;
+    QTest::newRow("schema") << 100 << 4096;
+    QTest::newRow("pages") << 4096 << (1 << 20);
+    QTest::newRow("one letter of a snapshot") << -1 << 0;
+}
+
+void tst_HRPackageIndex::damage_isHealed()
+{
+    QFETCH(int, first);
+    QFETCH(int, last);
+    MessageGuard messages;
+    const TestPackages packages;
+    for (int i = 0; i < 50; ++i)
+        packages.writeControl("A", QString::number(i) + ".xml", "<hintreel key='a'/>");
+    waitUntilSettled();
+    Run(packages).scan(packages.path());
+    {
+        QFile file(packages.path() + "/cache/HintreelsPackages.sqlite");
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QByteArray bytes = file.readAll();
+        if (first < 0)
+            bytes[bytes.indexOf("30.xml")] = '4';
+        for (int i = first; first >= 0 && i < qMin(last, bytes.size()); ++i)
+            bytes[i] = char(bytes[i] ^ 0x55);
+        file.seek(0);
+        file.write(bytes);
+    }
+    messages.takeMessages();
+    for (int start = 0; start < 2; ++start) {
+        Run run(packages);
+        QVERIFY(run.isOpen);
+        run.scan(packages.path());
+        QVERIFY(answer(run.index, "a", "en_US") != "none");
+        QCOMPARE(run.index.keys().size(), 50);
+        run.index.close();
+        const QStringList all = messages.takeMessages();
+        QVERIFY2(all.count(Rebuilt) <= (start == 0 ? 1 : 0), qPrintable(all.join('\n')));
+        QVERIFY2(all.size() <= (start == 0 ? 3 : 1), qPrintable(all.join('\n')));
+    }
+}
+
+void tst_HRPackageIndex::twoIndexes_mayShareTheFile()
+{
+    MessageGuard messages;
+    const TestPackages packages;
+    packages.writeControl("A", "a.xml", "<hintreel key='a'/>");
+    packages.writeControl("B", "b.xml", "<hintreel key='b'/>");
+    waitUntilSettled();
+    Run one(packages);
+    Run two(packages, "two");
+    one.scan(packages.path());
+    two.scan(packages.path());
+    QCoreApplication::processEvents();
+    QVERIFY(answer(one.index, "a", "en_US") != "none");
+    QVERIFY(answer(two.index, "b", "en_US") != "none");
+    one.index.close();
+    two.index.close();
+    Run run(packages);
+    run.scan(packages.path());
+    QCOMPARE(run.index.keys(), QStringList({ "b", "a" }));
+    QVERIFY(!messages.takeMessages().contains(Rebuilt));
+}
+
+void tst_HRPackageIndex::closedIndex_servesFromMemory()
+{
+    MessageGuard messages;
+    const TestPackages packages;
+    packages.writeControl("A", "a.xml", "<hintreel key='a'/>");
+    QVERIFY(QDir(packages.path()).mkpath("cache/HintreelsPackages.sqlite"));
+    Run run(packages);
+    QVERIFY(!run.isOpen);
+    run.scan(packages.path());
+    QCoreApplication::processEvents();
+    QVERIFY(answer(run.index, "a", "en_US") != "none");
+    QVERIFY(!run.index.componentPathsForPackageNamed("A").isEmpty());
+    messages.takeMessages();
+}
+
+QTEST_GUILESS_MAIN(tst_HRPackageIndex)
+#include "tst_HRPackageIndex.moc"
