@@ -41,6 +41,16 @@ void fitContainer(QWidget &container, const QSize &size, const HRContentFit &fit
         container.move(fit.geometry.topLeft());
 }
 
+QColor seamOf(const QQuickItem &root, const QColor &viewColor)
+{
+    for (const char *name : { "seam", "color" }) {
+        const QColor color = root.property(name).value<QColor>();
+        if (color.isValid())
+            return color;
+    }
+    return viewColor;
+}
+
 void settleLayout(QLayout *layout)
 {
     if (!layout)
@@ -85,8 +95,7 @@ void matchBackground(HRWidget &popup)
     const QQuickItem *root = rootOf(popup);
     if (!root)
         return;
-    const QColor ofRoot = root->property("color").value<QColor>();
-    const QColor color = ofRoot.isValid() ? ofRoot : popup.view()->color();
+    const QColor color = seamOf(*root, popup.view()->color());
     QPalette palette = popup.palette();
     if (palette.color(QPalette::Window) == color)
         return;

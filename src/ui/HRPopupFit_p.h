@@ -24,9 +24,10 @@ void takeContentSize(HRWidget &popup, QWidget *container);
 /// @param container embeds the view; may be null
 void fitToContent(HRWidget &popup, QWidget *container, const QRect &screen);
 
-/// Gives a popup the colour of its content, from the root item's `color` or else from the view.
+/// Gives a popup's own background the colour that goes with its content.
 ///
-/// The popup is one pixel wider and higher than its content: that seam should not be seen.
+/// The popup is one pixel wider and higher than the content. That seam has the colour that the QML
+/// root item names as `seam`, else the item's own `color`, else that of the view.
 void matchBackground(HRWidget &popup);
 
 } // namespace Hintreels

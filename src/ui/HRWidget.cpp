@@ -54,6 +54,7 @@ struct HRWidgetPrivate
     void endFadeIn();
     void stopHiding();
     void becomeOrdinaryWindow();
+    void keepInside();
 
     HRWidget *q;
     QPointer<HRManager> manager;
@@ -65,6 +66,7 @@ struct HRWidgetPrivate
     HRPointerWatch watch;
     HRViewEmbedding embedding;
     bool detached = false;
+    bool placedByReader = false;
 };
 
 HRWidgetPrivate::HRWidgetPrivate(HRWidget *widget, HRManager *hrManager, QWidget *referenceWidget)
@@ -131,6 +133,15 @@ void HRWidgetPrivate::becomeOrdinaryWindow()
     q->setAttribute(Qt::WA_ShowWithoutActivating, false);
     view->setFlag(Qt::WindowDoesNotAcceptFocus, false);
     embedding.release();
+}
+
+/// A detached popup too, but only once its window has got its frame: then its reader moves it.
+void HRWidgetPrivate::keepInside()
+{
+    if (!q->isVisible() || placedByReader)
+        return;
+    q->reposition();
+    placedByReader = detached;
 }
 
 HRWidget::HRWidget(HRManager *manager, QWidget *parent, QWidget *reference)
@@ -329,8 +340,7 @@ void HRWidget::contentResized()
 {
     fitToContent(*this, d->container, d->screen());
     matchBackground(*this);
-    if (!d->detached && isVisible())
-        reposition();
+    d->keepInside();
 }
 
 QRect HRWidget::findVisibleGeometry(QRect geometry, bool *move)

@@ -27,6 +27,7 @@ Rectangle {
     property string key: hintreel.attribute("key")
     width: key === "large" ? 300 : 200; height: 80
     color: key === "large" ? "blue" : "red"
+    property var seam: key === "ink" ? Qt.rgba(0, 1, 0, 1) : undefined
     states: State { name: "open" }
 }
 )";
@@ -278,6 +279,8 @@ void tst_HRWidget::popup_matchesColorOfItsContent()
     QCOMPARE(f.popup->palette().color(QPalette::Window), QColor("red"));
     f.show("large");
     QCOMPARE(f.popup->palette().color(QPalette::Window), QColor("blue"));
+    f.show("ink");
+    QCOMPARE(f.popup->palette().color(QPalette::Window), QColor(0, 255, 0));
 }
 
 void tst_HRWidget::popup_staysOnScreen_whenContentGrows()

@@ -39,6 +39,8 @@ private Q_SLOTS:
     void pinnedPopup_paints_whenKeptOnTop_data();
     void pinnedPopup_paints_whenKeptOnTop();
     void hostWindow_paintsPinnedPopup_whenShownAnew();
+    void pinnedPopup_isOnScreenWithItsFrame_data();
+    void pinnedPopup_isOnScreenWithItsFrame();
 
 private:
     void addWindows();
@@ -101,6 +103,7 @@ void tst_x11_pin::pinnedPopup_isClosed_whileNewPopupServesNextWidget()
     HintHost host;
     const QPointer<HRWidget> pinned = pin(host);
     QVERIFY(pinned);
+    QTRY_VERIFY(showsHint(*pinned, Qt::red));
     pinned->window()->move(600, 400);
 
     QVERIFY(host.hover(host.blue));
@@ -164,6 +167,29 @@ void tst_x11_pin::hostWindow_paintsPinnedPopup_whenShownAnew()
     window.show();
 
     QTRY_VERIFY(showsHint(*popup, Qt::red));
+}
+
+void tst_x11_pin::pinnedPopup_isOnScreenWithItsFrame_data()
+{
+    addWindows();
+}
+
+void tst_x11_pin::pinnedPopup_isOnScreenWithItsFrame()
+{
+    HintHost host;
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    host.window.move(screen.center().x(), screen.bottom() - 300);
+    const QPointer<HRWidget> pinned = pin(host);
+    QVERIFY(pinned);
+
+    const QWidget *window = pinned->window();
+    QTRY_VERIFY(window->frameGeometry() != window->geometry());
+    QTRY_VERIFY(screen.contains(window->frameGeometry()));
+    QTRY_VERIFY(showsHint(*pinned, Qt::red));
+    // From then on it stays where its reader puts it.
+    pinned->window()->move(screen.bottomLeft() - QPoint(0, 50));
+    pinned->contentResized();
+    QVERIFY(!screen.contains(window->frameGeometry()));
 }
 
 QTEST_MAIN(tst_x11_pin)

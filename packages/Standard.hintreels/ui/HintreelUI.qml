@@ -9,6 +9,7 @@ Rectangle {
     id: root
 
     readonly property bool detached: hintreelView.reserved
+    readonly property color seam: detached ? look.background : look.line
     readonly property int tallest:
         Math.min(Screen.height, Screen.desktopAvailableHeight) - 2 * look.padding
 

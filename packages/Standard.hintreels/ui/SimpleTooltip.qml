@@ -5,6 +5,8 @@
 import QtQuick 2.15
 
 Rectangle {
+    readonly property color seam: hintreelView.reserved ? look.background : look.line
+
     implicitWidth: title.width + 6 * look.step
     implicitHeight: Math.ceil(title.height) + 4 * look.step
     color: look.background
