@@ -110,11 +110,17 @@ start_display() {
     wait_until 10 test -s "$number_file" || fail "Xvfb did not start: $(cat "$temporary_directory/xvfb.log")"
     DISPLAY=:$(tr -d '\n' <"$number_file")
     export DISPLAY
+    # The server names its display a moment before it answers there.
+    wait_until 10 display_answers || fail "Xvfb does not answer at $DISPLAY"
     unset WAYLAND_DISPLAY
     export QT_QPA_PLATFORM=xcb
     openbox --sm-disable >"$temporary_directory/openbox.log" 2>&1 &
     started_processes+=($!)
     wait_until 10 window_manager_runs || fail "openbox did not start: $(cat "$temporary_directory/openbox.log")"
+}
+
+display_answers() {
+    xprop -root _NET_SUPPORTING_WM_CHECK >/dev/null 2>&1
 }
 
 # A window manager names its supporting window on the root window once it is ready.
