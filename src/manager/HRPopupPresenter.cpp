@@ -22,6 +22,12 @@ QObject *takeShownContent(HRView *view, const HRXmlElement *next)
     return content->parent() ? content->parent() : content;
 }
 
+// Bounded by what a widget can be moved to: any numbers may be set and asked for.
+int coordinateSum(qint64 a, qint64 b)
+{
+    return int(qBound<qint64>(-QWIDGETSIZE_MAX, a + b, QWIDGETSIZE_MAX));
+}
+
 } // namespace
 
 HRXmlElement *shownContent(const HRWidget *popup, const QString &key)
@@ -65,7 +71,8 @@ bool HRPopupPresenter::show(const HRHover &hover)
 QPoint HRPopupPresenter::position(const QPoint &globalPos) const
 {
     const QSize offset = setting(m_context, tooltipOffsetKey, QSize(35, 30));
-    return globalPos + QPoint(offset.width(), offset.height());
+    return { coordinateSum(globalPos.x(), offset.width()),
+        coordinateSum(globalPos.y(), offset.height()) };
 }
 
 // A popup that is fading out stays after all when its widget is hovered again.

@@ -58,9 +58,12 @@ QRect movedInside(const QRect &geometry, const QRect &screen)
 
 bool isNear(const QRect &area, const QSize &margin, const QPoint &position)
 {
-    const int x = margin.width();
-    const int y = margin.height();
-    return area.adjusted(-x, -y, x, y).contains(position);
+    // Margins may be as large as an int can be, which then means everywhere.
+    const auto isWithin = [](int value, int first, int last, qint64 around) {
+        return value >= first - around && value <= last + around;
+    };
+    return isWithin(position.x(), area.left(), area.right(), margin.width())
+        && isWithin(position.y(), area.top(), area.bottom(), margin.height());
 }
 
 HRContentFit fitContent(

@@ -13,6 +13,8 @@
 #include <QMouseEvent>
 #include <QtTest>
 
+#include <limits>
+
 using namespace Hintreels;
 
 namespace {
@@ -462,6 +464,10 @@ void tst_HRManager::tooltipPosition_addsOffset()
     QCOMPARE(f.manager().tooltipPosition(QPoint(5, 7), nullptr), QPoint(40, 37));
     f.host->context().set(tooltipOffsetKey, QSize(-1, 2));
     QCOMPARE(f.manager().tooltipPosition(QPoint(5, 7), nullptr), QPoint(4, 9));
+    const int huge = std::numeric_limits<int>::max();
+    f.host->context().set(tooltipOffsetKey, QSize(huge, -huge));
+    const QPoint position = f.manager().tooltipPosition(QPoint(huge, -huge), nullptr);
+    QCOMPARE(position, QPoint(QWIDGETSIZE_MAX, -QWIDGETSIZE_MAX));
 }
 
 void tst_HRManager::retrieve_fillsLocation()

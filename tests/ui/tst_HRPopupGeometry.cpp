@@ -5,6 +5,8 @@
 
 #include <QtTest>
 
+#include <limits>
+
 using namespace Hintreels;
 
 namespace {
@@ -24,6 +26,7 @@ private Q_SLOTS:
     void mostCoveredScreen_choosesByArea();
     void isNear_includesTheMarginsEdge_data();
     void isNear_includesTheMarginsEdge();
+    void isNear_isEverywhere_whenMarginIsHuge();
     void fitContent_fitsIntoScreen_data();
     void fitContent_fitsIntoScreen();
 };
@@ -108,6 +111,14 @@ void tst_HRPopupGeometry::isNear_includesTheMarginsEdge()
 {
     QFETCH(QPoint, position);
     QTEST(isNear(QRect(100, 100, 200, 80), QSize(20, 10), position), "near");
+}
+
+void tst_HRPopupGeometry::isNear_isEverywhere_whenMarginIsHuge()
+{
+    const int huge = std::numeric_limits<int>::max();
+    const QRect area(100, 100, 200, 80);
+    QVERIFY(isNear(area, QSize(huge, huge), QPoint(-5000, 20000)));
+    QVERIFY(!isNear(area, QSize(-huge, -huge), QPoint(150, 150)));
 }
 
 void tst_HRPopupGeometry::fitContent_fitsIntoScreen_data()
