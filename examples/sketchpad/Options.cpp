@@ -3,6 +3,8 @@
 
 #include "Options.h"
 
+#include "hints/IndexChoice.h"
+
 #include <QCommandLineParser>
 
 #include <cstdlib>
@@ -33,8 +35,10 @@ Theme themeNamed(const QString &name)
 
 QString knownIndex(const QString &name)
 {
-    if (name != QLatin1String("memory") && name != QLatin1String("sqlite"))
-        refuse(tr("There is no index \"%1\"; use memory or sqlite.").arg(name));
+    if (!indexNames().contains(name)) {
+        refuse(tr("There is no index \"%1\"; use one of %2.")
+                   .arg(name, indexNames().join(QLatin1String(", "))));
+    }
     return name;
 }
 
@@ -48,8 +52,8 @@ Options readOptions(const QCoreApplication &application)
         tr("The language of the hints, such as de_DE."), QStringLiteral("name"),
         QStringLiteral("en_US"));
     const QCommandLineOption index(QStringLiteral("index"),
-        tr("Where hints are looked up: memory or sqlite."), QStringLiteral("index"),
-        QStringLiteral("memory"));
+        tr("Where hints are looked up: %1.").arg(indexNames().join(QLatin1String(", "))),
+        QStringLiteral("index"), indexNames().first());
     const QCommandLineOption geometry(QStringLiteral("geometry-file"),
         tr("Keep a file that says where the tools are on the screen."), QStringLiteral("file"));
     QCommandLineParser parser;

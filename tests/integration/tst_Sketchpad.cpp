@@ -429,8 +429,8 @@ void tst_Sketchpad::zoomTool_zoomsInOutAndToFrame()
 void tst_Sketchpad::index_holdsContent_data()
 {
     QTest::addColumn<QString>("name");
-    for (const char *name : { "memory", "sqlite" })
-        QTest::newRow(name) << name;
+    for (const QString &name : indexNames())
+        QTest::newRow(qPrintable(name)) << name;
 }
 
 void tst_Sketchpad::index_holdsContent()
