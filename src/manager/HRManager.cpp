@@ -106,7 +106,7 @@ HRManager::HRManager(
         QString("Indexed packages in %1 seconds").arg(timer.elapsed() / 1000.0));
 
     registerQmlTypes();
-    if (setting(d->context, applicationFilterKey, false)) {
+    if (qApp && setting(d->context, applicationFilterKey, false)) {
         qApp->installEventFilter(this);
         d->applicationFilterInstalled = true;
     }
@@ -115,7 +115,8 @@ HRManager::HRManager(
 
 HRManager::~HRManager()
 {
-    if (d->applicationFilterInstalled)
+    // A host may keep its interface for longer than its application.
+    if (d->applicationFilterInstalled && qApp)
         qApp->removeEventFilter(this);
     setAlwaysShowToolTips(false);
     if (d->presenter.popup())
