@@ -19,9 +19,9 @@ HRPointerWatch::HRPointerWatch(Moved moved)
 {
 }
 
-void HRPointerWatch::start()
+void HRPointerWatch::start(const QPoint &position)
 {
-    m_lastPosition = QCursor::pos();
+    m_lastPosition = position;
     m_timer.start(lookInterval, this);
 }
 

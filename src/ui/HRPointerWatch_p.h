@@ -22,8 +22,8 @@ public:
 
     explicit HRPointerWatch(Moved moved);
 
-    /// Takes the first look, which tells nothing.
-    void start();
+    /// @param position where the pointer is now, which tells nothing
+    void start(const QPoint &position);
     void stop();
 
 protected:

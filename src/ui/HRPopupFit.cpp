@@ -72,6 +72,12 @@ void takeContentSize(HRWidget &popup, QWidget *container)
     popup.resize(sizeOf(root));
 }
 
+bool fitsContent(const HRWidget &popup)
+{
+    const QQuickItem *root = rootOf(popup);
+    return !root || popup.size() == sizeOf(root) + QSize(1, 1);
+}
+
 void fitToContent(HRWidget &popup, QWidget *container, const QRect &screen)
 {
     const QQuickItem *root = rootOf(popup);

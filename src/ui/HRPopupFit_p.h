@@ -20,6 +20,9 @@ class HRWidget;
 /// @param container embeds the view; may be null
 void takeContentSize(HRWidget &popup, QWidget *container);
 
+/// Whether a popup has the size of its content already.
+bool fitsContent(const HRWidget &popup);
+
 /// Fixes popup and window to the size of the content, as far as the screen allows.
 /// @param container embeds the view; may be null
 void fitToContent(HRWidget &popup, QWidget *container, const QRect &screen);

@@ -34,6 +34,14 @@ namespace {
 // Low enough to fade in from, high enough for window managers to map the window at all.
 constexpr qreal fadeInStart = 0.1;
 
+/// Whether a widget is the one that is seen at a global position.
+bool isTopmostAt(const QWidget *widget, const QPoint &position)
+{
+    // The window system is asked last: that takes a few round trips to it.
+    return widget && widget->rect().contains(widget->mapFromGlobal(position))
+        && QApplication::widgetAt(position) == widget;
+}
+
 } // namespace
 
 struct HRWidgetPrivate
@@ -55,6 +63,8 @@ struct HRWidgetPrivate
     void stopHiding();
     void becomeOrdinaryWindow();
     void keepInside();
+    void paintAfterContent();
+    void followContent();
 
     HRWidget *q;
     QPointer<HRManager> manager;
@@ -144,6 +154,23 @@ void HRWidgetPrivate::keepInside()
     placedByReader = detached;
 }
 
+/// Holds the popup's own painting back until the content's next frame, which hides all of it but a
+/// seam and would have to wait for it.
+void HRWidgetPrivate::paintAfterContent()
+{
+    q->setUpdatesEnabled(!view || !view->rootObject());
+}
+
+/// Takes the size of new content at once: the view's own resize event comes a round trip to the
+/// window system later, and until then a popup that is too small would cut the content off.
+void HRWidgetPrivate::followContent()
+{
+    if (fitsContent(*q))
+        return;
+    paintAfterContent();
+    q->contentResized();
+}
+
 HRWidget::HRWidget(HRManager *manager, QWidget *parent, QWidget *reference)
     : QWidget(parent)
     , d(std::make_unique<HRWidgetPrivate>(this, manager, reference))
@@ -183,6 +210,7 @@ void HRWidget::setView(HRView *view)
         return;
     connect(view, &HRView::reservedChanged, this, &HRWidget::contentReservedChanged);
     connect(view, &HRView::contentSizeChanged, this, &HRWidget::contentResized);
+    connect(view, &QQuickWindow::frameSwapped, this, [this] { setUpdatesEnabled(true); });
     // A press inside a popup leaves the keyboard focus where it is.
     view->setFlag(Qt::WindowDoesNotAcceptFocus, !d->detached);
     view->setViewPos(0, 0);
@@ -204,10 +232,9 @@ void HRWidget::SetContainerWidget(QWidget *container)
 
 bool HRWidget::isSafe(const QPoint &pos) const
 {
-    if (d->reference && QApplication::widgetAt(pos) == d->reference)
-        return true;
     const QRect area(mapToGlobal(QPoint(0, 0)), frameGeometry().size());
-    return isNear(area, d->setting(safeMarginKey, QSize(20, 20)), pos);
+    return isNear(area, d->setting(safeMarginKey, QSize(20, 20)), pos)
+        || isTopmostAt(d->reference, pos);
 }
 
 void HRWidget::checkMousePosition(const QPoint &pos)
@@ -232,8 +259,10 @@ void HRWidget::setVisible(bool visible)
         return;
     }
     create();
-    if (!d->detached)
+    if (!d->detached) {
         d->followReferenceWindow();
+        d->paintAfterContent();
+    }
     d->embedding.defer();
     QWidget::setVisible(true);
     d->embedding.embed();
@@ -264,8 +293,10 @@ void HRWidget::showWithContent(
     if (!isVisible())
         takeContentSize(*this, d->container);
     matchBackground(*this);
-    if (isVisible())
+    if (isVisible()) {
+        d->followContent();
         d->keepTimeFor(QCursor::pos());
+    }
     showAnimated();
 }
 
@@ -353,11 +384,12 @@ QRect HRWidget::findVisibleGeometry(QRect geometry, bool *move)
 
 void HRWidget::showEvent(QShowEvent *)
 {
-    if (!isSafe(QCursor::pos()))
+    const QPoint pointer = QCursor::pos();
+    if (!isSafe(pointer))
         setTimer();
     reposition();
     if (!d->detached)
-        d->watch.start();
+        d->watch.start(pointer);
     else if (!isWindow())
         d->embedding.renewLater();
 }

@@ -102,6 +102,8 @@ private Q_SLOTS:
     void showWithContent_setsContextProperties();
     void showWithContent_isSilent_whenContentIsReplaced();
     void popup_hasItsContentsSize_beforeItIsShown();
+    void popup_takesTheSizeOfNewContentAtOnce_whileVisible();
+    void popup_paintsItself_onceItsContentIsPainted();
     void popup_matchesColorOfItsContent();
     void popup_staysOnScreen_whenContentGrows();
     void showAnimated_fadesIn();
@@ -270,6 +272,29 @@ void tst_HRWidget::popup_hasItsContentsSize_beforeItIsShown()
     f.show("large");
     QCOMPARE(f.popup->width(), 300);
     QTRY_COMPARE(f.popup->size(), f.around(300, 80));
+}
+
+void tst_HRWidget::popup_takesTheSizeOfNewContentAtOnce_whileVisible()
+{
+    Fixture f;
+    f.show();
+    QTRY_COMPARE(f.popup->size(), f.around(200, 80));
+
+    f.show("large");
+
+    QCOMPARE(f.popup->size(), f.around(300, 80));
+}
+
+void tst_HRWidget::popup_paintsItself_onceItsContentIsPainted()
+{
+    Fixture f;
+    f.show();
+    QVERIFY(!f.popup->updatesEnabled());
+    QTRY_VERIFY(f.popup->updatesEnabled());
+
+    f.show("large");
+    QVERIFY(!f.popup->updatesEnabled());
+    QTRY_VERIFY(f.popup->updatesEnabled());
 }
 
 void tst_HRWidget::popup_matchesColorOfItsContent()
