@@ -5,6 +5,7 @@
 
 #include "index/HRPosixFile_p.h"
 
+#include <QCoreApplication>
 #include <QDebug>
 #include <QFile>
 #include <QSqlError>
@@ -82,9 +83,9 @@ void HRIndexDatabase::close()
     if (!m_handle.isValid())
         return;
     const QString connection = m_handle.connectionName();
-    // Somebody else may have taken the name since.
-    const bool isStillOurs
-        = QSqlDatabase::database(connection, false).driver() == m_handle.driver();
+    // Connections are gone with the application, and somebody else may have taken the name since.
+    const bool isStillOurs = QCoreApplication::instance()
+        && QSqlDatabase::database(connection, false).driver() == m_handle.driver();
     m_handle.close();
     m_handle = QSqlDatabase();
     if (isStillOurs)
