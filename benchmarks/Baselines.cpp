@@ -6,10 +6,8 @@
 #include "PackageTree.h"
 
 #include <QFile>
-#include <QMap>
 #include <QSqlDatabase>
 #include <QSqlQuery>
-#include <QVariant>
 #include <QXmlDefaultHandler>
 #include <QXmlInputSource>
 #include <QXmlSimpleReader>
@@ -175,10 +173,10 @@ struct Lookup::Statement
     QSqlQuery query;
 };
 
-Lookup::Lookup(const QString &path)
+Lookup::Lookup(const QString &path, const QString &connection)
     : m_statement(new Statement)
 {
-    m_statement->database = QSqlDatabase::addDatabase("QSQLITE", "lookup");
+    m_statement->database = QSqlDatabase::addDatabase("QSQLITE", connection);
     m_statement->database.setDatabaseName(path);
     m_statement->database.open();
     m_statement->query = QSqlQuery(m_statement->database);
@@ -191,8 +189,9 @@ Lookup::Lookup(const QString &path)
 
 Lookup::~Lookup()
 {
+    const QString connection = m_statement->database.connectionName();
     delete m_statement;
-    QSqlDatabase::removeDatabase("lookup");
+    QSqlDatabase::removeDatabase(connection);
 }
 
 bool Lookup::find(const QString &key, const QString &locale)
@@ -203,9 +202,9 @@ bool Lookup::find(const QString &key, const QString &locale)
     return m_statement->query.next();
 }
 
-QString copyAndLookUp(const QString &text, const QStringList &names)
+QString copyAndLookUp(
+    const QString &text, const QStringList &names, const QMap<QString, QVariant> &values)
 {
-    static const QMap<QString, QVariant> values{ { "key", "Ctrl+K" }, { "name", "Pen" } };
     QString copy;
     copy.reserve(text.size());
     copy.append(text.constData(), text.size());

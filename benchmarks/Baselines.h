@@ -4,8 +4,10 @@
 #pragma once
 
 #include <QByteArray>
+#include <QMap>
 #include <QString>
 #include <QStringList>
+#include <QVariant>
 
 class PackageTree;
 
@@ -37,7 +39,8 @@ void fillDatabase(const PackageTree &tree, int firstFile, int step, const QStrin
 class Lookup
 {
 public:
-    explicit Lookup(const QString &database);
+    /// @param connection the name of a connection that nobody else uses
+    Lookup(const QString &database, const QString &connection);
     ~Lookup();
     bool find(const QString &key, const QString &locale);
 
@@ -47,6 +50,7 @@ private:
 };
 
 /// Copies a text and looks every name up in a map, as an expansion has to.
-QString copyAndLookUp(const QString &text, const QStringList &names);
+QString copyAndLookUp(
+    const QString &text, const QStringList &names, const QMap<QString, QVariant> &values);
 
 } // namespace Baseline

@@ -1,18 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
-#include "IndexFigures.h"
+#include "Figures.h"
 
 #include "Baselines.h"
+#include "Measuring.h"
 #include "PackageTree.h"
 #include "RatioTable.h"
-#include "content/HRXmlElement.h"
-#include "context/HRContext.h"
 #include "index/HRIndex.h"
-#include "manager/HRPackageScanner_p.h"
-
-#include <QElapsedTimer>
-#include <QLocale>
 
 #include <malloc.h>
 
@@ -22,41 +17,6 @@
 using namespace Hintreels;
 
 namespace {
-
-const QString NobodysKey = "suite.nobody.has.this";
-
-template <typename Action>
-double seconds(Action action)
-{
-    QElapsedTimer timer;
-    timer.start();
-    action();
-    return double(timer.nsecsElapsed()) / 1e9;
-}
-
-/// Looks a key up and frees what is found.
-bool find(HRIndex &index, const QString &key, const QString &locale)
-{
-    QString directory;
-    int depth = 0;
-    HRXmlElement *root = nullptr;
-    if (!index.retrieve(key, QLocale(locale), directory, depth, root))
-        return false;
-    delete root;
-    return true;
-}
-
-void expect(bool found, bool expected)
-{
-    if (found != expected)
-        qFatal("the index answers wrongly");
-}
-
-void scan(HRIndex &index, const PackageTree &tree)
-{
-    static const HRContext context;
-    HRPackageScanner(context, index, [](const QString &) {}).scanDataPaths({ tree.path() });
-}
 
 /// An index that has answered before.
 HRIndex &warmIndex(int files)

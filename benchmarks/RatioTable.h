@@ -42,8 +42,7 @@ public:
     void printJson(std::ostream &stream) const;
 
     /// One line for each ratio over its bar.
-    /// @return whether there was none
-    bool printMissed(std::ostream &stream) const;
+    void printMissed(std::ostream &stream) const;
 
 private:
     struct Line
