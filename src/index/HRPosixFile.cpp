@@ -167,7 +167,8 @@ QStringList readableFileNames(const QString &directory, const QString &suffix)
         if (entry->d_name[0] == '.' || !isRegularEntry(descriptor, *entry))
             continue;
         const QString name = QFile::decodeName(entry->d_name);
-        if (name.endsWith(suffix, Qt::CaseInsensitive)
+        // A name that no text stands for could not be opened by it.
+        if (name.endsWith(suffix, Qt::CaseInsensitive) && QFile::encodeName(name) == entry->d_name
             && ::faccessat(descriptor, entry->d_name, R_OK, 0) == 0)
             names.append(name);
     }

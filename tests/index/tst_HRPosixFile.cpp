@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "index/HRPosixFile_p.h"
+#include "support/TestPackage.h"
+
+#include <QDir>
+#include <QtTest>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Hintreels;
+
+class tst_HRPosixFile : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void readableFileNames_areThoseThatQDirFinds();
+    void readableFileNames_areNone_whereThereIsNoDirectory();
+};
+
+void tst_HRPosixFile::readableFileNames_areThoseThatQDirFinds()
+{
+    const TestPackages files;
+    const QDir directory(files.path());
+    for (const char *name : { "b.xml", "A.XML", "c.Xml", ".hidden.xml", ".xml", "d.xml.bak", "xml",
+             "\xC3\xA4.xml", "[e] 1.xml", "line\nbreak.xml", "%1.xml" })
+        files.write(QString::fromUtf8(name), "<hintreels/>");
+    QVERIFY(directory.mkdir("directory.xml"));
+    QVERIFY(QFile::link(files.path() + "/b.xml", files.path() + "/link.xml"));
+    QVERIFY(QFile::link("/nowhere", files.path() + "/broken.xml"));
+    const QByteArray native = QFile::encodeName(files.path());
+    QCOMPARE(::mkfifo((native + "/pipe.xml").constData(), S_IRUSR | S_IWUSR), 0);
+    QCOMPARE(::mknod((native + "/\xFF.xml").constData(), S_IFREG | S_IRUSR | S_IWUSR, 0), 0);
+
+    const QStringList expected = directory.entryList(
+        { "*.xml" }, QDir::Files | QDir::NoSymLinks | QDir::Readable, QDir::NoSort);
+    const QStringList names = readableFileNames(files.path(), ".xml");
+    QCOMPARE(::unlink((native + "/\xFF.xml").constData()), 0); // QTemporaryDir could not
+    QCOMPARE(expected.size(), 7);
+    QCOMPARE(names, expected);
+}
+
+void tst_HRPosixFile::readableFileNames_areNone_whereThereIsNoDirectory()
+{
+    const TestPackages files;
+    const QString file = files.write("a.xml", "<hintreels/>");
+    QCOMPARE(readableFileNames(file, ".xml"), QStringList());
+    QCOMPARE(readableFileNames(files.path() + "/none", ".xml"), QStringList());
+}
+
+QTEST_APPLESS_MAIN(tst_HRPosixFile)
+#include "tst_HRPosixFile.moc"
