@@ -12,8 +12,11 @@ namespace Hintreels {
 namespace {
 
 // Small tiles follow the pointer and a line of text closely; smaller ones make the maps heavy: at
-// 16 pixels a map weighs 0.8 % of its picture.
+// 16 pixels a map weighs 1.6 % of its picture.
 constexpr int tileSide = 16;
+
+// From this share of new pixels on, a picture is kept as it is: reading it then costs nothing.
+constexpr double wholeShare = 0.75;
 
 /// The tiles of an image of some size, counted row by row. Those at its right and bottom edges may
 /// be smaller.
@@ -71,11 +74,11 @@ QRgb *copyTileOut(const QImage &image, const QRect &tile, QRgb *store)
     return store;
 }
 
-void copyTileIn(const QRgb *store, const QRect &tile, uchar *bits, int bytesPerLine)
+void copyIn(const QRgb *source, int stride, const QRect &area, uchar *bits, int bytesPerLine)
 {
-    for (int y = tile.top(); y <= tile.bottom(); ++y, store += tile.width()) {
-        uchar *row = bits + qint64(y) * bytesPerLine + tile.left() * sizeof(QRgb);
-        std::memcpy(row, store, tile.width() * sizeof(QRgb));
+    for (int y = area.top(); y <= area.bottom(); ++y, source += stride) {
+        uchar *row = bits + qint64(y) * bytesPerLine + area.left() * sizeof(QRgb);
+        std::memcpy(row, source, area.width() * sizeof(QRgb));
     }
 }
 
@@ -94,9 +97,7 @@ void HRCompactFrameCache::addFrame(const HRVideoFrame &frame)
     picture.size = frame.size();
     picture.format = frame.format();
     picture.pts = frame.pts();
-    if (frame.depth() != 32)
-        picture.whole = frame;
-    else if (!storeTiles(frame, &picture))
+    if (!store(frame, &picture))
         return;
     m_pictures.push_back(std::move(picture));
     m_lastAdded = frame;
@@ -119,11 +120,50 @@ size_t HRCompactFrameCache::length()
     return m_pictures.size();
 }
 
+/// False where there is no memory.
+bool HRCompactFrameCache::store(const QImage &image, Picture *picture) const
+{
+    const std::vector<bool> changed = changedTiles(image);
+    const TileGrid grid(image.size());
+    size_t pixelCount = 0;
+    for (int i = 0; i < int(changed.size()); ++i)
+        pixelCount += changed[i] ? size_t(grid.tile(i).width()) * grid.tile(i).height() : 0;
+
+    const double share = double(pixelCount) / (double(image.width()) * image.height());
+    if (pixelCount > 0 && image.depth() == 32 && share < wholeShare)
+        return storeTiles(image, changed, pixelCount, picture);
+    const bool isNew = pixelCount > 0 || image.isNull();
+    picture->whole = isNew ? image : m_pictures.back().whole;
+    picture->tiles = isNew ? nullptr : m_pictures.back().tiles;
+    return true;
+}
+
+bool HRCompactFrameCache::storeTiles(const QImage &image, const std::vector<bool> &changed,
+    size_t pixelCount, Picture *picture) const
+{
+    picture->store.reset(new (std::nothrow) QRgb[pixelCount]);
+    if (!picture->store)
+        return false;
+    const TileGrid grid(image.size());
+    auto tiles = std::make_shared<TileMap>(lastMap());
+    QRgb *end = picture->store.get();
+    for (int i = 0; i < grid.count(); ++i) {
+        if (!changed[i])
+            continue;
+        const QRect tile = grid.tile(i);
+        (*tiles)[i] = { end, tile.width() };
+        end = copyTileOut(image, tile, end);
+    }
+    picture->tiles = std::move(tiles);
+    return true;
+}
+
 /// One flag a tile: whether it differs from the picture added last, or that has no such tile.
 std::vector<bool> HRCompactFrameCache::changedTiles(const QImage &image) const
 {
     const int count = TileGrid(image.size()).count();
-    if (image.size() != m_lastAdded.size() || image.format() != m_lastAdded.format())
+    if (image.size() != m_lastAdded.size() || image.format() != m_lastAdded.format()
+        || image.depth() != 32)
         return std::vector<bool>(count, true);
     std::vector<bool> changed(count, false);
     for (int y = 0; y < image.height(); ++y)
@@ -131,49 +171,50 @@ std::vector<bool> HRCompactFrameCache::changedTiles(const QImage &image) const
     return changed;
 }
 
-bool HRCompactFrameCache::storeTiles(const QImage &image, Picture *picture) const
+/// Where the tiles of the picture added last lie.
+HRCompactFrameCache::TileMap HRCompactFrameCache::lastMap() const
 {
-    const TileGrid grid(image.size());
-    const std::vector<bool> changed = changedTiles(image);
-    if (std::find(changed.begin(), changed.end(), true) == changed.end()) {
-        picture->tiles = m_pictures.back().tiles;
-        return true;
-    }
-    size_t size = 0;
+    const Picture &last = m_pictures.back();
+    if (last.tiles)
+        return *last.tiles;
+    const TileGrid grid(last.size);
+    const int stride = last.whole.bytesPerLine() / int(sizeof(QRgb));
+    TileMap tiles;
+    tiles.reserve(grid.count());
     for (int i = 0; i < grid.count(); ++i)
-        size += changed[i] ? size_t(grid.tile(i).width()) * grid.tile(i).height() : 0;
-    picture->store.reset(new (std::nothrow) QRgb[size]);
-    if (!picture->store)
-        return false;
-
-    const bool allChanged = size == size_t(image.width()) * image.height();
-    auto tiles = std::make_shared<TileMap>(
-        allChanged ? TileMap(size_t(grid.count())) : *m_pictures.back().tiles);
-    QRgb *end = picture->store.get();
-    for (int i = 0; i < grid.count(); ++i) {
-        if (!changed[i])
-            continue;
-        (*tiles)[i] = end;
-        end = copyTileOut(image, grid.tile(i), end);
-    }
-    picture->tiles = std::move(tiles);
-    return true;
+        tiles.push_back({ pixels(last.whole, grid.tile(i).topLeft()), stride });
+    return tiles;
 }
 
 HRVideoFrame HRCompactFrameCache::assemble(const Picture &picture)
 {
     HRVideoFrame frame(picture.whole, 0);
-    if (picture.tiles) {
+    if (picture.tiles)
         frame = HRVideoFrame(picture.size.width(), picture.size.height(), picture.format, 0);
-        if (frame.isNull())
-            return frame;
-        const TileGrid grid(picture.size);
-        uchar *bits = frame.bits();
-        for (int i = 0; i < grid.count(); ++i)
-            copyTileIn((*picture.tiles)[i], grid.tile(i), bits, frame.bytesPerLine());
-    }
     frame.setPts(picture.pts);
+    if (!picture.tiles || frame.isNull())
+        return frame;
+    const TileGrid grid(picture.size);
+    const TileMap &tiles = *picture.tiles;
+    uchar *bits = frame.bits();
+    for (int i = 0; i < grid.count();) {
+        const int run = runOfTiles(tiles, i, grid.columns());
+        const QRect area = grid.tile(i) | grid.tile(i + run - 1);
+        copyIn(tiles[i].pixels, tiles[i].stride, area, bits, frame.bytesPerLine());
+        i += run;
+    }
     return frame;
+}
+
+/// The number of tiles from @p first on that lie side by side in a whole picture, as in the map's.
+int HRCompactFrameCache::runOfTiles(const TileMap &tiles, int first, int columns)
+{
+    const int end = first - first % columns + columns;
+    int next = first + 1;
+    while (next < end && tiles[next].pixels == tiles[next - 1].pixels + tileSide
+        && tiles[next].stride == tiles[first].stride)
+        ++next;
+    return next - first;
 }
 
 } // namespace Hintreels

@@ -15,7 +15,8 @@ namespace Hintreels {
 /// Every picture has a map that says where each of its tiles lies, be it in its own store or in
 /// that of an earlier picture, so any picture is put together in one pass, whatever its index. It
 /// comes back bit for bit: size, format, pixels and time. The picture read last is kept, so reading
-/// it again only shares it. Pictures that do not have 32 bits a pixel are stored as they are.
+/// it again only shares it. Where most of a picture is new it is kept as it is and never put
+/// together; so are pictures that do not have 32 bits a pixel.
 class HRCompactFrameCache : public HRVideoFrameCache
 {
     Q_OBJECT
@@ -30,21 +31,30 @@ public:
     size_t length() override;
 
 private:
-    using TileMap = std::vector<const QRgb *>; // row by row; a tile's pixels stand without gaps
+    struct Tile
+    {
+        const QRgb *pixels;
+        int stride; // pixels from row to row
+    };
+    using TileMap = std::vector<Tile>; // row by row
 
     struct Picture
     {
         QSize size;
         QImage::Format format = QImage::Format_Invalid;
         double pts = 0.0;
+        QImage whole; // else it consists of tiles
         std::shared_ptr<const TileMap> tiles; // shared with the picture before where it is the same
         std::unique_ptr<QRgb[]> store; // of the tiles that changed with this picture
-        QImage whole; // instead of tiles
     };
 
+    bool store(const QImage &image, Picture *picture) const;
+    bool storeTiles(const QImage &image, const std::vector<bool> &changed, size_t pixelCount,
+        Picture *picture) const;
     std::vector<bool> changedTiles(const QImage &image) const;
-    bool storeTiles(const QImage &image, Picture *picture) const;
+    TileMap lastMap() const;
     static HRVideoFrame assemble(const Picture &picture);
+    static int runOfTiles(const TileMap &tiles, int first, int columns);
 
     std::vector<Picture> m_pictures;
     QImage m_lastAdded;
