@@ -15,8 +15,10 @@ namespace {
 // 16 pixels a map weighs 1.6 % of its picture.
 constexpr int tileSide = 16;
 
-// From this share of new pixels on, a picture is kept as it is: reading it then costs nothing.
-constexpr double wholeShare = 0.75;
+// From this share of new pixels on, a picture is kept as it is: reading it then costs nothing, and
+// those after it are put together from long rows. In a screen recording that is a scene or a key
+// picture now and then.
+constexpr double wholeShare = 0.25;
 
 /// The tiles of an image of some size, counted row by row. Those at its right and bottom edges may
 /// be smaller.
@@ -67,18 +69,29 @@ void markChanges(const QImage &a, const QImage &b, int y, std::vector<bool> *cha
     }
 }
 
+void copyRow(QRgb *target, const QRgb *source, int width)
+{
+    // Nearly all rows are those of whole tiles; of a size that is known they are a few moves.
+    if (width == tileSide)
+        std::memcpy(target, source, tileSide * sizeof(QRgb));
+    else
+        std::memcpy(target, source, size_t(width) * sizeof(QRgb));
+}
+
 QRgb *copyTileOut(const QImage &image, const QRect &tile, QRgb *store)
 {
     for (int y = tile.top(); y <= tile.bottom(); ++y, store += tile.width())
-        std::memcpy(store, pixels(image, { tile.left(), y }), tile.width() * sizeof(QRgb));
+        copyRow(store, pixels(image, { tile.left(), y }), tile.width());
     return store;
 }
 
-void copyIn(const QRgb *source, int stride, const QRect &area, uchar *bits, int bytesPerLine)
+void copyIn(const QRgb *source, int sourceStride, const QRect &area, QRgb *target, int targetStride)
 {
-    for (int y = area.top(); y <= area.bottom(); ++y, source += stride) {
-        uchar *row = bits + qint64(y) * bytesPerLine + area.left() * sizeof(QRgb);
-        std::memcpy(row, source, area.width() * sizeof(QRgb));
+    target += qint64(area.top()) * targetStride + area.left();
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        copyRow(target, source, area.width());
+        source += sourceStride;
+        target += targetStride;
     }
 }
 
@@ -108,8 +121,9 @@ HRVideoFrame HRCompactFrameCache::frame(size_t index)
     if (index >= m_pictures.size())
         return HRVideoFrame();
     if (m_lastRead.isNull() || index != m_lastReadIndex) {
-        m_lastRead = HRVideoFrame(); // its memory serves the next, where nobody else holds it
-        m_lastRead = assemble(m_pictures[index]);
+        const Picture &picture = m_pictures[index];
+        m_lastRead = picture.tiles ? assemble(picture) : HRVideoFrame(picture.whole, 0);
+        m_lastRead.setPts(picture.pts);
         m_lastReadIndex = index;
     }
     return m_lastRead;
@@ -188,22 +202,42 @@ HRCompactFrameCache::TileMap HRCompactFrameCache::lastMap() const
 
 HRVideoFrame HRCompactFrameCache::assemble(const Picture &picture)
 {
-    HRVideoFrame frame(picture.whole, 0);
-    if (picture.tiles)
-        frame = HRVideoFrame(picture.size.width(), picture.size.height(), picture.format, 0);
-    frame.setPts(picture.pts);
-    if (!picture.tiles || frame.isNull())
-        return frame;
+    Buffer buffer = takeBuffer(picture);
+    if (buffer.frame.isNull())
+        return HRVideoFrame();
     const TileGrid grid(picture.size);
     const TileMap &tiles = *picture.tiles;
-    uchar *bits = frame.bits();
+    auto *target = reinterpret_cast<QRgb *>(buffer.frame.bits());
+    const int targetStride = buffer.frame.bytesPerLine() / int(sizeof(QRgb));
     for (int i = 0; i < grid.count();) {
+        if (buffer.tiles && (*buffer.tiles)[i].pixels == tiles[i].pixels) {
+            ++i;
+            continue;
+        }
         const int run = runOfTiles(tiles, i, grid.columns());
         const QRect area = grid.tile(i) | grid.tile(i + run - 1);
-        copyIn(tiles[i].pixels, tiles[i].stride, area, bits, frame.bytesPerLine());
+        copyIn(tiles[i].pixels, tiles[i].stride, area, target, targetStride);
         i += run;
     }
-    return frame;
+    buffer.tiles = picture.tiles;
+    m_buffers[0] = m_buffers[1];
+    m_buffers[1] = buffer;
+    return buffer.frame;
+}
+
+/// What to write a picture to: the one before the last that was put together, if nobody holds it
+/// any more. Memory that is new to the process costs more than all the copying, and most tiles of
+/// the picture are there already.
+HRCompactFrameCache::Buffer HRCompactFrameCache::takeBuffer(const Picture &picture)
+{
+    Buffer buffer;
+    std::swap(buffer, m_buffers[0]);
+    const HRVideoFrame &frame = buffer.frame;
+    if (frame.size() != picture.size || frame.format() != picture.format || !frame.isDetached())
+        return { HRVideoFrame(picture.size.width(), picture.size.height(), picture.format, 0), {} };
+    // Counting up and down joins this thread with the one that let go last; asking does not.
+    const HRVideoFrame counted = frame;
+    return buffer;
 }
 
 /// The number of tiles from @p first on that lie side by side in a whole picture, as in the map's.

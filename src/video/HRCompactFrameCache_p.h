@@ -48,18 +48,27 @@ private:
         std::unique_ptr<QRgb[]> store; // of the tiles that changed with this picture
     };
 
+    /// A picture that was put together from tiles, and from which.
+    struct Buffer
+    {
+        HRVideoFrame frame;
+        std::shared_ptr<const TileMap> tiles; // null while it holds no picture
+    };
+
     bool store(const QImage &image, Picture *picture) const;
     bool storeTiles(const QImage &image, const std::vector<bool> &changed, size_t pixelCount,
         Picture *picture) const;
     std::vector<bool> changedTiles(const QImage &image) const;
     TileMap lastMap() const;
-    static HRVideoFrame assemble(const Picture &picture);
+    HRVideoFrame assemble(const Picture &picture);
+    Buffer takeBuffer(const Picture &picture);
     static int runOfTiles(const TileMap &tiles, int first, int columns);
 
     std::vector<Picture> m_pictures;
     QImage m_lastAdded;
     HRVideoFrame m_lastRead;
     size_t m_lastReadIndex = 0;
+    Buffer m_buffers[2]; // of the last pictures that were put together, the older first
 };
 
 } // namespace Hintreels

@@ -39,13 +39,12 @@ struct HRVideoControllerPrivate
     bool isFrameAvailable(quint64 index) const;
     quint64 frameCount() const;
     HRVideoFrame frame(quint64 index) const;
-    HRPacing pacingLocked() const;
     bool isSleepOverLocked() const;
 
     HRVideoSource *source = nullptr;
     quint64 displayedIndex = 0;
     std::atomic<quint64> position{ 0 }; // written under the lock, read without
-    // Guards every field but source and wakeup. The source's locks are taken while it is held,
+    // Guards every field but source, due and wakeup. The source's locks are taken while it is held,
     // never the other way round.
     HRMutex controllerMutex;
     bool shouldQuit = false;
@@ -53,6 +52,7 @@ struct HRVideoControllerPrivate
     bool scrubbing = false;
     QDateTime lastFrameDisplayTime;
     HRVideoController::State state = HRVideoController::controllerPaused;
+    std::chrono::steady_clock::time_point due; // of the next picture; the controller's thread only
     // Rung by every request, and by the source at the first picture of a clip.
     std::shared_ptr<HRWakeup> wakeup = std::make_shared<HRWakeup>();
 };
@@ -99,12 +99,6 @@ HRVideoFrame HRVideoControllerPrivate::frame(quint64 index) const
 {
     // Compared before it is narrowed.
     return isFrameAvailable(index) ? source->getFrame(unsigned(index)) : HRVideoFrame();
-}
-
-HRPacing HRVideoControllerPrivate::pacingLocked() const
-{
-    return { displayedIndex, position, source->frameRate(), lastFrameDisplayTime,
-        QDateTime::currentDateTime() };
 }
 
 bool HRVideoControllerPrivate::isSleepOverLocked() const
@@ -374,7 +368,8 @@ void HRVideoController::presentFrame()
         const HRMutexLocker lock(d->controllerMutex);
         playing = d->state == controllerPlaying;
         const quint64 count = d->frameCount();
-        pacing = d->pacingLocked();
+        pacing.displayed = d->displayedIndex;
+        pacing.position = d->position;
         if (playing && pacing.displayed == pacing.position && pacing.displayed >= count)
             return;
         advances = playing && pacing.position < count;
@@ -384,20 +379,33 @@ void HRVideoController::presentFrame()
     }
     if (!playing || advances)
         Q_EMIT displayFrame();
-    if (advances) {
+    if (advances)
         Q_EMIT positionChanged();
-        setLastFrameDisplayTime(QDateTime::currentDateTime());
-    }
     if (playing)
-        sleepUntilNextFrame(pacing.delay());
+        pace(&pacing, advances);
+}
+
+void HRVideoController::pace(HRPacing *pacing, bool advanced)
+{
+    pacing->frameRate = d->source->frameRate();
+    pacing->last = lastFrameDisplayTime();
+    pacing->now = QDateTime::currentDateTime();
+    if (advanced)
+        setLastFrameDisplayTime(pacing->now);
+    sleepUntilNextFrame(pacing->delay());
 }
 
 void HRVideoController::sleepUntilNextFrame(int milliseconds)
 {
+    using Clock = std::chrono::steady_clock;
+    const std::chrono::milliseconds delay(milliseconds);
+    const Clock::time_point now = Clock::now();
+    // Counted from when this picture was due, so that small delays do not add up over a clip.
+    const bool isNearlyDue = d->due <= now && now - d->due < delay;
+    d->due = (isNearlyDue ? d->due : now) + delay;
     // A request ends the sleep early, or a clip with one picture in a quarter of an hour would
     // neither stop nor move until then.
-    const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
-    while (d->wakeup->waitUntil(end)) {
+    while (d->wakeup->waitUntil(d->due)) {
         const HRMutexLocker lock(d->controllerMutex);
         if (d->isSleepOverLocked())
             return;

@@ -15,6 +15,7 @@
 namespace Hintreels {
 
 class HRVideoSource;
+struct HRPacing;
 struct HRVideoControllerPrivate;
 
 /// A thread that plays a clip out of its source's cache at the clip's own rate.
@@ -114,6 +115,7 @@ protected:
 
 private:
     void presentFrame();
+    void pace(HRPacing *pacing, bool advanced);
     void sleepUntilNextFrame(int milliseconds);
 
     std::unique_ptr<HRVideoControllerPrivate> d;
