@@ -26,6 +26,12 @@ void registerRun(const std::string &name, const Measure &measure, int repetition
         ->Unit(benchmark::kMillisecond);
 }
 
+double value(std::vector<double> values, Statistic statistic)
+{
+    std::sort(values.begin(), values.end());
+    return statistic == Statistic::least ? values.front() : values[values.size() / 2];
+}
+
 std::string formatted(const char *format, double value)
 {
     char text[64];
@@ -47,7 +53,8 @@ void RatioTable::add(const Figure &figure)
     const std::string ours = runName(figure.name, figure.files, "ours");
     registerRun(baseline, figure.baseline, figure.repetitions);
     registerRun(ours, figure.ours, figure.repetitions);
-    m_lines.push_back({ figure.name, figure.files, baseline, ours, figure.bar, false });
+    m_lines.push_back(
+        { figure.name, figure.files, baseline, ours, figure.bar, false, figure.statistic });
 }
 
 void RatioTable::addGrowth(const std::string &name, double bar)
@@ -61,7 +68,7 @@ void RatioTable::addGrowth(const std::string &name, double bar)
         most = std::max(most, line.files);
     }
     m_lines.push_back({ name + ", growth", most, runName(name, least, "ours"),
-        runName(name, most, "ours"), bar, true });
+        runName(name, most, "ours"), bar, true, Statistic::least });
 }
 
 void RatioTable::ReportRuns(const std::vector<Run> &runs)
@@ -70,9 +77,7 @@ void RatioTable::ReportRuns(const std::vector<Run> &runs)
         if (run.run_type != Run::RT_Iteration)
             continue;
         const std::string name = run.run_name.function_name;
-        const double value = run.real_accumulated_time / double(run.iterations);
-        const auto known = m_least.find(name);
-        m_least[name] = known == m_least.end() ? value : std::min(known->second, value);
+        m_values[name].push_back(run.real_accumulated_time / double(run.iterations));
     }
 }
 
@@ -121,10 +126,11 @@ void RatioTable::printMissed(std::ostream &stream) const
 
 RatioTable::Result RatioTable::result(const Line &line) const
 {
-    return { m_least.at(line.baselineRun), m_least.at(line.oursRun) };
+    return { value(m_values.at(line.baselineRun), line.statistic),
+        value(m_values.at(line.oursRun), line.statistic) };
 }
 
 bool RatioTable::isMeasured(const Line &line) const
 {
-    return m_least.count(line.baselineRun) > 0 && m_least.count(line.oursRun) > 0;
+    return m_values.count(line.baselineRun) > 0 && m_values.count(line.oursRun) > 0;
 }

@@ -14,8 +14,14 @@
 /// Takes one measurement: seconds or, for a figure of memory, bytes.
 using Measure = std::function<double()>;
 
-/// What one line of the table compares. Each measurement is repeated, all of them in random order,
-/// and the least value counts: whatever else runs on the machine only ever adds.
+/// Which of repeated measurements counts.
+enum class Statistic
+{
+    least, // since whatever else runs on the machine only ever adds
+    median // where what is measured varies by itself, as with a window system
+};
+
+/// What one line of the table compares. Each measurement is repeated, all of them in random order.
 struct Figure
 {
     std::string name;
@@ -24,6 +30,7 @@ struct Figure
     Measure baseline;
     Measure ours;
     int repetitions = 10;
+    Statistic statistic = Statistic::least;
 };
 
 /// Collects the measurements of figures while Google Benchmark runs, and prints the ratios.
@@ -53,6 +60,7 @@ private:
         std::string oursRun;
         double bar;
         bool isGrowth;
+        Statistic statistic;
     };
     struct Result
     {
@@ -65,5 +73,5 @@ private:
     bool isMeasured(const Line &line) const;
 
     std::vector<Line> m_lines;
-    std::map<std::string, double> m_least; // by run
+    std::map<std::string, std::vector<double>> m_values; // by run
 };

@@ -3,8 +3,10 @@
 
 #include "Figures.h"
 #include "RatioTable.h"
+#include "popup/PopupFigures.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QQuickWindow>
 
 #include <fstream>
 #include <iostream>
@@ -28,7 +30,10 @@ constexpr const char *GrowingFigures[] = { "HRIndex: key that nobody has",
 /// Measures all figures and prints their ratios; one argument names the file for them as JSON.
 int main(int argc, char **argv)
 {
-    const QCoreApplication application(argc, argv);
+    QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
+    const QApplication application(argc, argv);
+    if (measureFirstPopup())
+        return 0;
     benchmark::Initialize(&argc, argv);
     RatioTable table;
     for (const int files : Sizes) {
@@ -38,8 +43,10 @@ int main(int argc, char **argv)
     for (const char *figure : GrowingFigures)
         table.addGrowth(figure, MostGrowth);
     addTextFigures(table);
+    addPopupFigures(table);
     benchmark::RunSpecifiedBenchmarks(&table);
     dropDatabases();
+    dropPopups();
     table.printTable(std::cout);
     if (argc > 1) {
         std::ofstream json(argv[1]);

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "popup/BareView.h"
+
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+
+QVariantMap StandInReader::read(QObject *element) const
+{
+    const auto *content = qobject_cast<const StandInElement *>(element);
+    return content ? content->values() : QVariantMap();
+}
+
+QVariantList StandInReader::keyCaps(const QString &shortcut) const
+{
+    return { QVariant(shortcut.split('+', Qt::SkipEmptyParts)) };
+}
+
+QVariantList StandInReader::showMarkdown(
+    QQuickTextDocument *document, const QString &markdown, const QVariantMap &look) const
+{
+    document->textDocument()->setMarkdown(markdown);
+    QTextBlockFormat format;
+    format.setTopMargin(0);
+    format.setBottomMargin(0);
+    format.setLineHeight(120, QTextBlockFormat::ProportionalHeight);
+    document->textDocument()->setIndentWidth(look.value("spacing").toReal());
+    QTextCursor cursor(document->textDocument());
+    cursor.select(QTextCursor::Document);
+    cursor.mergeBlockFormat(format);
+    return {};
+}
+
+BareView::BareView()
+{
+    m_window.setFlags(Qt::ToolTip | Qt::FramelessWindowHint);
+    m_window.setResizeMode(QQuickView::SizeViewToRootObject);
+    m_window.rootContext()->setContextProperty("hintreelView", &m_view);
+    m_window.rootContext()->setContextProperty("hintreelReader", &m_reader);
+}
+
+void BareView::show(const PopupContent &content, const QPoint &position)
+{
+    auto element = std::make_unique<StandInElement>(content.values());
+    m_window.rootContext()->setContextProperty("hintreel", element.get());
+    m_element = std::move(element);
+    if (m_window.source().isEmpty())
+        m_window.setSource(
+            QUrl::fromLocalFile(HINTREELS_PACKAGES "/Standard.hintreels/ui/HintreelUI.qml"));
+    m_window.setPosition(position);
+    m_window.show();
+}
