@@ -27,7 +27,8 @@ struct DecodedText
 HRFFmpegHandle<AVFormatContext> openWebVtt(const QString &path)
 {
     const QFileInfo file(path);
-    if (!file.isFile() || file.size() > largestFile)
+    // Files of the kernel have no size, and some block whoever reads them.
+    if (!file.isFile() || file.size() == 0 || file.size() > largestFile)
         return {};
     AVFormatContext *input = avformat_alloc_context();
     if (!input)

@@ -24,6 +24,11 @@ constexpr char singleFileFormats[]
       "swf,filmstrip,qcp,wav,w64,aiff,au,caf,flac,mp3,aac,ac3,eac3,dts,tta,wv,ape,amr,amrnb,amrwb,"
       "mpc,mpc8,tak,voc,oma,spdif,truehd,mlp";
 
+// Formats without packets of their own are read until a picture is complete: in a file of zeros
+// without end, and what is collected is then gone through at once, deaf to being asked to stop. No
+// picture of a clip takes as much as this.
+constexpr qint64 longestRead = 64'000'000; // bytes
+
 } // namespace
 
 double quotient(AVRational ratio)
@@ -39,8 +44,10 @@ HRMediaDemuxer::HRMediaDemuxer(ShouldStop shouldStop)
 bool HRMediaDemuxer::open(const QString &path)
 {
     close();
-    // A pipe would block until somebody writes to it.
-    if (!QFileInfo(path).isFile())
+    // A pipe would block until somebody writes to it, and so do files of the kernel, which are
+    // regular and have no size.
+    const QFileInfo file(path);
+    if (!file.isFile() || file.size() == 0)
         return false;
     AVFormatContext *input = avformat_alloc_context();
     if (!input)
@@ -58,6 +65,7 @@ bool HRMediaDemuxer::open(const QString &path)
 
 bool HRMediaDemuxer::findStreams()
 {
+    startReading();
     return avformat_find_stream_info(m_input.get(), nullptr) >= 0;
 }
 
@@ -73,6 +81,7 @@ bool HRMediaDemuxer::chooseVideoStream()
 bool HRMediaDemuxer::readPacket(AVPacket *packet)
 {
     while (!m_shouldStop()) {
+        startReading();
         if (av_read_frame(m_input.get(), packet) < 0)
             return false;
         if (packet->stream_index == m_stream->index)
@@ -108,9 +117,20 @@ double HRMediaDemuxer::frameRate() const
     return quotient(m_stream->r_frame_rate);
 }
 
-int HRMediaDemuxer::interrupt(void *demuxer)
+void HRMediaDemuxer::startReading()
 {
-    return static_cast<HRMediaDemuxer *>(demuxer)->m_shouldStop() ? 1 : 0;
+    m_readBefore = m_input->pb->bytes_read;
+}
+
+bool HRMediaDemuxer::readsTooMuch() const
+{
+    return m_input && m_input->pb->bytes_read - m_readBefore > longestRead;
+}
+
+int HRMediaDemuxer::interrupt(void *opaque)
+{
+    const auto *demuxer = static_cast<HRMediaDemuxer *>(opaque);
+    return demuxer->m_shouldStop() || demuxer->readsTooMuch() ? 1 : 0;
 }
 
 } // namespace Hintreels

@@ -47,12 +47,15 @@ public:
     double frameRate() const;
 
 private:
-    static int interrupt(void *demuxer);
+    void startReading();
+    bool readsTooMuch() const;
+    static int interrupt(void *opaque);
 
     ShouldStop m_shouldStop;
     HRFFmpegHandle<AVFormatContext> m_input;
     const AVStream *m_stream = nullptr;
     const AVCodec *m_decoder = nullptr;
+    qint64 m_readBefore = 0; // bytes, before the operation that reads now
 };
 
 /// @p ratio as a number; 0 where its denominator is 0.

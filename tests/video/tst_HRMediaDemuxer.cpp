@@ -25,6 +25,8 @@ private Q_SLOTS:
     void open_takesTheNameAsAPath_data();
     void open_takesTheNameAsAPath();
     void open_endsEarly_whenAskedToStop();
+    void readPacket_givesUp_whereNoPictureEnds();
+    void readPacket_goesOn_afterMuchWasRead();
     void chooseVideoStream_refusesSoundAlone();
     void readPacket_deliversTheChosenStreamToItsEnd();
     void seek_startsAnew();
@@ -135,6 +137,7 @@ void tst_HRMediaDemuxer::open_refusesWhatIsNoRegularFile_data()
     QTest::newRow("directory") << m_directory.path();
     QTest::newRow("pipe") << m_directory.filePath("pipe.mp4");
     QTest::newRow("device") << "/dev/zero";
+    QTest::newRow("the kernel's log, which blocks") << "/proc/kmsg";
     QTest::newRow("nothing") << QString();
     QTest::newRow("network") << "http://127.0.0.1:9/clip.mp4";
     QTest::newRow("data") << "data:video/mp4;base64,AAAA";
@@ -177,6 +180,42 @@ void tst_HRMediaDemuxer::open_endsEarly_whenAskedToStop()
 {
     HRMediaDemuxer demuxer([] { return true; });
     QVERIFY(!demuxer.open(m_clip) || !demuxer.findStreams() || packetCount(&demuxer) == 0);
+}
+
+void tst_HRMediaDemuxer::readPacket_givesUp_whereNoPictureEnds()
+{
+    TestClip clip;
+    clip.pictures = 60;
+    QFile encoded(clip.write(m_directory.filePath("encoded.h264")));
+    QVERIFY(encoded.open(QIODevice::ReadOnly));
+    const QByteArray content = encoded.readAll();
+    QFile file(write("gap.h264", content));
+    QVERIFY(file.resize(200'000'000)); // zeros that take no room on the disk
+    QVERIFY(file.open(QIODevice::Append));
+    QCOMPARE(file.write(content), qint64(content.size()));
+    file.close();
+
+    HRMediaDemuxer demuxer(neverStop);
+    QVERIFY(demuxer.open(file.fileName()));
+    QVERIFY(demuxer.findStreams());
+    QVERIFY(demuxer.chooseVideoStream());
+    QCOMPARE(packetCount(&demuxer), clip.pictures);
+}
+
+void tst_HRMediaDemuxer::readPacket_goesOn_afterMuchWasRead()
+{
+    TestClip raw;
+    raw.codec = "rawvideo";
+    raw.options = "";
+    raw.size = QSize(2400, 1600);
+    raw.pictures = 16;
+    const QString path = raw.write(m_directory.filePath("raw.nut"));
+    QVERIFY(QFileInfo(path).size() > 70'000'000);
+    HRMediaDemuxer demuxer(neverStop);
+    QVERIFY(demuxer.open(path));
+    QVERIFY(demuxer.findStreams());
+    QVERIFY(demuxer.chooseVideoStream());
+    QCOMPARE(packetCount(&demuxer), raw.pictures);
 }
 
 void tst_HRMediaDemuxer::chooseVideoStream_refusesSoundAlone()
