@@ -104,7 +104,8 @@ start_display() {
     step "start Xvfb and openbox"
     make_temporary_directory
     local number_file=$temporary_directory/display
-    Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$number_file" \
+    # Without -noreset it starts anew when the first look at it has ended, and refuses openbox.
+    Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp -noreset 3>"$number_file" \
         2>"$temporary_directory/xvfb.log" &
     started_processes+=($!)
     wait_until 10 test -s "$number_file" || fail "Xvfb did not start: $(cat "$temporary_directory/xvfb.log")"
