@@ -222,8 +222,10 @@ bool HRVideoSourceFFMPEG::decodeNextFrame()
     HRVideoFrame picture;
     {
         const HRMutexLocker lock(d->decoderMutex);
-        if (!d->clip.isOpen())
+        if (!d->clip.isOpen()) {
+            idle();
             return false;
+        }
         picture = d->clip.readPicture();
         if (picture.isNull()) {
             d->clip.rewind();
@@ -233,11 +235,21 @@ bool HRVideoSourceFFMPEG::decodeNextFrame()
             d->publishProgress(picture.pts());
         }
     }
-    if (!picture.isNull())
+    if (!picture.isNull()) {
         pushFrame(picture);
-    else if (!shouldQuit())
+        return true;
+    }
+    if (!shouldQuit())
         notifyStreamEnded();
-    return !picture.isNull();
+    idle();
+    return false;
+}
+
+// Whoever finds nothing to decode asks for it, and so does the loop; actionChanged() tells of each.
+void HRVideoSourceFFMPEG::idle()
+{
+    if (action() != idleAction)
+        setAction(idleAction);
 }
 
 void HRVideoSourceFFMPEG::seekToStart()

@@ -54,6 +54,7 @@ private:
     bool openMedia();
     void releaseMedia();
     bool decodeNextFrame();
+    void idle();
     void seekToStart();
 
     std::unique_ptr<HRVideoSourceFFMPEGPrivate> d;

@@ -26,6 +26,8 @@ private Q_SLOTS:
     void clip_isDecodedWholeAndClosed();
     void clip_isDecodedAgain_afterAnother();
     void clip_knowsItsFacts_whileItIsOpen();
+    void thread_tellsEachAction_data();
+    void thread_tellsEachAction();
     void failure_leavesOneMessageAndIdles_data();
     void failure_leavesOneMessageAndIdles();
     void emptySource_closesInSilence();
@@ -163,6 +165,32 @@ void tst_HRVideoSourceFFMPEG::clip_knowsItsFacts_whileItIsOpen()
     source.close();
     QVERIFY(!source.isOpen());
     QCOMPARE(source.frameWidth(), 200.0);
+}
+
+void tst_HRVideoSourceFFMPEG::thread_tellsEachAction_data()
+{
+    QTest::addColumn<QUrl>("url");
+    QTest::addColumn<QVector<int>>("actions");
+    QTest::newRow("clip") << m_clip << QVector<int>{ 1, 4, 4, 5, 5 };
+    QTest::newRow("no clip") << QUrl("file:///missing.mp4") << QVector<int>{ 1, 4, 5, 5, 5 };
+}
+
+void tst_HRVideoSourceFFMPEG::thread_tellsEachAction()
+{
+    QFETCH(QUrl, url);
+    MessageGuard messages;
+    QVector<int> actions; // of the source's thread, until that has ended
+    HRVideoSourceFFMPEG source;
+    connect(
+        &source, &HRVideoSource::actionChanged, this, [&] { actions.append(source.action()); },
+        Qt::DirectConnection);
+    SignalCounter told(&source, &HRVideoSource::actionChanged);
+    QVERIFY(source.setSource(url));
+    source.start();
+    QTRY_COMPARE(told.count(), 5);
+    source.quit();
+    QTEST(actions, "actions");
+    messages.takeMessages();
 }
 
 void tst_HRVideoSourceFFMPEG::failure_leavesOneMessageAndIdles_data()
