@@ -30,7 +30,7 @@ void tst_HRPointerWatch::watch_tellsOnce_whenPointerMoved()
 {
     QVector<QPoint> moves;
     HRPointerWatch watch([&](const QPoint &position) { moves.append(position); });
-    watch.start();
+    watch.start(QCursor::pos());
     QCursor::setPos(50, 60);
     QTRY_COMPARE(moves, QVector<QPoint>{ QPoint(50, 60) });
     QTest::qWait(twoLooks);
@@ -41,7 +41,7 @@ void tst_HRPointerWatch::watch_isSilent_whilePointerRests()
 {
     QVector<QPoint> moves;
     HRPointerWatch watch([&](const QPoint &position) { moves.append(position); });
-    watch.start();
+    watch.start(QCursor::pos());
     QTest::qWait(twoLooks);
     QVERIFY(moves.isEmpty());
 }
@@ -50,14 +50,14 @@ void tst_HRPointerWatch::watch_isSilent_whenStopped()
 {
     QVector<QPoint> moves;
     HRPointerWatch watch([&](const QPoint &position) { moves.append(position); });
-    watch.start();
+    watch.start(QCursor::pos());
     watch.stop();
     QCursor::setPos(50, 60);
     QTest::qWait(twoLooks);
     QVERIFY(moves.isEmpty());
 
     // What happened while it was stopped stays untold.
-    watch.start();
+    watch.start(QCursor::pos());
     QTest::qWait(twoLooks);
     QVERIFY(moves.isEmpty());
 }
@@ -65,7 +65,7 @@ void tst_HRPointerWatch::watch_isSilent_whenStopped()
 void tst_HRPointerWatch::watch_hasNoTimerObject()
 {
     HRPointerWatch watch([](const QPoint &) {});
-    watch.start();
+    watch.start(QCursor::pos());
     QVERIFY(watch.children().isEmpty());
 }
 
