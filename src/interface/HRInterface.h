@@ -64,6 +64,9 @@ public:
 
     /// Receives the library's messages up to the level messageLevelKey; the default writes them to
     /// Qt's debug output.
+    ///
+    /// Messages of type messageDebug may come from the midst of a popup's scene: there, a popup or
+    /// its view may be hidden or deleted later, but not at once.
     virtual void handleMessage(HRMessageType type, const QString &message);
 
     /// Translates a text of the UI; the default looks into the package's translation file.
