@@ -26,6 +26,8 @@ void tst_HRClipSize::clipSize_isThatOfItsPictures_data()
 
     QTest::newRow("MP4") << "clip.mp4";
     QTest::newRow("Matroska") << "clip.mkv";
+    QTest::newRow("Flash, whose header names no streams") << "clip.flv";
+    QTest::newRow("transport stream without a header") << "clip.ts";
 }
 
 void tst_HRClipSize::clipSize_isThatOfItsPictures()
