@@ -98,6 +98,23 @@ HRFileStamp withoutDevice(HRFileStamp stamp)
     return stamp;
 }
 
+// Qt's conversions want memory even for no numbers, and a file without keys has none.
+
+void decodeKeys(std::string_view bytes, std::vector<quint32> &keys)
+{
+    keys.resize(bytes.size() / sizeof(quint32));
+    if (!keys.empty())
+        qFromLittleEndian<quint32>(bytes.data(), qsizetype(keys.size()), keys.data());
+}
+
+QByteArray encodeKeys(const std::vector<quint32> &keys)
+{
+    QByteArray bytes(int(keys.size() * sizeof(quint32)), Qt::Uninitialized);
+    if (!keys.empty())
+        qToLittleEndian<quint32>(keys.data(), qsizetype(keys.size()), bytes.data());
+    return bytes;
+}
+
 void decodeFile(std::string_view entry, HRStoredFile &file)
 {
     const EntryHead head = headOf(entry);
@@ -107,16 +124,13 @@ void decodeFile(std::string_view entry, HRStoredFile &file)
     file.reading.mayHoldAnything = head.flags & MayHoldAnything;
     file.reading.servesAllLocales = head.flags & ServesAllLocales;
     setLocale(file.reading, locale);
-    file.reading.keys.resize(head.keyCount);
-    qFromLittleEndian<quint32>(
-        locale.data() + locale.size(), head.keyCount, file.reading.keys.data());
+    decodeKeys(entry.substr(sizeof head + head.nameLength + head.localeLength), file.reading.keys);
 }
 
 QByteArray encodeFile(std::string_view name, const HRStoredFile &file)
 {
     const HRControlReading &reading = file.reading;
-    QByteArray keys(int(reading.keys.size() * sizeof(quint32)), Qt::Uninitialized);
-    qToLittleEndian<quint32>(reading.keys.data(), qsizetype(reading.keys.size()), keys.data());
+    const QByteArray keys = encodeKeys(reading.keys);
     EntryHead head;
     head.length = quint32(
         sizeof head + name.size() + size_t(reading.localeName.size()) + size_t(keys.size()));
