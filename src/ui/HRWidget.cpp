@@ -59,6 +59,7 @@ struct HRWidgetPrivate
     void setContextProperties(HRXmlElement *content, const QString &rootPath);
     void followReferenceWindow();
     void keepTimeFor(const QPoint &pointer);
+    void followStayOpen();
     void endFadeIn();
     void stopHiding();
     void becomeOrdinaryWindow();
@@ -118,6 +119,13 @@ void HRWidgetPrivate::keepTimeFor(const QPoint &pointer)
         timer->stop();
     else
         q->setTimer();
+}
+
+/// The time may run already when the reader asks the popup to stay: the pointer is quick to leave.
+void HRWidgetPrivate::followStayOpen()
+{
+    if (q->isVisible() && view->stayOpen() == timer->isActive())
+        keepTimeFor(QCursor::pos());
 }
 
 /// A time-out during the fade-in hid nothing: it counts from here.
@@ -210,6 +218,7 @@ void HRWidget::setView(HRView *view)
         return;
     connect(view, &HRView::reservedChanged, this, &HRWidget::contentReservedChanged);
     connect(view, &HRView::contentSizeChanged, this, &HRWidget::contentResized);
+    connect(view, &HRView::stayOpenChanged, this, [this] { d->followStayOpen(); });
     connect(view, &QQuickWindow::frameSwapped, this, [this] { setUpdatesEnabled(true); });
     // A press inside a popup leaves the keyboard focus where it is.
     view->setFlag(Qt::WindowDoesNotAcceptFocus, !d->detached);

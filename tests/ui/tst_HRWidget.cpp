@@ -121,6 +121,7 @@ private Q_SLOTS:
     void timer_stops_whenPointerIsOverReference();
     void timer_doesNotRun_data();
     void timer_doesNotRun();
+    void timer_followsStayOpen();
     void timer_hidesPopup();
     void isSafe_countsMargin_data();
     void isSafe_countsMargin();
@@ -495,6 +496,21 @@ void tst_HRWidget::timer_doesNotRun()
     f.host->context().set(hideDelayKey, delay);
     f.popup->view()->setStayOpen(stayOpen);
     f.popup->setTimer();
+    QVERIFY(!f.timer()->isActive());
+}
+
+void tst_HRWidget::timer_followsStayOpen()
+{
+    Fixture f;
+    f.show();
+    QVERIFY(f.timer()->isActive());
+    f.popup->view()->setStayOpen(true);
+    QVERIFY(!f.timer()->isActive());
+    f.popup->view()->setStayOpen(false);
+    QVERIFY(f.timer()->isActive());
+
+    f.popup->hide();
+    f.popup->view()->setStayOpen(false);
     QVERIFY(!f.timer()->isActive());
 }
 
