@@ -4,6 +4,8 @@
 #include "support/TestClip.h"
 #include "ui/StandardUiFixture.h"
 
+#include <QAccessible>
+
 using namespace Hintreels;
 
 namespace {
@@ -52,6 +54,7 @@ private Q_SLOTS:
     void video_keepsItsAspect_whenItIsWide();
     void video_showsTheCaptionOfItsPicture();
     void video_isReachedByKeyboard_whenDetached();
+    void video_isReachedByScreenReaders_whilePlaying();
 };
 
 void tst_StandardUiClips::video_playsOnceThrough_thenOffersReplay()
@@ -205,6 +208,27 @@ void tst_StandardUiClips::video_isReachedByKeyboard_whenDetached()
     for (int i = 0; i < 4; ++i)
         QTest::keyClick(view, Qt::Key_Right);
     QVERIFY(fixture.progress() > before + 0.1);
+}
+
+void tst_StandardUiClips::video_isReachedByScreenReaders_whilePlaying()
+{
+    ClipFixture fixture("alt=\"A line\"", longClip());
+    fixture.show();
+    QTRY_VERIFY(fixture.time() > 0.1); // the button is out of sight
+
+    const auto accessible = [&](const QString &name) {
+        return QAccessible::queryAccessibleInterface(fixture.item(name));
+    };
+    for (const char *name : { "clipButton", "progressLine" }) {
+        QVERIFY(accessible(name));
+        QVERIFY(!accessible(name)->state().invisible);
+    }
+    QCOMPARE(accessible("clipButton")->text(QAccessible::Name), QString("Pause"));
+    QCOMPARE(accessible("progressLine")->text(QAccessible::Name), QString("Position in the clip"));
+    accessible("clipButton")
+        ->actionInterface()
+        ->doAction(QAccessibleActionInterface::pressAction());
+    QCOMPARE(fixture.buttonName(), QString("Play"));
 }
 
 QTEST_MAIN(tst_StandardUiClips)

@@ -18,28 +18,29 @@ Pressable {
     x: resting ? Math.round((parent.width - width) / 2) : margin
     y: resting ? Math.round((parent.height - height) / 2)
         : parent.height - height - margin - look.step
-    opacity: offered ? 1 : 0
     onTriggered: player.toggle()
 
-    Behavior on opacity {
-        enabled: !hintreelReader.reducedMotion()
-        NumberAnimation { duration: 120 }
-    }
-
+    // Out of sight and not away: a screen reader passes over what has no opacity itself.
     Rectangle {
         anchors.fill: parent
         radius: width / 2
         color: button.hovered ? "#d0000000" : "#a0000000"
-    }
+        opacity: button.offered ? 1 : 0
 
-    Icon {
-        anchors.centerIn: parent
-        width: Math.round(parent.width * 0.5)
-        height: width
-        color: "#ffffff"
-        filled: !button.player.ended
-        path: button.player.ended ? "M13 4 L13 8 L9 8 M13 8 A5.2 5.2 0 1 0 12 12"
-            : button.player.wanted ? "M4 3 L6 3 L6 13 L4 13 Z M10 3 L12 3 L12 13 L10 13 Z"
-            : "M5 3 L13 8 L5 13 Z"
+        Behavior on opacity {
+            enabled: !hintreelReader.reducedMotion()
+            NumberAnimation { duration: 120 }
+        }
+
+        Icon {
+            anchors.centerIn: parent
+            width: Math.round(parent.width * 0.5)
+            height: width
+            color: "#ffffff"
+            filled: !button.player.ended
+            path: button.player.ended ? "M13 4 L13 8 L9 8 M13 8 A5.2 5.2 0 1 0 12 12"
+                : button.player.wanted ? "M4 3 L6 3 L6 13 L4 13 Z M10 3 L12 3 L12 13 L10 13 Z"
+                : "M5 3 L13 8 L5 13 Z"
+        }
     }
 }
