@@ -225,6 +225,10 @@ void tst_StandardUiClips::video_isReachedByScreenReaders_whilePlaying()
     }
     QCOMPARE(accessible("clipButton")->text(QAccessible::Name), QString("Pause"));
     QCOMPARE(accessible("progressLine")->text(QAccessible::Name), QString("Position in the clip"));
+    QAccessibleValueInterface *position = accessible("progressLine")->valueInterface();
+    QVERIFY(position);
+    QVERIFY(position->currentValue().toReal() > 0.0);
+    QCOMPARE(position->maximumValue().toReal(), 1.0);
     accessible("clipButton")
         ->actionInterface()
         ->doAction(QAccessibleActionInterface::pressAction());

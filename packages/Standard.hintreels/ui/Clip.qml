@@ -111,18 +111,8 @@ Item {
         onTriggered: clip.time = video.pictureTime()
     }
 
-    // At the end of what is decoded more may come; where nothing came for a while, it was the end.
-    Timer {
-        property int looks: 0
-
-        interval: 100
-        repeat: true
-        running: clip.wanted && clip.onScreen
-        onTriggered: {
-            clip.goOn()
-            looks = clip.shown && !clip.isPlaying() ? looks + 1 : 0
-            if (looks === 3)
-                clip.finish()
-        }
+    ClipEnd {
+        player: clip
+        item: video
     }
 }

@@ -10,6 +10,12 @@ Item {
     property var player
     property bool emphasized: false
 
+    // What screen readers look for in a slider.
+    readonly property real value: player.progress
+    readonly property real minimumValue: 0
+    readonly property real maximumValue: 1
+    readonly property real stepSize: 0.05
+
     // Time runs from left to right on every clip.
     LayoutMirroring.enabled: false
     LayoutMirroring.childrenInherit: true
@@ -22,16 +28,16 @@ Item {
     Accessible.role: Accessible.Slider
     Accessible.name: words.position
     Accessible.focusable: hintreelView.reserved
-    Accessible.onIncreaseAction: step(0.05)
-    Accessible.onDecreaseAction: step(-0.05)
+    Accessible.onIncreaseAction: step(stepSize)
+    Accessible.onDecreaseAction: step(-stepSize)
 
     function step(fraction) {
         player.scrubTo(player.progress + fraction)
         player.endScrubbing()
     }
 
-    Keys.onLeftPressed: step(-0.05)
-    Keys.onRightPressed: step(0.05)
+    Keys.onLeftPressed: step(-stepSize)
+    Keys.onRightPressed: step(stepSize)
 
     Rectangle {
         anchors.left: parent.left
