@@ -21,8 +21,9 @@ public:
     /// Whether the calling function is still within the budget.
     bool isLeft() const
     {
-        const quintptr now = position();
-        return (now < m_start ? m_start - now : now - m_start) < m_bytes;
+        // Either way: whether a stack grows up or down is the machine's affair. The difference
+        // wraps around.
+        return position() - m_start + m_bytes < 2 * m_bytes;
     }
 
 private:

@@ -5,6 +5,7 @@
 
 #include "content/HRXmlGuard_p.h"
 
+#include <QByteArray>
 #include <QString>
 #include <QXmlInputSource>
 
@@ -19,16 +20,20 @@ public:
     /// Takes over all that is left in the source, piece by piece.
     explicit HRXmlDocument(QXmlInputSource *source);
 
+    /// Decodes a whole document as a source on a device would, many times faster.
+    explicit HRXmlDocument(const QByteArray &bytes);
+
     HRXmlGuard &guard() { return m_guard; }
 
     QChar next() override;
 
     /// What the reader has not taken yet.
-    QStringRef unread() const { return m_text.midRef(m_position); }
+    QStringRef unread() const { return m_text.midRef(int(m_next - m_text.cbegin())); }
 
 private:
-    QString m_text;
-    int m_position = 0;
+    const QString m_text;
+    const QChar *m_next; // both into m_text
+    const QChar *const m_end;
     HRXmlGuard m_guard;
 };
 

@@ -34,9 +34,9 @@ HRXmlGuard::HRXmlGuard(int documentSize)
 {
 }
 
-bool HRXmlGuard::allowsNesting()
+bool HRXmlGuard::refuseNesting()
 {
-    return refuseUnless(m_stack.isLeft(), nestingReason);
+    return refuseUnless(false, nestingReason);
 }
 
 bool HRXmlGuard::allowsElement()

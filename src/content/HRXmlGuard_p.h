@@ -23,8 +23,9 @@ public:
     /// @param documentSize the size of the document in UTF-16 code units
     explicit HRXmlGuard(int documentSize);
 
-    /// Whether the reader may recurse once more.
-    bool allowsNesting();
+    /// Whether the reader may recurse once more. Asked for each character, so it costs a
+    /// comparison.
+    bool allowsNesting() { return m_stack.isLeft() || refuseNesting(); }
 
     /// Whether one more element may become an object.
     bool allowsElement();
@@ -44,6 +45,7 @@ public:
     QString refusal() const { return m_refusal; }
 
 private:
+    bool refuseNesting();
     bool refuseUnless(bool isAllowed, const char *reason);
 
     HRStackBudget m_stack;

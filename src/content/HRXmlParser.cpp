@@ -3,15 +3,18 @@
 
 #include "content/HRXmlParser.h"
 
+#include "content/HRElementClass_p.h"
 #include "content/HRXmlDocument_p.h"
 #include "content/HRXmlElement.h"
 
 #include <QDebug>
 #include <QMap>
-#include <QMetaMethod>
 #include <QMetaProperty>
 #include <QPointer>
 #include <QVector>
+
+#include <map>
+#include <utility>
 
 namespace Hintreels {
 
@@ -27,6 +30,7 @@ const int skipMode = 8;
 struct OpenElement
 {
     QPointer<QObject> object; // null where the element makes none
+    const HRElementClass *elementClass; // of the object
     int mode; // that of its children
 };
 
@@ -57,33 +61,25 @@ bool writeProperties(
     return true;
 }
 
-void writeIfPresent(
-    QObject *object, const QMetaObject &metaObject, const char *property, const QString &value)
+void logMissingClass(const QString &localName)
 {
-    const int index = metaObject.indexOfProperty(property);
-    if (index >= 0)
-        metaObject.property(index).write(object, value);
+    qDebug().noquote() << QStringLiteral("Could not find object for element: %1").arg(localName);
 }
 
 /// Makes an object of the class, or logs why there is none. A class that takes the attributes
 /// itself gets them; of others the properties are written.
-QObject *makeObject(const QMetaObject *metaObject, QObject *parent, const QString &localName,
+QObject *makeObject(const HRElementClass &elementClass, QObject *parent, const QString &localName,
     const QXmlAttributes &attributes)
 {
-    QObject *object = nullptr;
-    if (metaObject)
-        object
-            = metaObject->newInstance(Q_ARG(QObject *, parent), Q_ARG(QXmlAttributes, attributes));
+    QObject *object = elementClass.construct(parent, attributes);
     if (object)
         return object;
-    if (metaObject)
-        object = metaObject->newInstance(Q_ARG(QObject *, parent));
+    object = elementClass.construct(parent);
     if (!object) {
-        qDebug().noquote()
-            << QStringLiteral("Could not find object for element: %1").arg(localName);
+        logMissingClass(localName);
         return nullptr;
     }
-    if (writeProperties(object, *metaObject, attributes))
+    if (writeProperties(object, *elementClass.metaObject(), attributes))
         return object;
     delete object;
     return nullptr;
@@ -99,6 +95,7 @@ struct HRXmlParserPrivate
     void *context;
     QVector<OpenElement> stack; // the root comes first
     int mode; // of the elements read next
+    std::map<const QMetaObject *, std::unique_ptr<HRElementClass>> classes; // used until now
     std::unique_ptr<HRXmlDocument> document; // the one read last, or being read
 
     int answerFor(const QString &qName, const QXmlAttributes &attributes) const
@@ -116,22 +113,29 @@ struct HRXmlParserPrivate
         return nullptr;
     }
 
-    const QMetaObject *classFor(const QString &localName) const
+    /// Null where not even a default class is set.
+    const HRElementClass *classFor(const QString &localName)
     {
         const QMetaObject *registered = registry.value(localName);
-        return registered ? registered : defaultElement;
+        const QMetaObject *metaObject = registered ? registered : defaultElement;
+        if (!metaObject)
+            return nullptr;
+        std::unique_ptr<HRElementClass> &known = classes[metaObject];
+        if (!known)
+            known = std::make_unique<HRElementClass>(metaObject);
+        return known.get();
     }
 
-    void push(QObject *object, int childMode)
+    void push(QObject *object, const HRElementClass *elementClass, int childMode)
     {
-        stack.append({ object, childMode });
+        stack.append({ object, elementClass, childMode });
         mode = childMode;
     }
 };
 
 HRXmlParser::HRXmlParser(Filter callback, void *context)
     : d(new HRXmlParserPrivate{
-        {}, &HRXmlElement::staticMetaObject, callback, context, {}, askMode, nullptr })
+        {}, &HRXmlElement::staticMetaObject, callback, context, {}, askMode, {}, nullptr })
 {
 }
 
@@ -168,27 +172,17 @@ const QMetaObject *HRXmlParser::metaObjectForElement(const QString &localName) c
 
 QList<QObject *> HRXmlParser::read(const QXmlInputSource *source)
 {
-    d->stack.clear();
-    d->push(new HRXmlElement, askMode);
-    setContentHandler(this);
-    setErrorHandler(this);
-    watchEntities();
-    d->document = std::make_unique<HRXmlDocument>(const_cast<QXmlInputSource *>(source));
-    parse(d->document.get());
-
-    QObject *root = d->stack.first().object;
-    if (!root)
-        return {};
-    const QList<QObject *> objects = root->children();
-    for (QObject *object : objects)
-        object->setParent(nullptr);
-    delete root;
-    return objects;
+    return readDocument(std::make_unique<HRXmlDocument>(const_cast<QXmlInputSource *>(source)));
 }
 
 QList<QObject *> HRXmlParser::read(const QXmlInputSource &source)
 {
     return read(&source);
+}
+
+QList<QObject *> HRXmlParser::read(const QByteArray &document)
+{
+    return readDocument(std::make_unique<HRXmlDocument>(document));
 }
 
 bool HRXmlParser::startElement(const QString &namespaceURI, const QString &localName,
@@ -197,21 +191,24 @@ bool HRXmlParser::startElement(const QString &namespaceURI, const QString &local
     if (!d->document->guard().allowsElement())
         return false;
     if (d->mode & skipMode) {
-        d->push(nullptr, skipMode);
+        d->push(nullptr, nullptr, skipMode);
         return true;
     }
     const int answer = d->answerFor(qName, attributes);
     if (answer & dropBit) {
-        d->push(nullptr, modeOfAnswer(answer));
+        d->push(nullptr, nullptr, modeOfAnswer(answer));
         return true;
     }
-    const QMetaObject *metaObject = d->classFor(localName);
-    QObject *object = makeObject(metaObject, d->enclosingObject(), localName, attributes);
+    const HRElementClass *elementClass = d->classFor(localName);
+    if (!elementClass) {
+        logMissingClass(localName);
+        return false;
+    }
+    QObject *object = makeObject(*elementClass, d->enclosingObject(), localName, attributes);
     if (!object)
         return false;
-    writeIfPresent(object, *metaObject, "tagNameSpace", namespaceURI.trimmed());
-    writeIfPresent(object, *metaObject, "tagName", qName.trimmed());
-    d->push(object, modeOfAnswer(answer));
+    elementClass->writeTag(object, namespaceURI.trimmed(), qName.trimmed());
+    d->push(object, elementClass, modeOfAnswer(answer));
     return true;
 }
 
@@ -224,13 +221,9 @@ bool HRXmlParser::endElement(const QString &, const QString &, const QString &)
 
 bool HRXmlParser::characters(const QString &text)
 {
-    QObject *object = d->stack.last().object;
-    if (!object)
-        return true;
-    const QMetaObject *metaObject = object->metaObject();
-    const int index = metaObject->indexOfMethod("appendContent(QString)");
-    if (index >= 0)
-        metaObject->method(index).invoke(object, Qt::DirectConnection, Q_ARG(QString, text));
+    const OpenElement &element = d->stack.last();
+    if (element.object && element.elementClass)
+        element.elementClass->appendContent(element.object, text);
     return true;
 }
 
@@ -267,6 +260,26 @@ bool HRXmlParser::startEntity(const QString &name)
 bool HRXmlParser::endDTD()
 {
     return d->document->guard().allowsBody(d->document->unread());
+}
+
+QList<QObject *> HRXmlParser::readDocument(std::unique_ptr<HRXmlDocument> document)
+{
+    d->stack.clear();
+    d->push(new HRXmlElement, nullptr, askMode);
+    setContentHandler(this);
+    setErrorHandler(this);
+    watchEntities();
+    d->document = std::move(document);
+    parse(d->document.get());
+
+    QObject *root = d->stack.first().object;
+    if (!root)
+        return {};
+    const QList<QObject *> objects = root->children();
+    for (QObject *object : objects)
+        object->setParent(nullptr);
+    delete root;
+    return objects;
 }
 
 void HRXmlParser::watchEntities()

@@ -5,6 +5,7 @@
 
 #include "context/HRExport.h"
 
+#include <QByteArray>
 #include <QList>
 #include <QXmlAttributes>
 #include <QXmlDefaultHandler>
@@ -18,6 +19,7 @@ QT_WARNING_DISABLE_DEPRECATED
 
 namespace Hintreels {
 
+class HRXmlDocument;
 struct HRXmlParserPrivate;
 
 /// Builds objects from an XML document, one per element, as a filter decides.
@@ -71,6 +73,10 @@ public:
     QList<QObject *> read(const QXmlInputSource *source);
     QList<QObject *> read(const QXmlInputSource &source);
 
+    /// Reads a document that is in memory whole, which is much quicker than from a source. The
+    /// encoding is found as for a source.
+    QList<QObject *> read(const QByteArray &document);
+
 private:
     bool startElement(const QString &namespaceURI, const QString &localName, const QString &qName,
         const QXmlAttributes &attributes) override;
@@ -86,6 +92,7 @@ private:
     bool startEntity(const QString &name) override;
     bool endDTD() override;
 
+    QList<QObject *> readDocument(std::unique_ptr<HRXmlDocument> document);
     void watchEntities();
 
     std::unique_ptr<HRXmlParserPrivate> d;

@@ -10,7 +10,6 @@
 #include <QFile>
 #include <QLocale>
 #include <QPointer>
-#include <QXmlInputSource>
 
 namespace Hintreels {
 
@@ -34,7 +33,7 @@ HRControlTree::HRControlTree(const QString &filePath, HRXmlParser::Filter filter
     m_parser.registerElement(QStringLiteral("HRXmlElement"), &HRXmlElement::staticMetaObject);
     QFile file;
     if (openRegularFile(file, filePath))
-        m_objects = m_parser.read(QXmlInputSource(&file));
+        m_objects = m_parser.read(file.readAll());
 }
 
 HRControlTree::~HRControlTree()

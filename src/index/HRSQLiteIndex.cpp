@@ -7,10 +7,10 @@
 #include "context/HRContext.h"
 #include "context/HRSetting_p.h"
 #include "index/HRControlTree_p.h"
-#include "index/HRDirectoryDepth_p.h"
 #include "index/HRIndexDatabase_p.h"
 #include "index/HRIndexLookup_p.h"
 #include "index/HRIndexUpdate_p.h"
+#include "index/HRIndex_p.h"
 #include "index/HRPackageRows_p.h"
 
 #include <QDebug>
@@ -190,7 +190,7 @@ QStringList HRSQLiteIndex::keys()
 
 void HRSQLiteIndex::indexControlFile(const QString &filePath, const QString &packagePath)
 {
-    const std::optional<int> depth = levelsBelowPackage(filePath, packagePath);
+    const std::optional<int> depth = memory().depth.levels(filePath, packagePath);
     if (!depth)
         return;
     const HRControlTree tree(filePath, indexDataShouldGenerateElement, nullptr);
