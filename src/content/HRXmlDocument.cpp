@@ -3,23 +3,19 @@
 
 #include "content/HRXmlDocument_p.h"
 
-#include <algorithm>
-
 namespace Hintreels {
 
 namespace {
 
-/// Where Qt's sources say that the document ends: at their end, and at their own signs in the text.
-bool isEnd(QChar character)
+/// The text up to the first of Qt's own signs in it, where Qt's sources say that it ends.
+QString upToSign(const QString &text)
 {
-    return character == QChar(QXmlInputSource::EndOfDocument)
-        || character == QChar(QXmlInputSource::EndOfData);
-}
-
-QString upToEnd(const QString &text)
-{
-    const auto end = std::find_if(text.cbegin(), text.cend(), isEnd);
-    return text.left(int(end - text.cbegin()));
+    int end = text.size();
+    for (const ushort sign : { QXmlInputSource::EndOfDocument, QXmlInputSource::EndOfData }) {
+        const int found = text.indexOf(QChar(sign));
+        end = found < 0 ? end : qMin(found, end);
+    }
+    return text.left(end);
 }
 
 // Character by character, since no source tells how far it has been read.
@@ -46,7 +42,7 @@ HRXmlDocument::HRXmlDocument(QXmlInputSource *source)
 }
 
 HRXmlDocument::HRXmlDocument(const QByteArray &bytes)
-    : m_text(upToEnd(fromRawData(bytes, true)))
+    : m_text(upToSign(fromRawData(bytes, true)))
     , m_next(m_text.cbegin())
     , m_end(m_text.cend())
     , m_guard(m_text.size())

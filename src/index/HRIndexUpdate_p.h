@@ -27,6 +27,7 @@ public:
     bool store(const QString &key, const QString &locale, const QString &filePath, int depth);
 
 private:
+    void begin();
     void prepare(QSqlQuery &query, const char *statement, const char *message);
     int packageRow(const QString &filePath, int depth);
     int insertPackage(const QString &filePath, int depth);

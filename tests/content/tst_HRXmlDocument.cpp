@@ -17,6 +17,8 @@ private Q_SLOTS:
     void unread_shrinksWithReading();
     void constructor_takesWholeDevice();
     void constructor_takesOnlyWhatIsLeft();
+    void constructor_decodesBytesAsSourceDoes_data();
+    void constructor_decodesBytesAsSourceDoes();
     void guard_knowsSize();
 };
 
@@ -62,6 +64,31 @@ void tst_HRXmlDocument::constructor_takesOnlyWhatIsLeft()
     source.next();
     const HRXmlDocument document(&source);
     QCOMPARE(document.unread().toString(), QString("bc"));
+}
+
+void tst_HRXmlDocument::constructor_decodesBytesAsSourceDoes_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("UTF-8") << QByteArray("<a>\xC3\xA4</a>");
+    QTest::newRow("byte-order mark") << QByteArray("\xEF\xBB\xBF<a/>");
+    QTest::newRow("UTF-16") << QByteArray("\xFF\xFE<\0a\0/\0>\0", 10);
+    QTest::newRow("declared encoding")
+        << QByteArray("<?xml version='1.0' encoding='ISO-8859-1'?><a>\xE4</a>");
+    QTest::newRow("broken UTF-8") << QByteArray("<a>\xC3</a>");
+    QTest::newRow("sign for the end of the document") << QByteArray("<a>\xEF\xBF\xBF</a>");
+    QTest::newRow("sign for the end of data") << QByteArray("<a>\xEF\xBF\xBE</a>");
+    QTest::newRow("long") << QByteArray("<a>\xC3\xA4</a>").repeated(1000);
+}
+
+void tst_HRXmlDocument::constructor_decodesBytesAsSourceDoes()
+{
+    QFETCH(QByteArray, bytes);
+    QBuffer buffer(&bytes);
+    QXmlInputSource source(&buffer);
+    const HRXmlDocument fromSource(&source);
+    const HRXmlDocument fromBytes(bytes);
+    QCOMPARE(fromBytes.unread().toString(), fromSource.unread().toString());
 }
 
 void tst_HRXmlDocument::guard_knowsSize()
