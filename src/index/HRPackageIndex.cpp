@@ -44,11 +44,19 @@ struct HRPackageIndexPrivate
 {
     std::optional<HRDirectoryStore> store; // none while the database is closed
     QString directory; // the one whose files are being indexed, with its slash
+    std::optional<HRDirectoryHandle> handle; // of that directory, if there is one
     HRDirectorySnapshot snapshot; // of that directory
     bool isChanged = false; // whether the snapshot differs from the stored one
     bool willSave = false;
     bool isDamaged = false;
     bool isRebuilt = false;
+
+    /// The stamp of a file in the directory that was entered for it. A file that is named without
+    /// its directory has none to be entered.
+    std::optional<HRFileStamp> stampInDirectory(const QByteArray &nativePath) const
+    {
+        return handle ? handle->stampOfFile(fileName(nativePath).data()) : stampOfFile(nativePath);
+    }
 };
 
 HRPackageIndex::HRPackageIndex(HRContext *context, const QStringList &paths)
@@ -90,6 +98,7 @@ bool HRPackageIndex::setup()
 bool HRPackageIndex::clear()
 {
     HRIndex::clear();
+    d->handle.reset();
     d->directory.clear();
     if (d->store)
         d->store->clear();
@@ -143,12 +152,12 @@ void HRPackageIndex::indexControlFile(const QString &filePath, const QString &pa
     if (!depth)
         return;
     HRControlRecord record{ filePath, *depth, QFile::encodeName(filePath) };
-    const std::optional<HRFileStamp> stamp = stampOfFile(record.nativePath);
+    enterDirectory(filePath);
+    const std::optional<HRFileStamp> stamp = d->stampInDirectory(record.nativePath);
     if (!stamp) {
         HRIndex::indexControlFile(filePath, packagePath); // it may be a Qt resource
         return;
     }
-    enterDirectory(filePath);
     if (recall(record, *stamp) && memory().records.addFirst(std::move(record)))
         mapControlFile(QString(), packagePath);
 }
@@ -206,6 +215,7 @@ void HRPackageIndex::enterDirectory(const QString &filePath)
         return;
     leaveDirectory();
     d->directory = directory.toString();
+    d->handle.emplace(QFile::encodeName(d->directory));
     const QByteArray stored = d->store ? d->store->load(d->directory) : QByteArray();
     if (!stored.isEmpty()) {
         std::optional<HRDirectorySnapshot> snapshot = HRDirectorySnapshot::decoded(stored);
@@ -230,6 +240,7 @@ void HRPackageIndex::leaveDirectory()
     if (d->store && d->isChanged)
         d->store->save(d->directory, d->snapshot.encoded());
     d->snapshot = HRDirectorySnapshot();
+    d->handle.reset();
     d->directory.clear();
     d->isChanged = false;
 }

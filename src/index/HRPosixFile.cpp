@@ -38,6 +38,14 @@ HRFileStamp stampOf(const struct stat &status)
         nanoseconds(status.st_ctim) };
 }
 
+std::optional<HRFileStamp> stampAt(int directory, const char *path)
+{
+    struct stat status;
+    if (::fstatat(directory, path, &status, 0) != 0 || !S_ISREG(status.st_mode))
+        return std::nullopt;
+    return stampOf(status);
+}
+
 // Not blocking means that a named pipe, too, is opened at once, and then found out.
 int openForReading(const QByteArray &path)
 {
@@ -179,10 +187,23 @@ QStringList readableFileNames(const QString &directory, const QString &suffix)
 
 std::optional<HRFileStamp> stampOfFile(const QByteArray &path)
 {
-    struct stat status;
-    if (::stat(path.constData(), &status) != 0 || !S_ISREG(status.st_mode))
-        return std::nullopt;
-    return stampOf(status);
+    return stampAt(AT_FDCWD, path.constData());
+}
+
+HRDirectoryHandle::HRDirectoryHandle(const QByteArray &path)
+    : m_descriptor(::open(path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+{
+}
+
+HRDirectoryHandle::~HRDirectoryHandle()
+{
+    if (m_descriptor >= 0)
+        ::close(m_descriptor);
+}
+
+std::optional<HRFileStamp> HRDirectoryHandle::stampOfFile(const char *name) const
+{
+    return m_descriptor >= 0 ? stampAt(m_descriptor, name) : std::nullopt;
 }
 
 bool takeOwnFile(const QString &path)

@@ -57,6 +57,22 @@ QStringList readableFileNames(const QString &directory, const QString &suffix);
 /// @param path as QFile::encodeName() spells it
 std::optional<HRFileStamp> stampOfFile(const QByteArray &path);
 
+/// A directory held open, in which files are found by name; this is quicker than by whole paths.
+class HRDirectoryHandle
+{
+public:
+    /// @param path as QFile::encodeName() spells it
+    explicit HRDirectoryHandle(const QByteArray &path);
+    ~HRDirectoryHandle();
+    Q_DISABLE_COPY(HRDirectoryHandle)
+
+    /// As stampOfFile(), for a file in the directory; nothing where the directory did not open.
+    std::optional<HRFileStamp> stampOfFile(const char *name) const;
+
+private:
+    int m_descriptor;
+};
+
 /// Makes sure that a database's file is this user's own, where others can write to its directory.
 ///
 /// Makes a missing file, readable and writable by the user alone. An existing one must be regular,
