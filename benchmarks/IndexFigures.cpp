@@ -37,16 +37,19 @@ int middleFile(int files)
     return files / 2;
 }
 
-} // namespace
+QString middlePath(int files)
+{
+    return settledTree(files).files()[size_t(middleFile(files))].path;
+}
 
-void addIndexFigures(RatioTable &table, int files)
+bool findMiddle(int files)
 {
     const int middle = middleFile(files);
-    const auto findMiddle = [=] {
-        return find(warmIndex(files), PackageTree::keyOf(middle), PackageTree::localeOf(middle));
-    };
-    const auto middlePath = [=] { return settledTree(files).files()[size_t(middle)].path; };
+    return find(warmIndex(files), PackageTree::keyOf(middle), PackageTree::localeOf(middle));
+}
 
+void addWarmLookUps(RatioTable &table, int files)
+{
     table.add({ "HRIndex: key that nobody has", files, 1.5,
         [=] { return seconds([&] { Baseline::statAll(settledTree(files)); }); },
         [=] {
@@ -57,13 +60,17 @@ void addIndexFigures(RatioTable &table, int files)
         [=] {
             return seconds([&] {
                 Baseline::statAll(settledTree(files));
-                Baseline::parse(middlePath());
+                Baseline::parse(middlePath(files));
             });
         },
         [=] {
             warmIndex(files);
-            return seconds([&] { expect(findMiddle(), true); });
+            return seconds([&] { expect(findMiddle(files), true); });
         } });
+}
+
+void addLookUpsThatRead(RatioTable &table, int files)
+{
     table.add({ "HRIndex: the very first look-up, key that nobody has", files, 3,
         [=] {
             return seconds([&] { Baseline::searchAll(settledTree(files), NobodysKey.toUtf8()); });
@@ -79,18 +86,22 @@ void addIndexFigures(RatioTable &table, int files)
             return seconds([&] {
                 Baseline::statAll(settledTree(files));
                 Baseline::parse(settledTree(files).files().back().path);
-                Baseline::parse(middlePath());
+                Baseline::parse(middlePath(files));
             });
         },
         [=] {
             warmIndex(files);
             settledTree(files).edit(files - 1);
-            const double taken = seconds([&] { expect(findMiddle(), true); });
+            const double taken = seconds([&] { expect(findMiddle(files), true); });
             waitUntilSettled();
-            findMiddle();
+            findMiddle(files);
             return taken;
         },
         3 });
+}
+
+void addStartAndMemory(RatioTable &table, int files)
+{
     table.add({ "start with HRIndex: scan and root elements", files, 2,
         [=] { return seconds([&] { Baseline::listAndReadHeads(settledTree(files)); }); },
         [=] {
@@ -107,4 +118,13 @@ void addIndexFigures(RatioTable &table, int files)
             return double(::mallinfo2().uordblks - before);
         },
         1 });
+}
+
+} // namespace
+
+void addIndexFigures(RatioTable &table, int files)
+{
+    addWarmLookUps(table, files);
+    addLookUpsThatRead(table, files);
+    addStartAndMemory(table, files);
 }
