@@ -125,10 +125,11 @@ HRWidget &HintHost::popup() const
 bool HintHost::hover(const QWidget &widget) const
 {
     RealInput::movePointer(widget.mapToGlobal(widget.rect().center()));
-    return QTest::qWaitFor([&] {
+    const bool shown = QTest::qWaitFor([&] {
         const HRWidget *popup = manager()->widget();
         return popup && popup->isVisible() && popup->referenceWidget() == &widget;
     });
+    return shown && QTest::qWaitForWindowExposed(manager()->widget());
 }
 
 void HintHost::show(QWidget &widget, const QPoint &position) const

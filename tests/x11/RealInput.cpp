@@ -28,9 +28,9 @@ void xdotool(const QStringList &arguments)
     run("xdotool", arguments);
 }
 
-void moveTo(const QPoint &position)
+QStringList move(const QPoint &position)
 {
-    xdotool({ "mousemove", QString::number(position.x()), QString::number(position.y()) });
+    return { "mousemove", QString::number(position.x()), QString::number(position.y()) };
 }
 
 } // namespace
@@ -38,9 +38,9 @@ void moveTo(const QPoint &position)
 void movePointer(const QPoint &position)
 {
     // Qt reports no move to where it saw the pointer last, before that left the application.
-    moveTo(position - QPoint(1, 1));
+    xdotool(move(position - QPoint(1, 1)));
     QTest::qWait(20);
-    moveTo(position);
+    xdotool(move(position));
 }
 
 void press()
@@ -55,9 +55,9 @@ void release()
 
 void click(const QPoint &position)
 {
-    movePointer(position);
-    press();
-    release();
+    // In one go: a pause between move and press could be long enough for a tooltip.
+    xdotool(move(position - QPoint(1, 1)) + move(position)
+        + QStringList{ "mousedown", "1", "mouseup", "1" });
 }
 
 void type(const QString &letters)
