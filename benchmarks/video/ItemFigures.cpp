@@ -56,12 +56,12 @@ Figure paintedPicture(const Clip &clip)
     QVector<double> baseline;
     QVector<double> ours;
     for (int i = 1; i < clipPictures; ++i) {
-        baseline.append(effortOf([&] {
+        baseline.append(secondsOf([&] {
             shown = cache.frame(size_t(i));
             painter.drawImage(QPoint(), shown);
         }));
         stage.item->setPosition(i);
-        ours.append(effortOf([&] {
+        ours.append(secondsOf([&] {
             stage.item->frameReady();
             stage.item->HRVideoComponent::paint(&painter);
         }));
@@ -93,7 +93,7 @@ Figures smoothness(const Clip &clip)
     stage.load();
     bool over = false;
     stage.item->startWatch();
-    QTimer::singleShot(10000, [&over] { over = true; });
+    QTimer::singleShot(10000, Qt::PreciseTimer, [&over] { over = true; });
     stage.item->update();
     stage.item->play();
     stage.runUntil([&over] { return over; });
