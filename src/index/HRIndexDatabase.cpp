@@ -95,7 +95,7 @@ void HRIndexDatabase::close()
 bool HRIndexDatabase::isSound()
 {
     QSqlQuery query(m_handle);
-    if (!query.exec(QStringLiteral("PRAGMA quick_check(1)")))
+    if (!query.exec(QStringLiteral("PRAGMA integrity_check(1)")))
         return !noteDamage(query.lastError());
     m_damaged = query.next() && query.value(0).toString() != QLatin1String("ok");
     return !m_damaged;
