@@ -105,6 +105,9 @@ bool HRDirectoryStore::run(QSqlQuery &query)
     if (query.exec())
         return true;
     m_isDamaged = m_isDamaged || isDamage(query.lastError());
+    // Whoever holds the database now may hold it for long, and there is a query for each directory.
+    if (isRefusal(query.lastError()))
+        QSqlQuery(m_database).exec(QStringLiteral("PRAGMA busy_timeout=0"));
     return false;
 }
 

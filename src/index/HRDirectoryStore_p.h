@@ -16,7 +16,7 @@ namespace Hintreels {
 ///
 /// Snapshots are written many at a time, each whole, so that what another process reads always
 /// stands for itself. What cannot be written, because another process is writing, is dropped: it
-/// is only read again in the next run.
+/// is only read again in the next run. Another's lock is waited for once.
 class HRDirectoryStore
 {
 public:

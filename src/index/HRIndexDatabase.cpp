@@ -59,6 +59,11 @@ bool isDamage(const QSqlError &error)
     return code == CorruptCode || code == NoDatabaseCode;
 }
 
+bool isRefusal(const QSqlError &error)
+{
+    return primaryCode(error) == BusyCode;
+}
+
 HRIndexDatabase::~HRIndexDatabase()
 {
     close();
@@ -114,9 +119,19 @@ bool HRIndexDatabase::execute(const char *statement, const char *message)
 bool HRIndexDatabase::lock(const char *message)
 {
     QSqlQuery query(m_handle);
-    if (query.exec(QStringLiteral("BEGIN IMMEDIATE")) || primaryCode(query.lastError()) != BusyCode)
+    if (query.exec(QStringLiteral("BEGIN IMMEDIATE")) || !isRefusal(query.lastError()))
         return true;
     reportSqlError(message, query.lastError());
+    return false;
+}
+
+bool HRIndexDatabase::commit(const char *message)
+{
+    if (m_handle.commit())
+        return true;
+    noteDamage(m_handle.lastError());
+    reportSqlError(message, m_handle.lastError());
+    m_handle.rollback();
     return false;
 }
 

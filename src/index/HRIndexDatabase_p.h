@@ -17,6 +17,9 @@ void reportSqlError(const char *message, const QSqlError &error);
 /// Whether SQLite calls the database corrupt, or no database.
 bool isDamage(const QSqlError &error);
 
+/// Whether another connection held the database locked for longer than we wait.
+bool isRefusal(const QSqlError &error);
+
 /// One named connection to an SQLite file that belongs to this user and holds our tables only.
 class HRIndexDatabase
 {
@@ -38,14 +41,17 @@ public:
     QSqlDatabase handle() const { return m_handle; }
     bool isOpen() const { return m_handle.isValid(); }
 
-    /// Whether SQLite itself finds the database whole. Reads all of it.
+    /// Whether SQLite itself finds the database whole, its indexes included. Reads all of it.
     bool isSound();
 
     /// Runs a statement; after a failure, it reports under @p message.
     bool execute(const char *statement, const char *message);
 
-    /// Takes the lock for writing, to be given back by COMMIT; false only where another holds it.
+    /// Takes the lock for writing, to be given back by commit(); false only where another holds it.
     bool lock(const char *message);
+
+    /// False where nothing of what was written stays, for instance because another reads on.
+    bool commit(const char *message);
 
     /// Whether SQLite has called the database corrupt since it was opened last.
     bool isDamaged() const { return m_damaged; }

@@ -20,7 +20,6 @@ HRIndexUpdate::HRIndexUpdate(const QSqlDatabase &database, HRPackageRows &rows)
     , m_insertPackage(database)
     , m_replaceItem(database)
 {
-    begin();
     m_rows.refresh();
     prepare(m_selectPackage, "SELECT pkey FROM packages WHERE ppath = ?",
         "Could not prepare package select query:");
@@ -28,22 +27,6 @@ HRIndexUpdate::HRIndexUpdate(const QSqlDatabase &database, HRPackageRows &rows)
         "Could not prepare package insert query:");
     prepare(m_replaceItem, "REPLACE INTO hintreels ( hrkey, tlocale, pkey ) VALUES ( ?, ?, ? )",
         "Could not prepare hintreel replace query:");
-}
-
-void HRIndexUpdate::begin()
-{
-    // One lock for all statements, the first ones of which only read; SQLite does not wait for a
-    // lock to write once it holds one to read.
-    if (!QSqlQuery(m_database).exec(QStringLiteral("BEGIN IMMEDIATE")))
-        m_database.transaction();
-}
-
-void HRIndexUpdate::commit()
-{
-    if (m_database.commit())
-        return;
-    m_database.rollback();
-    m_rows.forget();
 }
 
 bool HRIndexUpdate::store(

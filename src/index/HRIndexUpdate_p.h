@@ -11,23 +11,19 @@ namespace Hintreels {
 
 class HRPackageRows;
 
-/// The statements that one transaction stores entries with.
+/// The statements that a transaction, which has been begun, stores entries with.
 class HRIndexUpdate
 {
 public:
-    /// Begins the transaction and prepares; what cannot be prepared fails again when it is used.
+    /// Prepares; what cannot be prepared fails again when it is used.
     /// @param rows must outlive this
     HRIndexUpdate(const QSqlDatabase &database, HRPackageRows &rows);
-
-    /// Commits what was stored; where that fails, nothing of it stays.
-    void commit();
 
     /// Stores which file holds a key for a locale; an older row of both is replaced.
     /// @param locale as QLocale::name() spells it
     bool store(const QString &key, const QString &locale, const QString &filePath, int depth);
 
 private:
-    void begin();
     void prepare(QSqlQuery &query, const char *statement, const char *message);
     int packageRow(const QString &filePath, int depth);
     int insertPackage(const QString &filePath, int depth);

@@ -23,6 +23,7 @@
 #include <QVariant>
 
 #include <optional>
+#include <vector>
 
 namespace Hintreels {
 
@@ -49,6 +50,7 @@ struct HRSQLiteIndexPrivate
 {
     HRIndexDatabase database;
     QString path; // survives closing, so that the file can still be removed
+    std::vector<HRIndexLookup::File> files; // that have entries in the database
     std::optional<HRIndexLookup> lookup; // this and all that follows is gone while closed
     std::optional<HRPackageRows> rows;
     std::optional<HRIndexUpdate> update;
@@ -69,6 +71,7 @@ bool HRSQLiteIndex::open()
 {
     HRIndex::open();
     closeDatabase();
+    d->files.clear();
     d->path.clear();
     const QString path = databaseFilePath();
     if (path.isEmpty())
@@ -94,8 +97,8 @@ bool HRSQLiteIndex::setup()
     HRIndex::setup();
     const bool made = d->database.execute(PackagesTable, "Could not create package table:")
         && d->database.execute(HintreelsTable, "Could not create hintreels table:");
-    if (!d->update)
-        d->database.handle().commit();
+    if (!d->update && !d->database.commit("Could not create hintreels table:"))
+        return false;
     for (const char *pragma : Pragmas)
         QSqlQuery(d->database.handle()).exec(QLatin1String(pragma));
     return made && !d->database.isDamaged();
@@ -104,6 +107,7 @@ bool HRSQLiteIndex::setup()
 bool HRSQLiteIndex::clear()
 {
     HRIndex::clear();
+    d->files.clear();
     if (!d->database.isOpen())
         return true;
     d->database.execute("DROP TABLE IF EXISTS hintreels", "Could not drop package table:");
@@ -151,6 +155,8 @@ bool HRSQLiteIndex::store(
 {
     if (!d->update || !entry)
         return HRIndex::store(entry, locale, filePath, depth);
+    if (d->files.empty() || d->files.back().path != filePath)
+        d->files.push_back({ filePath, depth });
     return d->update->store(
         entry->attribute(QStringLiteral("key")), locale.name(), filePath, depth);
 }
@@ -159,6 +165,10 @@ void HRSQLiteIndex::startUpdate()
 {
     if (isInUpdate() || !d->database.isOpen())
         return;
+    if (!d->database.lock("Could not query package table:")) {
+        serveFromMemory();
+        return;
+    }
     HRIndex::startUpdate();
     if (!d->rows)
         d->rows.emplace(d->database.handle());
@@ -169,9 +179,11 @@ void HRSQLiteIndex::endUpdate()
 {
     if (!isInUpdate() || !d->update)
         return;
-    d->update->commit();
+    const bool isStored = d->database.commit("Could not insert item:");
     HRIndex::endUpdate();
     d->update.reset();
+    if (!isStored)
+        serveFromMemory();
 }
 
 QStringList HRSQLiteIndex::keys()
@@ -258,6 +270,16 @@ bool HRSQLiteIndex::openAt(const QString &path)
     closeDatabase();
     d->path.clear(); // never to be removed: it may be another's
     return false;
+}
+
+/// A database that misses entries would answer wrongly, and waiting for its lock at each control
+/// file would make a start endless.
+void HRSQLiteIndex::serveFromMemory()
+{
+    closeDatabase();
+    for (const HRIndexLookup::File &file : d->files)
+        HRIndex::store(nullptr, QLocale(), file.path, file.depth);
+    d->files.clear();
 }
 
 void HRSQLiteIndex::closeDatabase()

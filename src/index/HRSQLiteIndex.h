@@ -24,6 +24,11 @@ struct HRSQLiteIndexPrivate;
 /// same key and locale the one indexed last is served, whatever it holds by then; packages are not
 /// mapped, so components are found in the setting componentDirectoryKey only.
 ///
+/// A database that another process keeps locked, or that cannot be written to, is left at the first
+/// update that fails; the index then serves from memory. Several processes may fill one database at
+/// the same time, but each start that clears it takes the keys from the others until it has filled
+/// it again.
+///
 /// Messages go to Qt's debug output. GUI thread only. Two indexes with the same connection name
 /// (the setting indexConnectionKey) must not be open at once.
 class HINTREELS_EXPORT HRSQLiteIndex : public HRIndex
@@ -82,6 +87,7 @@ protected:
 
 private:
     bool openAt(const QString &path);
+    void serveFromMemory();
 
     std::unique_ptr<HRSQLiteIndexPrivate> d;
 };

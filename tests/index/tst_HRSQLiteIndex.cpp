@@ -40,6 +40,8 @@ private Q_SLOTS:
     void open_makesADamagedDatabaseAnew();
     void open_leavesAFileAlone_thatIsNoDatabase();
     void open_givesUpSoon_whenTheDatabaseIsLocked();
+    void update_leavesTheDatabase_whenItIsLocked_data();
+    void update_leavesTheDatabase_whenItIsLocked();
     void open_clearsOrKeeps_asTheSettingSays_data();
     void open_clearsOrKeeps_asTheSettingSays();
     void schema_isFixed();
@@ -382,6 +384,35 @@ void tst_HRSQLiteIndex::open_givesUpSoon_whenTheDatabaseIsLocked()
     fixture.add("A", "a.xml", "<hintreel key='pen' n='2'/>");
     QCOMPARE(fixture.found("pen"), QString("2"));
     fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndex::update_leavesTheDatabase_whenItIsLocked_data()
+{
+    QTest::addColumn<QStringList>("lock");
+    QTest::newRow("reader and writer") << QStringList("BEGIN EXCLUSIVE");
+    QTest::newRow("writer") << QStringList("BEGIN IMMEDIATE");
+    QTest::newRow("reader") << QStringList{ "BEGIN", "SELECT hrkey FROM hintreels" };
+}
+
+void tst_HRSQLiteIndex::update_leavesTheDatabase_whenItIsLocked()
+{
+    QFETCH(QStringList, lock);
+    Fixture fixture;
+    fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/>");
+    fixture.add("A", "b.xml", "<hintreel key='line' n='2'/><hintreel key='ink' n='2'/>");
+    OtherConnection other(fixture.databaseFile());
+    for (const QString &statement : lock)
+        other.execute(statement);
+    fixture.add("A", "c.xml", "<hintreel key='fill' n='3'/>");
+    // Nothing is left that could wait for the lock again.
+    QVERIFY(!QSqlDatabase::contains(Connection));
+    fixture.add("A", "d.xml", "<hintreel key='zoom' n='4'/>");
+    QCOMPARE(fixture.index.keys(), QStringList({ "pen", "line", "ink", "fill", "zoom" }));
+    QCOMPARE(fixture.found("pen"), QString("1"));
+    QCOMPARE(fixture.found("ink"), QString("2"));
+    QCOMPARE(fixture.found("fill"), QString("3"));
+    QCOMPARE(fixture.found("zoom"), QString("4"));
+    QCOMPARE(fixture.messages.takeMessages().filter("database is locked").size(), 1);
 }
 
 void tst_HRSQLiteIndex::open_clearsOrKeeps_asTheSettingSays_data()
