@@ -30,11 +30,18 @@ int primaryCode(const QSqlError &error)
     return error.nativeErrorCode().toInt() & 0xff;
 }
 
-/// Tells a damaged database from a file that never was one.
+/// Tells a damaged database from a file that never was one: by the head of every database, by our
+/// tables, which stand in the first page, or by nothing but the zeros that a crash of the machine
+/// may leave of a file.
 bool startsLikeDatabase(const QString &path)
 {
     QFile file(path);
-    return openRegularFile(file, path) && file.read(16) == QByteArray("SQLite format 3", 16);
+    if (!openRegularFile(file, path))
+        return false;
+    const QByteArray page = file.read(4096);
+    return page.startsWith(QByteArray("SQLite format 3", 16))
+        || page.contains("CREATE TABLE hintreels")
+        || page.contains("CREATE TABLE control_directories") || page.count('\0') == page.size();
 }
 
 /// Whether a row of the schema is one that our own statements could have made.

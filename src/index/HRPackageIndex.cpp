@@ -182,6 +182,13 @@ QStringList HRPackageIndex::tableNames() const
     return HRSQLiteIndex::tableNames() << HRDirectoryStore::tableName();
 }
 
+bool HRPackageIndex::openAnew(const QString &path)
+{
+    qDebug().noquote() << "Index database is damaged. It is made anew";
+    d->isRebuilt = true;
+    return HRSQLiteIndex::openAnew(path);
+}
+
 /// Fills a record from the database or, where that knows another state of the file, from the file;
 /// false where it is no control file.
 bool HRPackageIndex::recall(HRControlRecord &record, const HRFileStamp &stamp)
@@ -277,14 +284,14 @@ void HRPackageIndex::rebuildIfDamaged()
 /// Once in a run: a disk that damages what was just written is not worth a second try.
 void HRPackageIndex::rebuild()
 {
-    qDebug().noquote() << "Index database is damaged. It is made anew";
     const QString path = databaseFilePath();
     d->isDamaged = false;
     d->store.reset();
     closeDatabase();
-    QFile::remove(path);
-    if (!std::exchange(d->isRebuilt, true))
-        HRSQLiteIndex::open();
+    if (d->isRebuilt)
+        QFile::remove(path);
+    else
+        openAnew(path);
 }
 
 } // namespace Hintreels

@@ -57,6 +57,7 @@ public:
 protected:
     QString databaseFilePath() override;
     QStringList tableNames() const override;
+    bool openAnew(const QString &path) override;
 
 private:
     bool recall(HRControlRecord &record, const HRFileStamp &stamp);

@@ -76,13 +76,7 @@ bool HRSQLiteIndex::open()
     const QString path = databaseFilePath();
     if (path.isEmpty())
         return false;
-    if (openAt(path))
-        return true;
-    if (!d->database.isDamaged())
-        return false;
-    // A process that is killed while it fills the database may leave it damaged; without a new
-    // one no later start would come through.
-    return QFile::remove(path) && openAt(path);
+    return openAt(path) || (d->database.isDamaged() && openAnew(path));
 }
 
 bool HRSQLiteIndex::setup()
@@ -247,6 +241,13 @@ QString HRSQLiteIndex::databaseFilePath()
 QStringList HRSQLiteIndex::tableNames() const
 {
     return { QStringLiteral("packages"), QStringLiteral("hintreels") };
+}
+
+// A process that is killed while it fills the database may leave it damaged; without a new one no
+// later start would come through.
+bool HRSQLiteIndex::openAnew(const QString &path)
+{
+    return QFile::remove(path) && openAt(path);
 }
 
 QSqlDatabase HRSQLiteIndex::database() const

@@ -79,6 +79,9 @@ protected:
     /// The tables that may stand in the database.
     virtual QStringList tableNames() const;
 
+    /// Deletes a database that is damaged, and opens a new one.
+    virtual bool openAnew(const QString &path);
+
     /// The open database; invalid while none is open.
     QSqlDatabase database() const;
 
