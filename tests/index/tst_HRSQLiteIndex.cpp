@@ -16,6 +16,8 @@
 #include <QSqlQuery>
 #include <QtTest>
 
+#include <vector>
+
 #include <unistd.h>
 
 using namespace Hintreels;
@@ -38,6 +40,7 @@ private Q_SLOTS:
     void open_makesAPrivateFile();
     void open_makesADamagedDatabaseAnew_data();
     void open_makesADamagedDatabaseAnew();
+    void open_makesADatabaseAnew_thatAKilledUpdateLeft();
     void open_leavesAFileAlone_thatIsNoDatabase();
     void open_givesUpSoon_whenTheDatabaseIsLocked();
     void update_leavesTheDatabase_whenItIsLocked_data();
@@ -156,6 +159,35 @@ struct OtherConnection
 
     QSqlDatabase database;
 };
+
+QByteArray entriesNamed(int file)
+{
+    QByteArray entries;
+    for (int i = 0; i < 3; ++i)
+        entries += QString("<hintreel key='key %1 of %2' n='%2'/>").arg(i).arg(file).toUtf8();
+    return entries;
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("cannot read %s", qPrintable(path));
+    return file.readAll();
+}
+
+constexpr int PageSize = 4096;
+
+/// Where the pages begin that differ from those before; SQLite writes them in this order.
+std::vector<int> changedPages(const QByteArray &before, const QByteArray &after)
+{
+    std::vector<int> pages;
+    for (int page = 0; page < after.size(); page += PageSize) {
+        if (before.mid(page, PageSize) != after.mid(page, PageSize))
+            pages.push_back(page);
+    }
+    return pages;
+}
 
 const QString CouldNotOpen = "Could not open index database. Index will be disabled";
 
@@ -353,6 +385,37 @@ void tst_HRSQLiteIndex::open_makesADamagedDatabaseAnew()
     QCOMPARE(fixture.found("pen"), QString("1"));
     QCOMPARE(fixture.index.keys(), QStringList("pen"));
     fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndex::open_makesADatabaseAnew_thatAKilledUpdateLeft()
+{
+    Fixture fixture;
+    fixture.context.set(removeIndexOnCloseKey, false);
+    fixture.context.set(clearIndexKey, false);
+    for (int i = 0; i < 20; ++i)
+        fixture.add("A", QString::number(i) + ".xml", entriesNamed(i));
+    fixture.index.close();
+    QByteArray torn = contentOf(fixture.databaseFile());
+    QVERIFY(fixture.index.open());
+    fixture.add("A", "20.xml", entriesNamed(20));
+    fixture.index.close();
+    const QByteArray after = contentOf(fixture.databaseFile());
+    const std::vector<int> changed = changedPages(torn, after);
+    QCOMPARE(after.size(), torn.size());
+    QVERIFY(changed.size() > 3);
+    for (const int page : changed) {
+        torn.replace(page, PageSize, after.mid(page, PageSize));
+        fixture.packages.write("db/Zentora_Test_HRI.sqlite", torn);
+        QVERIFY(fixture.index.open());
+        for (int i = 0; i < 21; ++i)
+            fixture.add("A", QString::number(i) + ".xml", entriesNamed(i));
+        QCOMPARE(fixture.rows("PRAGMA integrity_check"), QStringList("ok"));
+        QCOMPARE(fixture.index.keys().size(), 21 * 3);
+        QCOMPARE(fixture.found("key 2 of 20"), QString("20"));
+        fixture.index.close();
+    }
+    for (const QString &message : fixture.messages.takeMessages())
+        QVERIFY2(!message.contains("malformed"), qPrintable(message));
 }
 
 void tst_HRSQLiteIndex::open_leavesAFileAlone_thatIsNoDatabase()
