@@ -213,10 +213,9 @@ bool takeOwnFile(const QString &path)
         if (!isOwnOrMissing(file + companion))
             return false;
     }
+    // Making it comes first, since another process may make it at the same time.
     struct stat status;
-    if (::lstat(file.constData(), &status) == 0)
-        return isOwn(status);
-    return createOwnFile(file);
+    return createOwnFile(file) || (::lstat(file.constData(), &status) == 0 && isOwn(status));
 }
 
 } // namespace Hintreels

@@ -247,7 +247,8 @@ QStringList HRSQLiteIndex::tableNames() const
 // later start would come through.
 bool HRSQLiteIndex::openAnew(const QString &path)
 {
-    return QFile::remove(path) && openAt(path);
+    QFile::remove(path); // or another process has
+    return openAt(path);
 }
 
 QSqlDatabase HRSQLiteIndex::database() const
