@@ -37,6 +37,7 @@ bool HRIndexUpdate::store(
     m_replaceItem.bindValue(2, packageRow(filePath, depth));
     if (m_replaceItem.exec())
         return true;
+    m_isComplete = false;
     reportSqlError("Could not insert item:", m_replaceItem.lastError());
     return false;
 }

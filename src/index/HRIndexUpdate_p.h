@@ -23,6 +23,9 @@ public:
     /// @param locale as QLocale::name() spells it
     bool store(const QString &key, const QString &locale, const QString &filePath, int depth);
 
+    /// Whether every entry could be stored.
+    bool isComplete() const { return m_isComplete; }
+
 private:
     void prepare(QSqlQuery &query, const char *statement, const char *message);
     int packageRow(const QString &filePath, int depth);
@@ -34,6 +37,7 @@ private:
     QSqlQuery m_selectPackage;
     QSqlQuery m_insertPackage;
     QSqlQuery m_replaceItem;
+    bool m_isComplete = true;
 };
 
 } // namespace Hintreels

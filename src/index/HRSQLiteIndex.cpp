@@ -173,7 +173,7 @@ void HRSQLiteIndex::endUpdate()
 {
     if (!isInUpdate() || !d->update)
         return;
-    const bool isStored = d->database.commit("Could not insert item:");
+    const bool isStored = d->database.commit("Could not insert item:") && d->update->isComplete();
     HRIndex::endUpdate();
     d->update.reset();
     if (!isStored)

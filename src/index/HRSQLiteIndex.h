@@ -24,10 +24,10 @@ struct HRSQLiteIndexPrivate;
 /// same key and locale the one indexed last is served, whatever it holds by then; packages are not
 /// mapped, so components are found in the setting componentDirectoryKey only.
 ///
-/// A database that another process keeps locked, or that cannot be written to, is left at the first
-/// update that fails; the index then serves from memory. Several processes may fill one database at
-/// the same time, but each start that clears it takes the keys from the others until it has filled
-/// it again.
+/// A database that another process keeps locked, or that does not take an entry, is left at the end
+/// of the update that fails; the index then serves from memory. Several processes may fill one
+/// database at the same time, but each start that clears it takes the keys from the others until it
+/// has filled it again.
 ///
 /// Messages go to Qt's debug output. GUI thread only. Two indexes with the same connection name
 /// (the setting indexConnectionKey) must not be open at once.

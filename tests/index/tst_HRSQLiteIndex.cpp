@@ -45,6 +45,7 @@ private Q_SLOTS:
     void open_givesUpSoon_whenTheDatabaseIsLocked();
     void update_leavesTheDatabase_whenItIsLocked_data();
     void update_leavesTheDatabase_whenItIsLocked();
+    void update_leavesTheDatabase_whenItDoesNotTakeAnEntry();
     void open_clearsOrKeeps_asTheSettingSays_data();
     void open_clearsOrKeeps_asTheSettingSays();
     void schema_isFixed();
@@ -476,6 +477,17 @@ void tst_HRSQLiteIndex::update_leavesTheDatabase_whenItIsLocked()
     QCOMPARE(fixture.found("fill"), QString("3"));
     QCOMPARE(fixture.found("zoom"), QString("4"));
     QCOMPARE(fixture.messages.takeMessages().filter("database is locked").size(), 1);
+}
+
+void tst_HRSQLiteIndex::update_leavesTheDatabase_whenItDoesNotTakeAnEntry()
+{
+    Fixture fixture;
+    fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/>");
+    OtherConnection(fixture.databaseFile()).execute("DROP TABLE hintreels");
+    fixture.add("A", "b.xml", "<hintreel key='line' n='2'/>");
+    QCOMPARE(fixture.found("pen"), QString("1"));
+    QCOMPARE(fixture.found("line"), QString("2"));
+    QCOMPARE(fixture.messages.takeMessages().filter("Could not insert item:").size(), 1);
 }
 
 void tst_HRSQLiteIndex::open_clearsOrKeeps_asTheSettingSays_data()
