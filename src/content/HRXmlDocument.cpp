@@ -7,6 +7,10 @@ namespace Hintreels {
 
 namespace {
 
+// Between two questions to the guard. So few characters nest so few elements that the stack grows
+// by some kilobytes at most.
+constexpr qptrdiff pieceLength = 64;
+
 /// The text up to the first of Qt's own signs in it, where Qt's sources say that it ends.
 QString upToSign(const QString &text)
 {
@@ -36,6 +40,7 @@ QString takeText(QXmlInputSource *source)
 HRXmlDocument::HRXmlDocument(QXmlInputSource *source)
     : m_text(takeText(source))
     , m_next(m_text.cbegin())
+    , m_pieceEnd(m_next)
     , m_end(m_text.cend())
     , m_guard(m_text.size())
 {
@@ -44,16 +49,19 @@ HRXmlDocument::HRXmlDocument(QXmlInputSource *source)
 HRXmlDocument::HRXmlDocument(const QByteArray &bytes)
     : m_text(upToSign(fromRawData(bytes, true)))
     , m_next(m_text.cbegin())
+    , m_pieceEnd(m_next)
     , m_end(m_text.cend())
     , m_guard(m_text.size())
 {
 }
 
-QChar HRXmlDocument::next()
+/// Asks the guard and takes the first character of the next piece.
+QChar HRXmlDocument::nextPiece()
 {
-    if (m_next != m_end && m_guard.allowsNesting())
-        return *m_next++;
-    return EndOfDocument;
+    if (m_next == m_end || !m_guard.allowsNesting())
+        return EndOfDocument;
+    m_pieceEnd = m_next + qMin<qptrdiff>(m_end - m_next, pieceLength);
+    return *m_next++;
 }
 
 } // namespace Hintreels

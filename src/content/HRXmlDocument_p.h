@@ -25,14 +25,17 @@ public:
 
     HRXmlGuard &guard() { return m_guard; }
 
-    QChar next() override;
+    QChar next() override { return m_next != m_pieceEnd ? *m_next++ : nextPiece(); }
 
     /// What the reader has not taken yet.
     QStringRef unread() const { return m_text.midRef(int(m_next - m_text.cbegin())); }
 
 private:
+    Q_NEVER_INLINE QChar nextPiece();
+
     const QString m_text;
-    const QChar *m_next; // both into m_text
+    const QChar *m_next; // all three into m_text
+    const QChar *m_pieceEnd; // how far the guard need not be asked
     const QChar *const m_end;
     HRXmlGuard m_guard;
 };

@@ -23,7 +23,7 @@ public:
     /// @param documentSize the size of the document in UTF-16 code units
     explicit HRXmlGuard(int documentSize);
 
-    /// Whether the reader may recurse once more. Asked for each character, so it costs a
+    /// Whether the reader may recurse once more. Asked for every few characters, so it costs a
     /// comparison.
     bool allowsNesting() { return m_stack.isLeft() || refuseNesting(); }
 
