@@ -9,6 +9,9 @@
 #include <QXmlAttributes>
 
 #include <algorithm>
+#include <memory>
+#include <unordered_map>
+#include <utility>
 
 namespace Hintreels {
 
@@ -30,10 +33,9 @@ void noteRoot(Notes &notes, const QXmlAttributes &attributes)
     notes.reading.mayHoldAnything |= notes.isInRoot;
     notes.isInRoot = true;
     // Qt's reader lets an attribute stand twice; loading keeps the last one.
-    const QString locale = HRXmlElement(nullptr, attributes).attribute(QStringLiteral("locale"));
-    notes.reading.servesAllLocales = locale.isEmpty();
-    notes.reading.localeName = locale.toUtf8();
-    notes.reading.locale = QLocale(locale);
+    const QByteArray locale
+        = HRXmlElement(nullptr, attributes).attribute(QStringLiteral("locale")).toUtf8();
+    notes.reading.locale = HRControlLocale::named({ locale.constData(), size_t(locale.size()) });
 }
 
 void noteEntry(Notes &notes, const QXmlAttributes &attributes)
@@ -74,12 +76,28 @@ quint32 keyNumber(const QString &key)
     return keyNumber(utf8.constData(), utf8.size());
 }
 
+const HRControlLocale *HRControlLocale::named(std::string_view name)
+{
+    static std::unordered_map<std::string_view, std::unique_ptr<HRControlLocale>> known;
+    if (name.empty())
+        return nullptr;
+    const auto found = known.find(name);
+    if (found != known.end())
+        return found->second.get();
+    const QString text = QString::fromUtf8(name.data(), int(name.size()));
+    auto made = std::make_unique<HRControlLocale>();
+    made->name = QByteArray(name.data(), int(name.size()));
+    made->locale = QLocale(text);
+    const std::string_view ownName(made->name.constData(), name.size());
+    return known.emplace(ownName, std::move(made)).first->second.get();
+}
+
 bool HRControlReading::mayServe(quint32 key, const QLocale &wanted) const
 {
     if (mayHoldAnything)
         return true;
     return std::binary_search(keys.begin(), keys.end(), key)
-        && (servesAllLocales || locale == wanted);
+        && (!locale || locale->locale == wanted);
 }
 
 HRControlReading parseControlFile(const QString &filePath)

@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <optional>
+#include <string_view>
 #include <vector>
 
 namespace Hintreels {
@@ -16,6 +17,16 @@ namespace Hintreels {
 quint32 keyNumber(const char *utf8, int length);
 quint32 keyNumber(const QString &key);
 
+/// The locale of control files, made once for each name: making one is slow, and few names occur.
+struct HRControlLocale
+{
+    QByteArray name; // as the files spell it, in UTF-8
+    QLocale locale;
+
+    /// The one with this name, as long as the program runs; null for an empty name.
+    static const HRControlLocale *named(std::string_view name);
+};
+
 /// What is remembered of a control file: enough to pass the file over for most keys and locales.
 ///
 /// A reading never denies what loading would find. It may promise too much: two keys may share a
@@ -23,9 +34,7 @@ quint32 keyNumber(const QString &key);
 struct HRControlReading
 {
     bool mayHoldAnything = false; // the rest then says nothing
-    bool servesAllLocales = true;
-    QByteArray localeName; // as the file spells it, in UTF-8
-    QLocale locale; // the same; it counts where the file does not serve all
+    const HRControlLocale *locale = nullptr; // none where the file serves all
     std::vector<quint32> keys; // numbers in ascending order
 
     bool mayServe(quint32 key, const QLocale &wanted) const;

@@ -25,10 +25,9 @@ bool HRControlRecords::addLast(HRControlRecord &&record)
 
 bool HRControlRecords::learn(const HRControlRecord &record)
 {
-    if (m_known.contains(record.path, record.depth))
-        return false;
-    m_known.insert(record.path, record.depth);
-    return true;
+    const int count = m_known.size();
+    m_known.insert({ record.path, record.depth });
+    return m_known.size() > count;
 }
 
 } // namespace Hintreels

@@ -7,7 +7,8 @@
 #include "index/HRFileStamp_p.h"
 
 #include <QByteArray>
-#include <QHash>
+#include <QPair>
+#include <QSet>
 #include <QString>
 
 #include <deque>
@@ -42,7 +43,7 @@ private:
     bool learn(const HRControlRecord &record);
 
     std::deque<HRControlRecord> m_records;
-    QMultiHash<QString, int> m_known; // the depths of each path
+    QSet<QPair<QString, int>> m_known; // paths and depths
 };
 
 } // namespace Hintreels

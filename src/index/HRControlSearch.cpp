@@ -139,9 +139,7 @@ bool readRoot(Bytes text, HRControlReading &reading)
         if (hasLocale)
             return false;
         hasLocale = true;
-        reading.servesAllLocales = value.empty();
-        reading.localeName = QByteArray(value.data(), int(value.size()));
-        reading.locale = QLocale(QString::fromUtf8(value.data(), int(value.size())));
+        reading.locale = HRControlLocale::named(value);
         return true;
     });
 }

@@ -7,7 +7,6 @@
 #include "index/HRIndex.h"
 #include "index/HRPosixFile_p.h"
 
-#include <QFile>
 #include <QLocale>
 #include <QPointer>
 
@@ -31,9 +30,9 @@ HRControlTree::HRControlTree(const QString &filePath, HRXmlParser::Filter filter
 {
     m_parser.setDefaultElement(&HRXmlElement::staticMetaObject);
     m_parser.registerElement(QStringLiteral("HRXmlElement"), &HRXmlElement::staticMetaObject);
-    QFile file;
-    if (openRegularFile(file, filePath))
-        m_objects = m_parser.read(file.readAll());
+    QByteArray bytes;
+    if (readRegularFile(filePath, bytes))
+        m_objects = m_parser.read(bytes);
 }
 
 HRControlTree::~HRControlTree()

@@ -15,6 +15,13 @@ QString canonicalDirectory(const QString &path)
     return QDir(path).canonicalPath();
 }
 
+std::optional<int> levelsOfCanonical(const QString &filePath, const QString &packagePath)
+{
+    if (!filePath.startsWith(packagePath + QLatin1Char('/')))
+        return std::nullopt;
+    return filePath.midRef(packagePath.size()).count(QLatin1Char('/'));
+}
+
 } // namespace
 
 std::optional<int> levelsBelowPackage(const QString &filePath, const QString &packagePath)
@@ -37,12 +44,14 @@ std::optional<int> levelsBelowPackage(const QString &filePath, const QString &pa
     }
 }
 
-std::optional<int> HRDirectoryDepth::levels(const QString &filePath, const QString &packagePath)
+std::optional<int> HRDirectoryDepth::levels(
+    const QString &filePath, const QString &packagePath, bool isCanonical)
 {
     const QStringRef directory = filePath.leftRef(filePath.lastIndexOf(QLatin1Char('/')) + 1);
     if (!directory.isEmpty() && directory == m_directory && packagePath == m_package)
         return m_levels;
-    const std::optional<int> levels = levelsBelowPackage(filePath, packagePath);
+    const std::optional<int> levels = isCanonical ? levelsOfCanonical(filePath, packagePath)
+                                                  : levelsBelowPackage(filePath, packagePath);
     m_directory = levels ? directory.toString() : QString();
     m_package = packagePath;
     m_levels = levels.value_or(0);

@@ -21,10 +21,15 @@ std::optional<int> levelsBelowPackage(const QString &filePath, const QString &pa
 class HRDirectoryDepth
 {
 public:
-    std::optional<int> levels(const QString &filePath, const QString &packagePath);
+    /// @param isCanonical whether both paths are known to be; nothing has to be looked at then
+    std::optional<int> levels(
+        const QString &filePath, const QString &packagePath, bool isCanonical = false);
+
+    /// That of the file last found below its package, with its slash.
+    const QString &directory() const { return m_directory; }
 
 private:
-    QString m_directory; // of the file last asked for, with its slash
+    QString m_directory;
     QString m_package;
     int m_levels = 0;
 };

@@ -3,7 +3,6 @@
 
 #include "index/HRDirectorySnapshot_p.h"
 
-#include <QHash>
 #include <QtEndian>
 
 #include <algorithm>
@@ -20,7 +19,6 @@ constexpr int HeadSize = sizeof(quint32) + sizeof(quint64);
 constexpr quint32 NoFlag = 0;
 constexpr quint32 IsControlFile = 1;
 constexpr quint32 MayHoldAnything = 2;
-constexpr quint32 ServesAllLocales = 4;
 
 /// The fixed part of an entry; its name, its locale and its keys follow.
 struct EntryHead
@@ -57,29 +55,18 @@ bool beginsWithEntry(std::string_view bytes)
 /// Multiplies and mixes eight bytes at a time; tells damage, and nothing about intent.
 quint64 checksum(std::string_view bytes)
 {
-    quint64 sum = 0x9e3779b97f4a7c15u ^ bytes.size();
-    while (!bytes.empty()) {
-        char word[sizeof(quint64)] = {};
-        const size_t length = std::min(bytes.size(), sizeof word);
-        std::memcpy(word, bytes.data(), length);
-        bytes.remove_prefix(length);
+    const auto mixed = [](quint64 sum, const char *word) {
         sum = (sum ^ qFromLittleEndian<quint64>(word)) * 0xff51afd7ed558ccdu;
-        sum ^= sum >> 32;
-    }
-    return sum;
-}
-
-/// Making a locale from its name is slow, and few names occur.
-void setLocale(HRControlReading &reading, std::string_view name)
-{
-    static QHash<QByteArray, QLocale> known;
-    auto found = known.find(QByteArray::fromRawData(name.data(), int(name.size())));
-    if (found == known.end()) {
-        const QByteArray own(name.data(), int(name.size()));
-        found = known.insert(own, QLocale(QString::fromUtf8(own)));
-    }
-    reading.localeName = found.key();
-    reading.locale = found.value();
+        return sum ^ sum >> 32;
+    };
+    quint64 sum = 0x9e3779b97f4a7c15u ^ bytes.size();
+    for (; bytes.size() >= sizeof(quint64); bytes.remove_prefix(sizeof(quint64)))
+        sum = mixed(sum, bytes.data());
+    if (bytes.empty())
+        return sum;
+    char rest[sizeof(quint64)] = {};
+    std::memcpy(rest, bytes.data(), bytes.size());
+    return mixed(sum, rest);
 }
 
 HRFileStamp stampOf(const EntryHead &head)
@@ -102,9 +89,10 @@ HRFileStamp withoutDevice(HRFileStamp stamp)
 
 void decodeKeys(std::string_view bytes, std::vector<quint32> &keys)
 {
-    keys.resize(bytes.size() / sizeof(quint32));
-    if (!keys.empty())
-        qFromLittleEndian<quint32>(bytes.data(), qsizetype(keys.size()), keys.data());
+    keys.clear();
+    keys.reserve(bytes.size() / sizeof(quint32));
+    for (; !bytes.empty(); bytes.remove_prefix(sizeof(quint32)))
+        keys.push_back(qFromLittleEndian<quint32>(bytes.data()));
 }
 
 QByteArray encodeKeys(const std::vector<quint32> &keys)
@@ -122,8 +110,7 @@ void decodeFile(std::string_view entry, HRStoredFile &file)
     file.stamp = stampOf(head);
     file.isControlFile = head.flags & IsControlFile;
     file.reading.mayHoldAnything = head.flags & MayHoldAnything;
-    file.reading.servesAllLocales = head.flags & ServesAllLocales;
-    setLocale(file.reading, locale);
+    file.reading.locale = HRControlLocale::named(locale);
     decodeKeys(entry.substr(sizeof head + head.nameLength + head.localeLength), file.reading.keys);
 }
 
@@ -131,21 +118,20 @@ QByteArray encodeFile(std::string_view name, const HRStoredFile &file)
 {
     const HRControlReading &reading = file.reading;
     const QByteArray keys = encodeKeys(reading.keys);
+    const QByteArray locale = reading.locale ? reading.locale->name : QByteArray();
     EntryHead head;
-    head.length = quint32(
-        sizeof head + name.size() + size_t(reading.localeName.size()) + size_t(keys.size()));
+    head.length = quint32(sizeof head + name.size() + size_t(locale.size()) + size_t(keys.size()));
     head.flags = (file.isControlFile ? IsControlFile : NoFlag)
-        | (reading.mayHoldAnything ? MayHoldAnything : NoFlag)
-        | (reading.servesAllLocales ? ServesAllLocales : NoFlag);
+        | (reading.mayHoldAnything ? MayHoldAnything : NoFlag);
     head.inode = file.stamp.inode;
     head.size = file.stamp.size;
     head.modified = file.stamp.modified;
     head.changed = file.stamp.changed;
     head.nameLength = quint16(name.size());
-    head.localeLength = quint16(reading.localeName.size());
+    head.localeLength = quint16(locale.size());
     head.keyCount = quint32(reading.keys.size());
     return QByteArray(reinterpret_cast<const char *>(&head), sizeof head)
-        + QByteArray(name.data(), int(name.size())) + reading.localeName + keys;
+        + QByteArray(name.data(), int(name.size())) + locale + keys;
 }
 
 } // namespace

@@ -9,6 +9,8 @@
 #include <QSqlError>
 #include <QVariant>
 
+#include <utility>
+
 namespace Hintreels {
 
 namespace {
@@ -25,7 +27,6 @@ QString HRDirectoryStore::tableName()
 
 HRDirectoryStore::HRDirectoryStore(const QSqlDatabase &database)
     : m_database(database)
-    , m_select(database)
 {
     // What is lost in a crash of the machine is read again. Unlike the journal in memory, the one
     // on disk keeps the file whole when the process is killed.
@@ -34,32 +35,32 @@ HRDirectoryStore::HRDirectoryStore(const QSqlDatabase &database)
     query.prepare(QStringLiteral("CREATE TABLE IF NOT EXISTS control_directories "
                                  "( path TEXT PRIMARY KEY, files BLOB )"));
     m_isUsable = run(query);
-    m_select.setForwardOnly(true);
-    m_select.prepare(QStringLiteral("SELECT files FROM control_directories WHERE path = ?"));
 }
 
 QByteArray HRDirectoryStore::load(const QString &directory)
 {
-    const auto unsaved = m_unsaved.constFind(directory);
-    if (unsaved != m_unsaved.cend())
-        return *unsaved;
-    m_select.bindValue(0, directory);
-    QByteArray snapshot;
-    if (run(m_select) && m_select.next())
-        snapshot = m_select.value(0).toByteArray();
-    m_select.finish();
-    return snapshot;
+    if (!std::exchange(m_isRead, true))
+        readAll();
+    return m_snapshots.value(directory);
 }
 
 void HRDirectoryStore::save(const QString &directory, const QByteArray &snapshot)
 {
+    m_snapshots.insert(directory, snapshot);
     m_unsaved.insert(directory, snapshot);
     m_unsavedBytes += snapshot.size();
     if (m_unsavedBytes > MostUnsavedBytes)
-        flush();
+        write();
 }
 
 void HRDirectoryStore::flush()
+{
+    write();
+    m_snapshots.clear();
+    m_isRead = false;
+}
+
+void HRDirectoryStore::write()
 {
     if (m_unsaved.isEmpty())
         return;
@@ -82,6 +83,7 @@ void HRDirectoryStore::flush()
 
 void HRDirectoryStore::clear()
 {
+    m_snapshots.clear();
     m_unsaved.clear();
     m_unsavedBytes = 0;
     QSqlQuery query(m_database);
@@ -98,6 +100,19 @@ void HRDirectoryStore::removeMissing()
         query.bindValue(0, directory);
         run(query);
     }
+}
+
+/// All at once, which for a scan is quicker than one by one.
+void HRDirectoryStore::readAll()
+{
+    QSqlQuery query(m_database);
+    query.setForwardOnly(true);
+    query.prepare(QStringLiteral("SELECT path, files FROM control_directories"));
+    if (!run(query))
+        return;
+    while (query.next())
+        m_snapshots.insert(query.value(0).toString(), query.value(1).toByteArray());
+    m_isDamaged = m_isDamaged || isDamage(query.lastError());
 }
 
 bool HRDirectoryStore::run(QSqlQuery &query)

@@ -34,7 +34,7 @@ public:
     /// Takes a snapshot to be written soon.
     void save(const QString &directory, const QByteArray &snapshot);
 
-    /// Writes what was saved.
+    /// Writes what was saved, and gives back the memory that loading took.
     void flush();
 
     /// Forgets everything.
@@ -47,13 +47,16 @@ public:
     bool isDamaged() const { return m_isDamaged; }
 
 private:
+    void readAll();
+    void write();
     bool run(QSqlQuery &query);
     QStringList missingDirectories();
 
     QSqlDatabase m_database;
-    QSqlQuery m_select;
+    QHash<QString, QByteArray> m_snapshots; // as they are loaded and saved until the next flush
     QHash<QString, QByteArray> m_unsaved;
     int m_unsavedBytes = 0;
+    bool m_isRead = false;
     bool m_isUsable = false;
     bool m_isDamaged = false;
 };

@@ -9,7 +9,6 @@
 #include "index/HRControlTree_p.h"
 #include "index/HRElementFilters_p.h"
 #include "index/HRIndex_p.h"
-#include "index/HRPosixFile_p.h"
 
 #include <QDir>
 #include <QFile>
@@ -17,6 +16,19 @@
 #include <QLocale>
 
 namespace Hintreels {
+
+void HRIndexPrivate::follow(HRContext *settings, HRIndex *index)
+{
+    context = settings;
+    mappedPackage.clear();
+    if (!settings)
+        return;
+    QObject::connect(
+        settings, &HRContext::settingDidChange, index, [this](const HRContextKey &key) {
+            if (key == packageSuffixKey)
+                mappedPackage.clear();
+        });
+}
 
 bool HRIndexPrivate::isControlFile(const QString &path)
 {
@@ -26,15 +38,29 @@ bool HRIndexPrivate::isControlFile(const QString &path)
             && probe.isControlFile(
                 [&](char *buffer, qint64 size) { return resource.read(buffer, size); });
     }
+    if (prepared.file && prepared.is(path)) {
+        const bool answer = isControlFile(*prepared.file);
+        prepared.file.reset();
+        return answer;
+    }
     HRRegularFile file(QFile::encodeName(path));
-    return file.isOpen()
-        && probe.isControlFile([&](char *buffer, qint64 size) { return file.read(buffer, size); });
+    return file.isOpen() && isControlFile(file);
+}
+
+QByteArray HRIndexPrivate::nativePath(const QString &path) const
+{
+    return prepared.is(path) ? prepared.listed->nativePath : QFile::encodeName(path);
+}
+
+bool HRIndexPrivate::isControlFile(HRRegularFile &file)
+{
+    return probe.isControlFile([&](char *buffer, qint64 size) { return file.read(buffer, size); });
 }
 
 HRIndex::HRIndex(HRContext *context, const QStringList &paths)
     : d(new HRIndexPrivate)
 {
-    d->context = context;
+    d->follow(context, this);
     d->paths = paths;
 }
 
@@ -43,7 +69,7 @@ HRIndex::~HRIndex() = default;
 HRContext &HRIndex::context()
 {
     if (!d->context)
-        d->context = new HRContext(this);
+        d->follow(new HRContext(this), this);
     return *d->context;
 }
 
@@ -122,10 +148,10 @@ QStringList HRIndex::keys()
 
 void HRIndex::indexControlFile(const QString &filePath, const QString &packagePath)
 {
-    const std::optional<int> depth = d->depth.levels(filePath, packagePath);
+    const std::optional<int> depth = d->levels(filePath, packagePath);
     if (!depth || !d->isControlFile(filePath))
         return;
-    if (d->records.addFirst({ filePath, *depth, QFile::encodeName(filePath) }))
+    if (d->records.addFirst({ filePath, *depth, d->nativePath(filePath) }))
         mapControlFile(QString(), packagePath);
 }
 
@@ -164,13 +190,11 @@ QString HRIndex::packageNameForLocation(const QString &path) const
 
 void HRIndex::mapControlFile(const QString &, const QString &packagePath)
 {
-    const QString suffix = setting(context(), packageSuffixKey, QStringLiteral("hintreels"));
     // A scan maps the same package for each of its files.
-    if (packagePath == d->mappedPackage && suffix == d->mappedSuffix)
+    if (packagePath == d->mappedPackage)
         return;
-    d->packages.add(packageNameOf(packagePath, suffix), packagePath);
+    d->packages.add(packageNameForLocation(packagePath), packagePath);
     d->mappedPackage = packagePath;
-    d->mappedSuffix = suffix;
 }
 
 QStringList HRIndex::componentPathsForPackageNamed(const QString &name) const
@@ -203,6 +227,12 @@ int HRIndex::indexDataShouldGenerateElement(const QString &tag, const QXmlAttrib
 {
     const bool isIndexed = tag == QLatin1String("hintreels") || tag == QLatin1String("hintreel");
     return isIndexed ? 1 : 4;
+}
+
+bool HRIndex::prepare(const HRDirectoryListing &listing, const HRListedFile &file)
+{
+    d->prepared.file.emplace(listing, file);
+    return listing.hasResources() || d->prepared.file->isOpen();
 }
 
 bool HRIndex::isInUpdate() const

@@ -17,8 +17,10 @@ class QXmlAttributes;
 
 namespace Hintreels {
 
+class HRDirectoryListing;
 class HRXmlElement;
 struct HRIndexPrivate;
+struct HRListedFile;
 
 /// Answers which control file holds a key's content for a locale, and loads that content.
 ///
@@ -128,6 +130,12 @@ protected:
     HRIndexPrivate &memory() { return *d; }
 
 private:
+    friend class HRPackageScanner;
+
+    /// Looks at a file that a scan is about to name, in the cheapest way that serves
+    /// indexControlFile(); false where it may not be read.
+    virtual bool prepare(const HRDirectoryListing &listing, const HRListedFile &file);
+
     std::unique_ptr<HRIndexPrivate> d;
 };
 

@@ -20,13 +20,17 @@ HRIndexUpdate::HRIndexUpdate(const QSqlDatabase &database, HRPackageRows &rows)
     , m_insertPackage(database)
     , m_replaceItem(database)
 {
+}
+
+void HRIndexUpdate::begin()
+{
+    m_isComplete = true;
     m_rows.refresh();
-    prepare(m_selectPackage, "SELECT pkey FROM packages WHERE ppath = ?",
-        "Could not prepare package select query:");
-    prepare(m_insertPackage, "INSERT INTO packages ( ppath, depth ) VALUES ( ?, ? )",
-        "Could not prepare package insert query:");
-    prepare(m_replaceItem, "REPLACE INTO hintreels ( hrkey, tlocale, pkey ) VALUES ( ?, ?, ? )",
-        "Could not prepare hintreel replace query:");
+    if (m_preparedAtSchema == m_rows.schemaVersion())
+        return;
+    m_preparedAtSchema.reset();
+    if (prepareAll())
+        m_preparedAtSchema = m_rows.schemaVersion();
 }
 
 bool HRIndexUpdate::store(
@@ -42,11 +46,25 @@ bool HRIndexUpdate::store(
     return false;
 }
 
-void HRIndexUpdate::prepare(QSqlQuery &query, const char *statement, const char *message)
+bool HRIndexUpdate::prepareAll()
+{
+    bool isPrepared = prepare(m_selectPackage, "SELECT pkey FROM packages WHERE ppath = ?",
+        "Could not prepare package select query:");
+    isPrepared &= prepare(m_insertPackage, "INSERT INTO packages ( ppath, depth ) VALUES ( ?, ? )",
+        "Could not prepare package insert query:");
+    isPrepared &= prepare(m_replaceItem,
+        "REPLACE INTO hintreels ( hrkey, tlocale, pkey ) VALUES ( ?, ?, ? )",
+        "Could not prepare hintreel replace query:");
+    return isPrepared;
+}
+
+bool HRIndexUpdate::prepare(QSqlQuery &query, const char *statement, const char *message)
 {
     query.setForwardOnly(true);
-    if (!query.prepare(QLatin1String(statement)))
-        reportSqlError(message, query.lastError());
+    if (query.prepare(QLatin1String(statement)))
+        return true;
+    reportSqlError(message, query.lastError());
+    return false;
 }
 
 int HRIndexUpdate::packageRow(const QString &filePath, int depth)

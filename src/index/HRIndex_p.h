@@ -9,11 +9,33 @@
 #include "index/HRControlRecords_p.h"
 #include "index/HRDirectoryDepth_p.h"
 #include "index/HRPackageMap_p.h"
+#include "index/HRPosixFile_p.h"
 
 #include <QPointer>
 #include <QStringList>
 
+#include <optional>
+
 namespace Hintreels {
+
+class HRIndex;
+
+/// A file that a scan has listed and names next, and what looking at it has brought.
+struct HRPreparedFile
+{
+    const HRListedFile *listed = nullptr;
+    std::optional<HRRegularFile> file = {};
+    std::optional<HRFileStamp> stamp = {};
+
+    bool is(const QString &path) const { return listed && listed->path == path; }
+
+    void forget()
+    {
+        listed = nullptr;
+        file.reset();
+        stamp.reset();
+    }
+};
 
 /// What an index in memory knows; HRPackageIndex fills it from its database.
 struct HRIndexPrivate
@@ -25,12 +47,27 @@ struct HRIndexPrivate
     HRPackageMap packages;
     HRControlFileProbe probe;
     HRDirectoryDepth depth;
-    QString mappedPackage; // the one mapped last, under this suffix
-    QString mappedSuffix;
+    QString mappedPackage; // the one mapped last, until the suffix of packages changes
     bool inUpdate = false;
+    HRPreparedFile prepared;
+
+    /// Makes the index read its settings from these, which may be null.
+    void follow(HRContext *settings, HRIndex *index);
 
     /// Whether the first element of the file, which may be a Qt resource, is that of control files.
     bool isControlFile(const QString &path);
+
+    /// As HRDirectoryDepth counts them.
+    std::optional<int> levels(const QString &filePath, const QString &packagePath)
+    {
+        return depth.levels(filePath, packagePath, prepared.is(filePath));
+    }
+
+    /// A path as QFile::encodeName() spells it.
+    QByteArray nativePath(const QString &path) const;
+
+private:
+    bool isControlFile(HRRegularFile &file);
 };
 
 } // namespace Hintreels

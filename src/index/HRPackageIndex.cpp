@@ -44,19 +44,11 @@ struct HRPackageIndexPrivate
 {
     std::optional<HRDirectoryStore> store; // none while the database is closed
     QString directory; // the one whose files are being indexed, with its slash
-    std::optional<HRDirectoryHandle> handle; // of that directory, if there is one
     HRDirectorySnapshot snapshot; // of that directory
     bool isChanged = false; // whether the snapshot differs from the stored one
     bool willSave = false;
     bool isDamaged = false;
     bool isRebuilt = false;
-
-    /// The stamp of a file in the directory that was entered for it. A file that is named without
-    /// its directory has none to be entered.
-    std::optional<HRFileStamp> stampInDirectory(const QByteArray &nativePath) const
-    {
-        return handle ? handle->stampOfFile(fileName(nativePath).data()) : stampOfFile(nativePath);
-    }
 };
 
 HRPackageIndex::HRPackageIndex(HRContext *context, const QStringList &paths)
@@ -98,7 +90,6 @@ bool HRPackageIndex::setup()
 bool HRPackageIndex::clear()
 {
     HRIndex::clear();
-    d->handle.reset();
     d->directory.clear();
     if (d->store)
         d->store->clear();
@@ -148,12 +139,13 @@ QStringList HRPackageIndex::keys()
 
 void HRPackageIndex::indexControlFile(const QString &filePath, const QString &packagePath)
 {
-    const std::optional<int> depth = memory().depth.levels(filePath, packagePath);
+    const std::optional<int> depth = memory().levels(filePath, packagePath);
     if (!depth)
         return;
-    HRControlRecord record{ filePath, *depth, QFile::encodeName(filePath) };
-    enterDirectory(filePath);
-    const std::optional<HRFileStamp> stamp = d->stampInDirectory(record.nativePath);
+    HRControlRecord record{ filePath, *depth, memory().nativePath(filePath) };
+    enterDirectory(memory().depth.directory());
+    const std::optional<HRFileStamp> stamp
+        = memory().prepared.is(filePath) ? memory().prepared.stamp : stampOfFile(record.nativePath);
     if (!stamp) {
         HRIndex::indexControlFile(filePath, packagePath); // it may be a Qt resource
         return;
@@ -215,14 +207,12 @@ bool HRPackageIndex::recall(HRControlRecord &record, const HRFileStamp &stamp)
     return file.isControlFile;
 }
 
-void HRPackageIndex::enterDirectory(const QString &filePath)
+void HRPackageIndex::enterDirectory(const QString &directory)
 {
-    const QStringRef directory = filePath.leftRef(filePath.lastIndexOf(QLatin1Char('/')) + 1);
     if (directory == d->directory)
         return;
     leaveDirectory();
-    d->directory = directory.toString();
-    d->handle.emplace(QFile::encodeName(d->directory));
+    d->directory = directory;
     const QByteArray stored = d->store ? d->store->load(d->directory) : QByteArray();
     if (!stored.isEmpty()) {
         std::optional<HRDirectorySnapshot> snapshot = HRDirectorySnapshot::decoded(stored);
@@ -247,7 +237,6 @@ void HRPackageIndex::leaveDirectory()
     if (d->store && d->isChanged)
         d->store->save(d->directory, d->snapshot.encoded());
     d->snapshot = HRDirectorySnapshot();
-    d->handle.reset();
     d->directory.clear();
     d->isChanged = false;
 }

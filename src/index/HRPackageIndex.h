@@ -61,7 +61,7 @@ protected:
 
 private:
     bool recall(HRControlRecord &record, const HRFileStamp &stamp);
-    void enterDirectory(const QString &filePath);
+    void enterDirectory(const QString &directory);
     void leaveDirectory();
     void saveSoon();
     void saveNow();

@@ -28,6 +28,9 @@ public:
     /// Makes the next refresh() read the table, whatever the versions say.
     void forget() { m_readAtData = -1; }
 
+    /// That of the schema when the copy was made current: it changes with each table.
+    qint64 schemaVersion() const { return m_readAtSchema; }
+
     std::optional<int> row(const QString &path) const;
     void add(const QString &path, int row) { m_rows.insert(path, row); }
 

@@ -5,14 +5,14 @@
 
 #include <QDir>
 #include <QFile>
+#include <QStringBuilder>
 
 #include <algorithm>
 #include <cerrno>
 #include <limits>
+#include <string_view>
 #include <utility>
-#include <vector>
 
-#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -38,18 +38,18 @@ HRFileStamp stampOf(const struct stat &status)
         nanoseconds(status.st_ctim) };
 }
 
-std::optional<HRFileStamp> stampAt(int directory, const char *path)
+// Not blocking means that a named pipe, too, is opened at once, and then found out.
+int openForReading(const char *path, int directory = AT_FDCWD)
 {
-    struct stat status;
-    if (::fstatat(directory, path, &status, 0) != 0 || !S_ISREG(status.st_mode))
-        return std::nullopt;
-    return stampOf(status);
+    return ::openat(directory, path, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
 }
 
-// Not blocking means that a named pipe, too, is opened at once, and then found out.
-int openForReading(const QByteArray &path)
+/// Whether a file in a directory may be read. The kernel is only asked where the owner's permission
+/// and that of everybody leave it open.
+bool isReadable(int directory, const char *name, const struct stat &status)
 {
-    return ::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    constexpr mode_t Everybody = S_IRUSR | S_IRGRP | S_IROTH;
+    return (status.st_mode & Everybody) == Everybody || ::faccessat(directory, name, R_OK, 0) == 0;
 }
 
 /// Whether a directory's entry is a regular file and no link, without a look at it where the
@@ -63,16 +63,62 @@ bool isRegularEntry(int directory, const struct dirent &entry)
         && S_ISREG(status.st_mode);
 }
 
-/// As QDir sorts names by default.
-void sortIgnoringCase(QStringList &names)
+bool endsWith(std::string_view name, const QByteArray &suffix)
 {
-    std::vector<std::pair<QString, QString>> keyed; // the name in lower case, and as it is
-    keyed.reserve(size_t(names.size()));
-    for (const QString &name : qAsConst(names))
-        keyed.emplace_back(name.toLower(), name);
-    std::sort(keyed.begin(), keyed.end());
-    std::transform(keyed.begin(), keyed.end(), names.begin(),
-        [](const std::pair<QString, QString> &pair) { return pair.second; });
+    const size_t length = size_t(suffix.size());
+    return name.size() >= length
+        && qstrnicmp(name.data() + name.size() - length, suffix.constData(), uint(length)) == 0;
+}
+
+/// A path with a name as the directory lists it; null where no text stands for the name, since it
+/// could not be opened by that.
+QString pathOf(const QString &directory, std::string_view name)
+{
+    const bool isAscii
+        = std::none_of(name.begin(), name.end(), [](char c) { return uchar(c) >= 0x80; });
+    if (isAscii)
+        return directory % QLatin1String(name.data(), int(name.size()));
+    const QByteArray native(name.data(), int(name.size()));
+    const QString text = QFile::decodeName(native);
+    return QFile::encodeName(text) == native ? directory + text : QString();
+}
+
+/// A path with its name in lower case, which most names are in as they are.
+QString withLowerCaseName(const QString &path, int directoryLength)
+{
+    const bool isLowerCase = std::all_of(path.begin() + directoryLength, path.end(),
+        [](QChar c) { return c.unicode() < 'A' || (c.unicode() > 'Z' && c.unicode() < 0x80); });
+    return isLowerCase ? path : path.left(directoryLength) + path.mid(directoryLength).toLower();
+}
+
+/// As QDir sorts names by default. Only names differ between paths in one directory.
+void sortIgnoringCase(std::vector<HRListedFile> &files, int directoryLength)
+{
+    struct Key
+    {
+        std::u16string_view name; // in lower case
+        size_t index;
+    };
+    std::vector<QString> paths;
+    std::vector<Key> keys;
+    paths.reserve(files.size());
+    keys.reserve(files.size());
+    for (const HRListedFile &file : files) {
+        paths.push_back(withLowerCaseName(file.path, directoryLength));
+        const QString &path = paths.back();
+        const auto *begin = reinterpret_cast<const char16_t *>(path.constData());
+        keys.push_back(
+            { { begin + directoryLength, size_t(path.size() - directoryLength) }, keys.size() });
+    }
+    std::sort(keys.begin(), keys.end(), [&files](const Key &a, const Key &b) {
+        const int order = a.name.compare(b.name);
+        return order != 0 ? order < 0 : files[a.index].path < files[b.index].path;
+    });
+    std::vector<HRListedFile> sorted;
+    sorted.reserve(files.size());
+    for (const Key &key : keys)
+        sorted.push_back(std::move(files[key.index]));
+    files = std::move(sorted);
 }
 
 bool isOwn(const struct stat &status)
@@ -106,7 +152,7 @@ bool openRegularFile(QFile &file, const QString &path)
         file.setFileName(path);
         return file.open(QIODevice::ReadOnly);
     }
-    const int descriptor = openForReading(QFile::encodeName(path));
+    const int descriptor = openForReading(QFile::encodeName(path).constData());
     if (descriptor < 0)
         return false;
     if (isRegular(descriptor)
@@ -116,15 +162,90 @@ bool openRegularFile(QFile &file, const QString &path)
     return false;
 }
 
-HRRegularFile::HRRegularFile(const QByteArray &path)
-    : m_descriptor(openForReading(path))
+bool readRegularFile(const QString &path, QByteArray &bytes)
 {
+    if (!path.startsWith(QLatin1Char(':'))) {
+        HRRegularFile file(QFile::encodeName(path));
+        return file.isOpen() && file.readAll(bytes);
+    }
+    QFile resource(path);
+    if (!resource.open(QIODevice::ReadOnly))
+        return false;
+    bytes = resource.readAll();
+    return true;
+}
+
+HRDirectoryListing::HRDirectoryListing(const QString &directory, const QByteArray &suffix)
+    : m_nativeDirectory(QFile::encodeName(directory))
+{
+    if (directory.startsWith(QLatin1Char(':'))) {
+        const QStringList names
+            = QDir(directory).entryList({ QLatin1String("*" + suffix) }, QDir::Files, QDir::NoSort);
+        for (const QString &name : names)
+            m_files.push_back({ directory + name, QFile::encodeName(directory + name) });
+        return;
+    }
+    m_directory = ::opendir(m_nativeDirectory.constData());
+    if (!m_directory)
+        return;
+    m_descriptor = ::dirfd(m_directory);
+    list(directory, suffix);
+    sortIgnoringCase(m_files, directory.size());
+}
+
+HRDirectoryListing::~HRDirectoryListing()
+{
+    if (m_directory)
+        ::closedir(m_directory);
+}
+
+std::optional<HRFileStamp> HRDirectoryListing::stampOfReadable(const HRListedFile &file) const
+{
+    const char *name = nativeName(file);
     struct stat status;
-    if (m_descriptor >= 0 && ::fstat(m_descriptor, &status) == 0 && S_ISREG(status.st_mode)) {
+    if (::fstatat(m_descriptor, name, &status, AT_SYMLINK_NOFOLLOW) != 0 || !S_ISREG(status.st_mode)
+        || !isReadable(m_descriptor, name, status))
+        return std::nullopt;
+    return stampOf(status);
+}
+
+void HRDirectoryListing::list(const QString &directory, const QByteArray &suffix)
+{
+    while (const struct dirent *entry = ::readdir(m_directory)) {
+        const std::string_view name(entry->d_name);
+        if (name[0] == '.' || !endsWith(name, suffix) || !isRegularEntry(m_descriptor, *entry))
+            continue;
+        const QString path = pathOf(directory, name);
+        if (!path.isNull())
+            m_files.push_back({ path, m_nativeDirectory % name.data() });
+    }
+}
+
+const char *HRDirectoryListing::nativeName(const HRListedFile &file) const
+{
+    return file.nativePath.constData() + m_nativeDirectory.size();
+}
+
+HRRegularFile::HRRegularFile(const QByteArray &path)
+{
+    take(openForReading(path.constData()));
+}
+
+HRRegularFile::HRRegularFile(const HRDirectoryListing &listing, const HRListedFile &file)
+{
+    take(openForReading(listing.nativeName(file), listing.m_descriptor));
+}
+
+void HRRegularFile::take(int descriptor)
+{
+    if (descriptor < 0)
+        return;
+    struct stat status;
+    if (::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode)) {
         m_stamp = stampOf(status);
-    } else if (m_descriptor >= 0) {
-        ::close(m_descriptor);
-        m_descriptor = -1;
+        m_descriptor = descriptor;
+    } else {
+        ::close(descriptor);
     }
 }
 
@@ -162,48 +283,12 @@ bool HRRegularFile::readAll(QByteArray &bytes)
     return got == 0;
 }
 
-QStringList readableFileNames(const QString &directory, const QString &suffix)
-{
-    if (directory.startsWith(QLatin1Char(':')))
-        return QDir(directory).entryList({ QLatin1Char('*') + suffix }, QDir::Files, QDir::NoSort);
-    QStringList names;
-    DIR *listing = ::opendir(QFile::encodeName(directory).constData());
-    if (!listing)
-        return names;
-    const int descriptor = ::dirfd(listing);
-    while (const struct dirent *entry = ::readdir(listing)) {
-        if (entry->d_name[0] == '.' || !isRegularEntry(descriptor, *entry))
-            continue;
-        const QString name = QFile::decodeName(entry->d_name);
-        // A name that no text stands for could not be opened by it.
-        if (name.endsWith(suffix, Qt::CaseInsensitive) && QFile::encodeName(name) == entry->d_name
-            && ::faccessat(descriptor, entry->d_name, R_OK, 0) == 0)
-            names.append(name);
-    }
-    ::closedir(listing);
-    sortIgnoringCase(names);
-    return names;
-}
-
 std::optional<HRFileStamp> stampOfFile(const QByteArray &path)
 {
-    return stampAt(AT_FDCWD, path.constData());
-}
-
-HRDirectoryHandle::HRDirectoryHandle(const QByteArray &path)
-    : m_descriptor(::open(path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
-{
-}
-
-HRDirectoryHandle::~HRDirectoryHandle()
-{
-    if (m_descriptor >= 0)
-        ::close(m_descriptor);
-}
-
-std::optional<HRFileStamp> HRDirectoryHandle::stampOfFile(const char *name) const
-{
-    return m_descriptor >= 0 ? stampAt(m_descriptor, name) : std::nullopt;
+    struct stat status;
+    if (::stat(path.constData(), &status) != 0 || !S_ISREG(status.st_mode))
+        return std::nullopt;
+    return stampOf(status);
 }
 
 bool takeOwnFile(const QString &path)

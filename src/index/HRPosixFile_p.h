@@ -7,9 +7,11 @@
 
 #include <QByteArray>
 #include <QString>
-#include <QStringList>
 
 #include <optional>
+#include <vector>
+
+#include <dirent.h>
 
 class QFile;
 
@@ -22,12 +24,61 @@ namespace Hintreels {
 /// Anything else is left alone: opening a named pipe would block the host.
 bool openRegularFile(QFile &file, const QString &path);
 
+/// Reads such a file whole.
+bool readRegularFile(const QString &path, QByteArray &bytes);
+
+/// A file that a directory lists.
+struct HRListedFile
+{
+    QString path;
+    QByteArray nativePath; // as QFile::encodeName() spells it
+};
+
+/// The files in a directory that a reader may take for content: regular, no links, not hidden, and
+/// with this suffix in whatever case; sorted by name without regard to case. The same as QDir
+/// finds, in a tenth of the time, but for those that may not be read: this shows when one is looked
+/// at, by its name in the open directory, which is quicker than by its whole path. Qt's resources
+/// are listed, too.
+class HRDirectoryListing
+{
+public:
+    /// @param directory with its slash; the files' paths begin with it
+    /// @param suffix in ASCII
+    HRDirectoryListing(const QString &directory, const QByteArray &suffix);
+    ~HRDirectoryListing();
+    Q_DISABLE_COPY(HRDirectoryListing)
+
+    const std::vector<HRListedFile> &files() const { return m_files; }
+
+    /// Whether the files are Qt's resources, which the operating system does not know.
+    bool hasResources() const { return !m_directory; }
+
+    /// The stamp of a listed file; nothing where it may not be read, or is gone.
+    std::optional<HRFileStamp> stampOfReadable(const HRListedFile &file) const;
+
+private:
+    friend class HRRegularFile;
+
+    void list(const QString &directory, const QByteArray &suffix);
+    const char *nativeName(const HRListedFile &file) const;
+
+    DIR *m_directory = nullptr;
+    int m_descriptor = -1; // that of the directory
+    QByteArray m_nativeDirectory; // with its slash
+    std::vector<HRListedFile> m_files;
+};
+
 /// A regular file or a link to one, open for reading as long as this lives.
 class HRRegularFile
 {
 public:
     /// @param path as QFile::encodeName() spells it
     explicit HRRegularFile(const QByteArray &path);
+    /// Reads such a file whole.
+    bool readRegularFile(const QString &path, QByteArray &bytes);
+
+    /// A file that a directory lists.
+    HRRegularFile(const HRDirectoryListing &listing, const HRListedFile &file);
     ~HRRegularFile();
     Q_DISABLE_COPY(HRRegularFile)
 
@@ -44,34 +95,15 @@ public:
     bool readAll(QByteArray &bytes);
 
 private:
-    int m_descriptor;
+    void take(int descriptor);
+
+    int m_descriptor = -1;
     HRFileStamp m_stamp;
 };
-
-/// Names of the files in a directory that a reader may take for content: regular, no links,
-/// readable, not hidden, and with this suffix in whatever case; sorted by name without regard
-/// to case. The same as QDir finds, in a tenth of the time. Qt's resources are listed, too.
-QStringList readableFileNames(const QString &directory, const QString &suffix);
 
 /// The stamp of a regular file or a link to one; nothing for anything else.
 /// @param path as QFile::encodeName() spells it
 std::optional<HRFileStamp> stampOfFile(const QByteArray &path);
-
-/// A directory held open, in which files are found by name; this is quicker than by whole paths.
-class HRDirectoryHandle
-{
-public:
-    /// @param path as QFile::encodeName() spells it
-    explicit HRDirectoryHandle(const QByteArray &path);
-    ~HRDirectoryHandle();
-    Q_DISABLE_COPY(HRDirectoryHandle)
-
-    /// As stampOfFile(), for a file in the directory; nothing where the directory did not open.
-    std::optional<HRFileStamp> stampOfFile(const char *name) const;
-
-private:
-    int m_descriptor;
-};
 
 /// Makes sure that a database's file is this user's own, where others can write to its directory.
 ///

@@ -86,12 +86,12 @@ bool HRSQLiteIndex::setup()
     if (!d->database.isSound())
         return false;
     // Taking the lock first makes one statement, and not each, wait for a locked database.
-    if (!d->update && !d->database.lock("Could not create package table:"))
+    if (!isInUpdate() && !d->database.lock("Could not create package table:"))
         return false;
     HRIndex::setup();
     const bool made = d->database.execute(PackagesTable, "Could not create package table:")
         && d->database.execute(HintreelsTable, "Could not create hintreels table:");
-    if (!d->update && !d->database.commit("Could not create hintreels table:"))
+    if (!isInUpdate() && !d->database.commit("Could not create hintreels table:"))
         return false;
     for (const char *pragma : Pragmas)
         QSqlQuery(d->database.handle()).exec(QLatin1String(pragma));
@@ -147,7 +147,7 @@ HRXmlElement *HRSQLiteIndex::retrieve(
 bool HRSQLiteIndex::store(
     HRXmlElement *entry, const QLocale &locale, const QString &filePath, int depth)
 {
-    if (!d->update || !entry)
+    if (!isInUpdate() || !d->update || !entry)
         return HRIndex::store(entry, locale, filePath, depth);
     if (d->files.empty() || d->files.back().path != filePath)
         d->files.push_back({ filePath, depth });
@@ -164,9 +164,11 @@ void HRSQLiteIndex::startUpdate()
         return;
     }
     HRIndex::startUpdate();
-    if (!d->rows)
+    if (!d->update) {
         d->rows.emplace(d->database.handle());
-    d->update.emplace(d->database.handle(), *d->rows);
+        d->update.emplace(d->database.handle(), *d->rows);
+    }
+    d->update->begin();
 }
 
 void HRSQLiteIndex::endUpdate()
@@ -175,7 +177,6 @@ void HRSQLiteIndex::endUpdate()
         return;
     const bool isStored = d->database.commit("Could not insert item:") && d->update->isComplete();
     HRIndex::endUpdate();
-    d->update.reset();
     if (!isStored)
         serveFromMemory();
 }
@@ -194,9 +195,15 @@ QStringList HRSQLiteIndex::keys()
     return keys;
 }
 
+bool HRSQLiteIndex::prepare(const HRDirectoryListing &listing, const HRListedFile &file)
+{
+    memory().prepared.stamp = listing.stampOfReadable(file);
+    return listing.hasResources() || memory().prepared.stamp;
+}
+
 void HRSQLiteIndex::indexControlFile(const QString &filePath, const QString &packagePath)
 {
-    const std::optional<int> depth = memory().depth.levels(filePath, packagePath);
+    const std::optional<int> depth = memory().levels(filePath, packagePath);
     if (!depth)
         return;
     const HRControlTree tree(filePath, indexDataShouldGenerateElement, nullptr);

@@ -89,6 +89,7 @@ protected:
     void closeDatabase();
 
 private:
+    bool prepare(const HRDirectoryListing &listing, const HRListedFile &file) override;
     bool openAt(const QString &path);
     void serveFromMemory();
 

@@ -5,14 +5,42 @@
 
 #include "context/HRSetting_p.h"
 #include "index/HRIndex.h"
+#include "index/HRIndex_p.h"
 #include "index/HRPosixFile_p.h"
+#include "interface/HRTypes.h"
 
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <utility>
 
 namespace Hintreels {
+
+namespace {
+
+bool isWildcard(QChar c)
+{
+    return c == '*' || c == '?' || c == '[' || c == ']';
+}
+
+/// The directories with this suffix. QDir's own filter is slow to make, and only needed where the
+/// suffix is a pattern.
+QFileInfoList packagesIn(const QDir &directory, const QString &suffix)
+{
+    constexpr QDir::Filters kind
+        = QDir::Dirs | QDir::NoSymLinks | QDir::Readable | QDir::NoDotAndDotDot;
+    if (std::any_of(suffix.begin(), suffix.end(), isWildcard))
+        return directory.entryInfoList({ '*' + suffix }, kind, QDir::NoSort);
+    QFileInfoList packages = directory.entryInfoList(kind, QDir::NoSort);
+    const auto isOther = [&suffix](const QFileInfo &info) {
+        return !info.fileName().endsWith(suffix, Qt::CaseInsensitive);
+    };
+    packages.erase(std::remove_if(packages.begin(), packages.end(), isOther), packages.end());
+    return packages;
+}
+
+} // namespace
 
 HRPackageScanner::HRPackageScanner(const HRContext &context, HRIndex &index, Report report)
     : m_context(context)
@@ -32,12 +60,11 @@ void HRPackageScanner::scanDataPaths(const QStringList &paths)
 void HRPackageScanner::scanDataPath(const QString &path)
 {
     const QDir directory(QFileInfo(path).absoluteFilePath());
-    const QString filter = "*." + setting(m_context, packageSuffixKey, QString("hintreels"));
+    const QString suffix = '.' + setting(m_context, packageSuffixKey, QString("hintreels"));
+    const QString filter = '*' + suffix;
     m_report(QString("indexing packages (%2) in %1 ").arg(directory.absolutePath(), filter));
 
-    const QFileInfoList packages = directory.entryInfoList({ filter },
-        QDir::Dirs | QDir::NoSymLinks | QDir::Readable | QDir::NoDotAndDotDot, QDir::NoSort);
-    for (const QFileInfo &package : packages)
+    for (const QFileInfo &package : packagesIn(directory, suffix))
         scanPackage(package);
 
     const QString canonicalPath = directory.canonicalPath();
@@ -61,13 +88,23 @@ void HRPackageScanner::indexFiles(const QFileInfo &directory, const QString &pac
     m_report(QString("looking for control files in :%1").arg(directory.absoluteFilePath()));
 
     // A listed file is no link, so its canonical path follows from the directory's.
-    const QString base = directory.canonicalFilePath() + '/';
-    const QStringList names = readableFileNames(directory.absoluteFilePath(), ".xml");
-    for (const QString &name : names) {
-        const QString path = base + name;
-        m_report("found control file :" + path);
-        m_index.indexControlFile(path, packagePath);
+    const QString canonicalPath = directory.canonicalFilePath();
+    if (canonicalPath.isEmpty())
+        return;
+    const HRDirectoryListing listing(canonicalPath + '/', ".xml");
+    // Asked once: the text for each of thousands of files costs more than the rest of its scan.
+    const bool isReported
+        = setting(m_context, messageLevelKey, int(messageWarning)) >= int(messageInformation);
+    HRPreparedFile &prepared = m_index.memory().prepared;
+    for (const HRListedFile &file : listing.files()) {
+        prepared.listed = &file;
+        if (!m_index.prepare(listing, file))
+            continue;
+        if (isReported)
+            m_report("found control file :" + file.path);
+        m_index.indexControlFile(file.path, packagePath);
     }
+    prepared.forget();
 }
 
 } // namespace Hintreels

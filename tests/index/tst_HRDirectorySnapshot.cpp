@@ -31,9 +31,7 @@ HRStoredFile storedFile()
     file.stamp.modified = 1'700'000'000'123'456'789;
     file.stamp.changed = 1'700'000'001'000'000'000;
     file.isControlFile = true;
-    file.reading.servesAllLocales = false;
-    file.reading.localeName = "zh_Hant_TW";
-    file.reading.locale = QLocale("zh_Hant_TW");
+    file.reading.locale = HRControlLocale::named("zh_Hant_TW");
     file.reading.keys = { 1, 2, 0xffffffff };
     return file;
 }
@@ -60,14 +58,14 @@ void tst_HRDirectorySnapshot::files_comeBackAsTheyWere()
     QVERIFY(loaded.find("a.xml", file.stamp, found));
     QVERIFY(found.isControlFile);
     QVERIFY(found.stamp == file.stamp);
-    QVERIFY(!found.reading.servesAllLocales);
     QVERIFY(!found.reading.mayHoldAnything);
-    QCOMPARE(found.reading.localeName, file.reading.localeName);
-    QCOMPARE(found.reading.locale, file.reading.locale);
+    QVERIFY(found.reading.locale);
+    QCOMPARE(found.reading.locale->name, QByteArray("zh_Hant_TW"));
+    QCOMPARE(found.reading.locale->locale, QLocale("zh_Hant_TW"));
     QVERIFY(found.reading.keys == file.reading.keys);
     QVERIFY(loaded.find("b.xml", plain.stamp, found));
     QVERIFY(!found.isControlFile);
-    QVERIFY(found.reading.servesAllLocales);
+    QVERIFY(!found.reading.locale);
     QVERIFY(found.reading.keys.empty());
     QVERIFY(!loaded.find("c.xml", plain.stamp, found));
     QVERIFY(loaded.find("a.xml", file.stamp, found));

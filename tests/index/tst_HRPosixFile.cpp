@@ -12,16 +12,29 @@
 
 using namespace Hintreels;
 
+namespace {
+
+QStringList namesIn(const QString &directory)
+{
+    const HRDirectoryListing listing(directory + '/', ".xml");
+    QStringList names;
+    for (const HRListedFile &file : listing.files())
+        names += QFileInfo(file.path).fileName();
+    return names;
+}
+
+} // namespace
+
 class tst_HRPosixFile : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void readableFileNames_areThoseThatQDirFinds();
-    void readableFileNames_areNone_whereThereIsNoDirectory();
+    void listing_holdsWhatQDirFinds();
+    void listing_isEmpty_whereThereIsNoDirectory();
 };
 
-void tst_HRPosixFile::readableFileNames_areThoseThatQDirFinds()
+void tst_HRPosixFile::listing_holdsWhatQDirFinds()
 {
     const TestPackages files;
     const QDir directory(files.path());
@@ -37,18 +50,18 @@ void tst_HRPosixFile::readableFileNames_areThoseThatQDirFinds()
 
     const QStringList expected = directory.entryList(
         { "*.xml" }, QDir::Files | QDir::NoSymLinks | QDir::Readable, QDir::NoSort);
-    const QStringList names = readableFileNames(files.path(), ".xml");
+    const QStringList names = namesIn(files.path());
     QCOMPARE(::unlink((native + "/\xFF.xml").constData()), 0); // QTemporaryDir could not
     QCOMPARE(expected.size(), 7);
     QCOMPARE(names, expected);
 }
 
-void tst_HRPosixFile::readableFileNames_areNone_whereThereIsNoDirectory()
+void tst_HRPosixFile::listing_isEmpty_whereThereIsNoDirectory()
 {
     const TestPackages files;
     const QString file = files.write("a.xml", "<hintreels/>");
-    QCOMPARE(readableFileNames(file, ".xml"), QStringList());
-    QCOMPARE(readableFileNames(files.path() + "/none", ".xml"), QStringList());
+    QCOMPARE(namesIn(file), QStringList());
+    QCOMPARE(namesIn(files.path() + "/none"), QStringList());
 }
 
 QTEST_APPLESS_MAIN(tst_HRPosixFile)

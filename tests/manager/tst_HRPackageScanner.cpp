@@ -3,6 +3,7 @@
 
 #include "context/HRContext.h"
 #include "index/HRIndex.h"
+#include "interface/HRTypes.h"
 #include "manager/HRPackageScanner_p.h"
 #include "support/TestPackage.h"
 
@@ -37,6 +38,8 @@ struct Fixture
     HRPackageScanner scanner{ context, index, [this](const QString &text) { reports += text; } };
     TestPackages packages;
     const QString path = packages.path();
+
+    Fixture() { context.set(messageLevelKey, int(messageInformation)); }
 };
 
 } // namespace
