@@ -11,7 +11,36 @@
 
 #include <QLocale>
 
+#include <vector>
+
 using namespace Hintreels;
+
+namespace {
+
+bool areCold = false;
+
+} // namespace
+
+ColdCaches::ColdCaches()
+{
+    areCold = true;
+}
+
+ColdCaches::~ColdCaches()
+{
+    areCold = false;
+}
+
+void ColdCaches::fill()
+{
+    if (!areCold)
+        return;
+    constexpr size_t Size = 96 << 20; // more than the caches of desktop processors hold
+    constexpr size_t Line = 64;
+    static std::vector<char> memory(Size);
+    for (size_t i = 0; i < memory.size(); i += Line)
+        ++memory[i];
+}
 
 void expect(bool answer, bool expected)
 {

@@ -40,7 +40,7 @@ public:
     /// Registers both sides of a figure.
     void add(const Figure &figure);
 
-    /// Adds a line for how our side grows from the smallest to the largest tree.
+    /// Adds a line for how our side grows from the smallest to the largest tree, with cold caches.
     void addGrowth(const std::string &name, double bar);
 
     void ReportRuns(const std::vector<Run> &runs) override;
