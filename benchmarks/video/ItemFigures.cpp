@@ -35,8 +35,8 @@ Figure firstPicture(const Clip &clip)
     const Least least = leastOf(
         10, [&] { return secondsOf([&] { OneThread(clip.path).decode(1); }); },
         [&] { return secondsToFirstPicture(clip.path); });
-    return { "first picture painted, less one refresh, " + clip.name, Figure::ratio, "ms",
-        least.baseline * 1e3, (least.ours - refresh) * 1e3, 1.2 };
+    return { "first picture painted, " + clip.name, Figure::ratio, "ms", least.baseline * 1e3,
+        least.ours * 1e3, 1.2 + refresh / least.baseline };
 }
 
 /// The GUI thread's work for a picture, beside that of reading and drawing it.

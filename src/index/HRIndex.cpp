@@ -195,6 +195,7 @@ void HRIndex::mapControlFile(const QString &, const QString &packagePath)
         return;
     d->packages.add(packageNameForLocation(packagePath), packagePath);
     d->mappedPackage = packagePath;
+    d->componentQuestion.clear();
 }
 
 QStringList HRIndex::componentPathsForPackageNamed(const QString &name) const
@@ -209,13 +210,24 @@ QStringList HRIndex::componentPathsForPackageNamed(const QString &name) const
 QStringList HRIndex::componentPathsForElement(
     const HRXmlElement *element, const QString &relativePath) const
 {
-    QStringList paths
-        = componentPathsForPackageNamed(element->attribute(QStringLiteral("HRPackagName")));
-    if (const auto *root = qobject_cast<const HRXmlElement *>(element->parent())) {
-        const QString search = root->attribute(QStringLiteral("search"));
-        if (!search.isEmpty())
-            paths += d->packages.pathsOfSearchList(search);
+    const auto *root = qobject_cast<const HRXmlElement *>(element->parent());
+    const QStringList question{ element->attribute(QStringLiteral("HRPackagName")),
+        root ? root->attribute(QStringLiteral("search")) : QString(),
+        setting(context(), componentDirectoryKey, QString()), relativePath };
+    // A user interface that is being made asks the same for each of its texts.
+    if (question != d->componentQuestion) {
+        d->componentPaths = findComponentPaths(question[0], question[1], relativePath);
+        d->componentQuestion = question;
     }
+    return d->componentPaths;
+}
+
+QStringList HRIndex::findComponentPaths(
+    const QString &package, const QString &search, const QString &relativePath) const
+{
+    QStringList paths = componentPathsForPackageNamed(package);
+    if (!search.isEmpty())
+        paths += d->packages.pathsOfSearchList(search);
     if (relativePath.isEmpty())
         return paths;
     for (QString &path : paths)

@@ -135,6 +135,8 @@ private:
     /// Looks at a file that a scan is about to name, in the cheapest way that serves
     /// indexControlFile(); false where it may not be read.
     virtual bool prepare(const HRDirectoryListing &listing, const HRListedFile &file);
+    QStringList findComponentPaths(
+        const QString &package, const QString &search, const QString &relativePath) const;
 
     std::unique_ptr<HRIndexPrivate> d;
 };

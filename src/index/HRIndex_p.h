@@ -50,6 +50,8 @@ struct HRIndexPrivate
     QString mappedPackage; // the one mapped last, until the suffix of packages changes
     bool inUpdate = false;
     HRPreparedFile prepared;
+    QStringList componentQuestion; // the last one, until another package is mapped
+    QStringList componentPaths; // the answer
 
     /// Makes the index read its settings from these, which may be null.
     void follow(HRContext *settings, HRIndex *index);

@@ -15,8 +15,10 @@ namespace {
 // Empty for anything but a regular file: opening a pipe would block the host.
 QByteArray readRegularFile(const QString &path)
 {
+    if (!QFileInfo(path).isFile())
+        return {};
     QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly))
         return {};
     return file.readAll();
 }

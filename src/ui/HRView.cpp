@@ -11,6 +11,7 @@
 #include "ui/HROverrideCursors_p.h"
 #include "ui/HRQuickRenderer_p.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QQmlEngine>
 #include <QQuickItem>
@@ -166,10 +167,10 @@ QString HRView::findComponent(const QString &attributeName, HRContextKey key,
         return base;
     const QStringList candidates = m_manager->index()->componentPathsForElement(m_content, base);
     for (const QString &candidate : candidates) {
-        const QFileInfo file(
-            relativePath.isEmpty() ? candidate : QDir(candidate).absoluteFilePath(relativePath));
-        if (file.exists())
-            return file.absoluteFilePath();
+        const QString file
+            = relativePath.isEmpty() ? candidate : QDir(candidate).absoluteFilePath(relativePath);
+        if (QFile::exists(file))
+            return QFileInfo(file).absoluteFilePath();
     }
     return base;
 }
