@@ -3,27 +3,10 @@
 
 #include "manager/HRTranslation_p.h"
 
+#include "index/HRPosixFile_p.h"
 #include "manager/HRTranslationCheck_p.h"
 
-#include <QFile>
-#include <QFileInfo>
-
 namespace Hintreels {
-
-namespace {
-
-// Empty for anything but a regular file: opening a pipe would block the host.
-QByteArray readRegularFile(const QString &path)
-{
-    if (!QFileInfo(path).isFile())
-        return {};
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    return file.readAll();
-}
-
-} // namespace
 
 HRTranslation::HRTranslation(QObject *translatorParent)
     : m_translatorParent(translatorParent)
@@ -43,8 +26,8 @@ QString HRTranslation::translate(const QString &path, const QString &text, const
 
 bool HRTranslation::load(const QString &path)
 {
-    const QByteArray data = readRegularFile(path);
-    if (!isSafeTranslation(data))
+    QByteArray data;
+    if (!readRegularFile(path, data) || !isSafeTranslation(data))
         return false;
     if (!m_translator->load(reinterpret_cast<const uchar *>(data.constData()), data.size()))
         return false;
