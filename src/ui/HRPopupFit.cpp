@@ -26,6 +26,12 @@ QSize sizeOf(const QQuickItem *root)
     return QSize(widgetLength(bounds.width()), widgetLength(bounds.height()));
 }
 
+/// With the seam, by which the popup is larger than its content.
+QSize sizeAround(const QSize &content)
+{
+    return content + QSize(1, 1);
+}
+
 void freeSize(QWidget &widget)
 {
     widget.setMinimumSize(0, 0);
@@ -66,16 +72,17 @@ void takeContentSize(HRWidget &popup, QWidget *container)
     const QQuickItem *root = rootOf(popup);
     if (!root)
         return;
+    const QSize size = sizeOf(root);
     freeSize(popup);
     if (container)
-        freeSize(*container);
-    popup.resize(sizeOf(root));
+        container->setFixedSize(size);
+    popup.resize(sizeAround(size));
 }
 
 bool fitsContent(const HRWidget &popup)
 {
     const QQuickItem *root = rootOf(popup);
-    return !root || popup.size() == sizeOf(root) + QSize(1, 1);
+    return !root || popup.size() == sizeAround(sizeOf(root));
 }
 
 void fitToContent(HRWidget &popup, QWidget *container, const QRect &screen)
@@ -90,7 +97,7 @@ void fitToContent(HRWidget &popup, QWidget *container, const QRect &screen)
     const HRContentFit fit = fitContent(size, frame.topLeft(), titleBar, screen);
     if (container)
         fitContainer(*container, size, fit);
-    const QSize outer = fit.geometry.size() + QSize(1, 1);
+    const QSize outer = sizeAround(fit.geometry.size());
     popup.setFixedSize(outer);
     window->setFixedSize(outer);
     settleLayout(popup.layout());

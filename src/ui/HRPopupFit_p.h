@@ -14,7 +14,7 @@ class HRWidget;
 // How a popup takes the size and the colour of its content. All of it does nothing while the popup
 // has no QML root item.
 
-/// Gives a popup the size of its content before it is shown.
+/// Gives a popup the size around its content before it is shown, with the seam.
 ///
 /// It would appear in another size first otherwise, and stick out of the screen.
 /// @param container embeds the view; may be null

@@ -3,7 +3,6 @@
 
 #include "ui/HRViewEmbedding_p.h"
 
-#include <QWidget>
 #include <QWindow>
 
 namespace Hintreels {
@@ -18,30 +17,50 @@ void HRViewEmbedding::setContainer(QWidget *container)
     m_container = container;
 }
 
-void HRViewEmbedding::defer()
+void HRViewEmbedding::prepareFor(const QWidget &popup)
 {
-    if (m_container)
-        m_container->hide();
+    if (nativeWindowOf(popup) == m_window)
+        return;
+    hideContainer();
+    release();
 }
 
-void HRViewEmbedding::embed()
+void HRViewEmbedding::embedIn(const QWidget &popup)
 {
-    if (m_container)
-        m_container->show();
+    m_window = nativeWindowOf(popup);
+    showContainer();
 }
 
 void HRViewEmbedding::renewLater()
 {
-    defer();
+    hideContainer();
     release();
     QMetaObject::invokeMethod(
-        this, [this] { embed(); }, Qt::QueuedConnection);
+        this, [this] { showContainer(); }, Qt::QueuedConnection);
 }
 
 void HRViewEmbedding::release()
 {
     if (m_view)
         m_view->destroy();
+}
+
+HRViewEmbedding::NativeWindow HRViewEmbedding::nativeWindowOf(const QWidget &popup)
+{
+    const QWindow *window = popup.windowHandle();
+    return window ? NativeWindow(window->winId(), window->flags()) : NativeWindow();
+}
+
+void HRViewEmbedding::hideContainer()
+{
+    if (m_container)
+        m_container->hide();
+}
+
+void HRViewEmbedding::showContainer()
+{
+    if (m_container)
+        m_container->show();
 }
 
 } // namespace Hintreels

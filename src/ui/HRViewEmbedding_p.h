@@ -5,9 +5,10 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QWidget>
+#include <QWindow>
 
-class QWidget;
-class QWindow;
+#include <utility>
 
 namespace Hintreels {
 
@@ -16,8 +17,8 @@ namespace Hintreels {
 /// On X11, Qt makes a new native window for a tool tip that is shown for the first time, and for
 /// any window whose stays-on-top flag has changed. The native windows inside the old one die with
 /// it on the server, which Qt does not notice: the view would stay blank, and painting into it
-/// raises errors. So the view is embedded only once the window around it is mapped, and where that
-/// window may be renewed, the view's native window is given up before and made anew.
+/// raises errors. So wherever showing may renew the window around the view, the view's native
+/// window is given up before, and made anew once the window around it is mapped.
 class HRViewEmbedding : public QObject
 {
 public:
@@ -26,9 +27,11 @@ public:
     /// @param container the widget that embeds the view; may be null
     void setContainer(QWidget *container);
 
-    /// Takes the view out of sight while the window around it is shown; embed() brings it back.
-    void defer();
-    void embed();
+    /// Gives the view's native window up, if showing the popup may renew the window around it.
+    void prepareFor(const QWidget &popup);
+
+    /// Brings the view into a popup that is mapped.
+    void embedIn(const QWidget &popup);
 
     /// Makes the view's native window anew after the window around it has been mapped.
     void renewLater();
@@ -37,8 +40,16 @@ public:
     void release();
 
 private:
+    /// Changes whenever showing a popup may renew its window.
+    using NativeWindow = std::pair<WId, Qt::WindowFlags>;
+
+    static NativeWindow nativeWindowOf(const QWidget &popup);
+    void hideContainer();
+    void showContainer();
+
     QPointer<QWindow> m_view;
     QPointer<QWidget> m_container;
+    NativeWindow m_window; // that the view was last embedded in
 };
 
 } // namespace Hintreels

@@ -65,6 +65,7 @@ struct HRWidgetPrivate
     void becomeOrdinaryWindow();
     void keepInside();
     void paintAfterContent();
+    void paintHeldBack();
     void followContent();
 
     HRWidget *q;
@@ -169,6 +170,15 @@ void HRWidgetPrivate::paintAfterContent()
     q->setUpdatesEnabled(!view || !view->rootObject());
 }
 
+/// Paints at once: an update would be lost where Qt has been asked for one while it was held back.
+void HRWidgetPrivate::paintHeldBack()
+{
+    if (q->updatesEnabled())
+        return;
+    q->setUpdatesEnabled(true);
+    q->repaint();
+}
+
 /// Takes the size of new content at once: the view's own resize event comes a round trip to the
 /// window system later, and until then a popup that is too small would cut the content off.
 void HRWidgetPrivate::followContent()
@@ -219,7 +229,9 @@ void HRWidget::setView(HRView *view)
     connect(view, &HRView::reservedChanged, this, &HRWidget::contentReservedChanged);
     connect(view, &HRView::contentSizeChanged, this, &HRWidget::contentResized);
     connect(view, &HRView::stayOpenChanged, this, [this] { d->followStayOpen(); });
-    connect(view, &QQuickWindow::frameSwapped, this, [this] { setUpdatesEnabled(true); });
+    connect(
+        view, &QQuickWindow::frameSwapped, this, [this] { d->paintHeldBack(); },
+        Qt::QueuedConnection);
     // A press inside a popup leaves the keyboard focus where it is.
     view->setFlag(Qt::WindowDoesNotAcceptFocus, !d->detached);
     view->setViewPos(0, 0);
@@ -272,9 +284,9 @@ void HRWidget::setVisible(bool visible)
         d->followReferenceWindow();
         d->paintAfterContent();
     }
-    d->embedding.defer();
+    d->embedding.prepareFor(*this);
     QWidget::setVisible(true);
-    d->embedding.embed();
+    d->embedding.embedIn(*this);
 }
 
 void HRWidget::showWithContent(

@@ -21,7 +21,8 @@ const QByteArray hintQml = R"(
 import QtQuick 2.15
 
 Rectangle {
-    width: 200; height: 120
+    width: 200
+    height: hintreel.attribute("height")
     color: hintreel.attribute("key")
     focus: true
     Rectangle { x: 80; y: 40; width: 40; height: 40; color: "white" }
@@ -84,7 +85,8 @@ HintHost::HintHost(const std::function<void(HRContext &)> &configure)
 {
     m_packages.write("Test.hintreels/ui/HintreelUI.qml", hintQml);
     m_packages.writeControl("Test", "en_US.xml",
-        "<hintreel key='red' title='Red'/><hintreel key='blue' title='Blue'/>");
+        "<hintreel key='red' title='Red' height='120'/>"
+        "<hintreel key='blue' title='Blue' height='160'/>");
     HRContext context;
     context.set(applicationFilterKey, true);
     context.set(hideDelayKey, 600);

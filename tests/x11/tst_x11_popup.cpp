@@ -14,7 +14,12 @@ namespace {
 constexpr int hideDelay = 600; // as HintHost sets it
 const QPoint farAway(1000, 700);
 
+/// What a host may do to a popup while it is hidden.
+using Change = void (*)(QWidget &popup);
+
 } // namespace
+
+Q_DECLARE_METATYPE(Change)
 
 /// The popup beside the pointer, on a real X server with a window manager.
 class tst_x11_popup : public QObject
@@ -34,6 +39,8 @@ private Q_SLOTS:
     void popup_isFullyVisible_atScreenEdges();
     void popup_hides_whenApplicationIsDeactivated();
     void popup_fadesOutAndPaintsAgain_whenShownAnew();
+    void popup_paintsAgain_whenItsWindowWasRenewed_data();
+    void popup_paintsAgain_whenItsWindowWasRenewed();
     void hints_leakNothing_whenShownInTurn();
 };
 
@@ -179,6 +186,34 @@ void tst_x11_popup::popup_fadesOutAndPaintsAgain_whenShownAnew()
         QTRY_VERIFY(showsHint(host.popup(), Qt::red));
         RealInput::movePointer(farAway);
         QTRY_VERIFY(!host.popup().isVisible());
+    }
+}
+
+void tst_x11_popup::popup_paintsAgain_whenItsWindowWasRenewed_data()
+{
+    QTest::addColumn<Change>("change");
+    QTest::newRow("nothing changed") << Change([](QWidget &) {});
+    QTest::newRow("flags of the widget") << Change([](QWidget &popup) {
+        popup.setWindowFlag(Qt::WindowTransparentForInput);
+        popup.setWindowFlag(Qt::WindowTransparentForInput, false);
+    });
+    QTest::newRow("flags of the window") << Change([](QWidget &popup) {
+        QWindow *window = popup.windowHandle();
+        window->setFlag(
+            Qt::WindowStaysOnTopHint, !window->flags().testFlag(Qt::WindowStaysOnTopHint));
+    });
+}
+
+void tst_x11_popup::popup_paintsAgain_whenItsWindowWasRenewed()
+{
+    QFETCH(Change, change);
+    HintHost host;
+    for (const QPushButton *button : { &host.red, &host.blue, &host.red }) {
+        QVERIFY(host.hover(*button));
+        QTRY_VERIFY(showsHint(host.popup(), button->text()));
+        host.popup().hide();
+        change(host.popup());
+        RealInput::movePointer(farAway);
     }
 }
 
