@@ -6,7 +6,9 @@
 #include "Measuring.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdio>
+#include <numeric>
 
 namespace {
 
@@ -28,10 +30,18 @@ void registerRun(const std::string &name, const Measure &measure, int repetition
         ->Unit(benchmark::kMillisecond);
 }
 
+/// Unlike the median it stays put where values fall into two groups of about the same size.
+double interquartileMean(const std::vector<double> &sorted)
+{
+    const auto quarter = std::ptrdiff_t(sorted.size() / 4);
+    const double sum = std::accumulate(sorted.begin() + quarter, sorted.end() - quarter, 0.0);
+    return sum / double(std::ptrdiff_t(sorted.size()) - 2 * quarter);
+}
+
 double value(std::vector<double> values, Statistic statistic)
 {
     std::sort(values.begin(), values.end());
-    return statistic == Statistic::least ? values.front() : values[values.size() / 2];
+    return statistic == Statistic::least ? values.front() : interquartileMean(values);
 }
 
 std::string formatted(const char *format, double value)

@@ -18,7 +18,7 @@ using Measure = std::function<double()>;
 enum class Statistic
 {
     least, // since whatever else runs on the machine only ever adds
-    median // where what is measured varies by itself, as with a window system
+    interquartileMean // where what is measured varies by itself, as with a window system
 };
 
 /// What one line of the table compares. Each measurement is repeated, all of them in random order.

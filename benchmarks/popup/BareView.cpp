@@ -51,6 +51,7 @@ void BareView::show(const PopupContent &content, const QPoint &position)
     if (m_window.source().isEmpty())
         m_window.setSource(
             QUrl::fromLocalFile(HINTREELS_PACKAGES "/Standard.hintreels/ui/HintreelUI.qml"));
-    m_window.setPosition(position);
+    // Before it is shown: the view itself follows its content a frame later.
+    m_window.setGeometry(QRect(position, m_window.rootObject()->size().toSize()));
     m_window.show();
 }

@@ -7,15 +7,17 @@
 #include <QCursor>
 #include <QEvent>
 #include <QQuickItem>
+#include <QTimer>
 
-double PaintWatch::seconds() const
+double PaintWatch::secondsFor(const std::function<void()> &request)
 {
     constexpr int patience = 10000; // ms
-    while (m_seconds == 0) {
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        if (m_timer.hasExpired(patience))
-            qFatal("nothing was painted");
-    }
+    QTimer::singleShot(patience, this, [] { qFatal("nothing was painted"); });
+    QTimer::singleShot(0, this, [&] {
+        m_timer.start();
+        request();
+    });
+    m_loop.exec();
     return m_seconds;
 }
 
@@ -26,6 +28,7 @@ void PaintWatch::finish()
     // The X server answers a question only after it has done all that it was asked before.
     QCursor::pos();
     m_seconds = double(m_timer.nsecsElapsed()) / 1e9;
+    m_loop.quit();
 }
 
 void FrameWatch::watch(QQuickView &view)

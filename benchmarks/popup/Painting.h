@@ -4,23 +4,28 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QEventLoop>
 #include <QObject>
 #include <QQuickView>
 
-/// Tells how long it took from its making until something was painted and on the screen.
+#include <functional>
+
+/// Tells how long it takes from a request until what it asked for is painted and on the screen.
 class PaintWatch : public QObject
 {
 public:
-    PaintWatch() { m_timer.start(); }
-
-    /// Handles events until it is painted.
-    double seconds() const;
+    /// Makes the request from an event, as a host does, and handles events until it is painted.
+    ///
+    /// Qt deletes what is to be deleted later before it paints, but only where an event asked for
+    /// that.
+    double secondsFor(const std::function<void()> &request);
 
 protected:
     /// Ends the time, the first time that it is called.
     void finish();
 
 private:
+    QEventLoop m_loop;
     QElapsedTimer m_timer;
     double m_seconds = 0;
 };
@@ -29,7 +34,7 @@ private:
 class FrameWatch : public PaintWatch
 {
 public:
-    /// May be called late, as long as no event was handled since the view changed.
+    /// May be called in the request.
     void watch(QQuickView &view);
 };
 

@@ -56,7 +56,7 @@ void addPopupFigures(RatioTable &table)
 {
     const auto add = [&](const char *name, double bar, const Measure &baseline, const Measure &ours,
                          int repetitions) {
-        table.add({ name, 0, bar, baseline, ours, repetitions, Statistic::median });
+        table.add({ name, 0, bar, baseline, ours, repetitions, Statistic::interquartileMean });
     };
     using Before = Popups::Before;
     const Measure appears = shown(&Popups::hover, Before::nothing);

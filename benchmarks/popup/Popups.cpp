@@ -91,9 +91,10 @@ void Popups::hideAll()
 double Popups::hoverNext()
 {
     FrameWatch watch;
-    m_host.hoverNext();
-    watch.watch(*m_host.popup()->view());
-    return watch.seconds();
+    return watch.secondsFor([&] {
+        m_host.hoverNext();
+        watch.watch(*m_host.popup()->view());
+    });
 }
 
 double Popups::showBareView()
@@ -101,16 +102,14 @@ double Popups::showBareView()
     const PopupContent content(++m_number % PopupHost::contentCount);
     FrameWatch watch;
     watch.watch(m_bareView.window());
-    m_bareView.show(content, BesideTheTool);
-    return watch.seconds();
+    return watch.secondsFor([&] { m_bareView.show(content, BesideTheTool); });
 }
 
 double Popups::showToolTip()
 {
     const QString text = PopupContent(++m_number % PopupHost::contentCount).richText();
     ToolTipWatch watch;
-    QToolTip::showText(BesideTheTool, text);
-    return watch.seconds();
+    return watch.secondsFor([&] { QToolTip::showText(BesideTheTool, text); });
 }
 
 double firstHover()
@@ -118,9 +117,10 @@ double firstHover()
     PopupHost host;
     settle(host);
     FrameWatch watch;
-    host.hoverNext();
-    watch.watch(*host.popup()->view());
-    return watch.seconds();
+    return watch.secondsFor([&] {
+        host.hoverNext();
+        watch.watch(*host.popup()->view());
+    });
 }
 
 double firstBareView()
@@ -128,8 +128,10 @@ double firstBareView()
     const PopupHost host;
     settle(host);
     FrameWatch watch;
-    BareView view;
-    view.show(PopupContent(0), BesideTheTool);
-    watch.watch(view.window());
-    return watch.seconds();
+    std::unique_ptr<BareView> view;
+    return watch.secondsFor([&] {
+        view = std::make_unique<BareView>();
+        view->show(PopupContent(0), BesideTheTool);
+        watch.watch(view->window());
+    });
 }
