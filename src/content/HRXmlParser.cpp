@@ -249,6 +249,7 @@ bool HRXmlParser::startPrefixMapping(const QString &prefix, const QString &)
 
 bool HRXmlParser::internalEntityDecl(const QString &name, const QString &value)
 {
+    reportEntities(true);
     return d->document->guard().allowsEntity(name, value);
 }
 
@@ -268,7 +269,9 @@ QList<QObject *> HRXmlParser::readDocument(std::unique_ptr<HRXmlDocument> docume
     d->push(new HRXmlElement, nullptr, askMode);
     setContentHandler(this);
     setErrorHandler(this);
-    watchEntities();
+    setDeclHandler(this);
+    setLexicalHandler(this);
+    reportEntities(false);
     d->document = std::move(document);
     parse(d->document.get());
 
@@ -282,11 +285,11 @@ QList<QObject *> HRXmlParser::readDocument(std::unique_ptr<HRXmlDocument> docume
     return objects;
 }
 
-void HRXmlParser::watchEntities()
+/// Asks the reader to call startEntity(). It then looks at each character for the end of one, so
+/// this waits until a document declares entities, which few do.
+void HRXmlParser::reportEntities(bool on)
 {
-    setDeclHandler(this);
-    setLexicalHandler(this);
-    setFeature(QStringLiteral("http://qt-project.org/xml/features/report-start-end-entity"), true);
+    setFeature(QStringLiteral("http://qt-project.org/xml/features/report-start-end-entity"), on);
 }
 
 } // namespace Hintreels

@@ -93,7 +93,7 @@ private:
     bool endDTD() override;
 
     QList<QObject *> readDocument(std::unique_ptr<HRXmlDocument> document);
-    void watchEntities();
+    void reportEntities(bool on);
 
     std::unique_ptr<HRXmlParserPrivate> d;
 };

@@ -89,6 +89,7 @@ private Q_SLOTS:
     void read_stopsDeepNesting_whateverTheStack_data();
     void read_stopsDeepNesting_whateverTheStack();
     void read_goesOnAfterRefusal();
+    void read_refusesAnew_afterDocumentWithoutEntities();
 };
 
 void tst_HRXmlParserSafety::read_refuses_data()
@@ -220,6 +221,17 @@ void tst_HRXmlParserSafety::read_goesOnAfterRefusal()
     const std::unique_ptr<QObject> tree(parser.read(good).value(0));
     QVERIFY(tree);
     QCOMPARE(tree->property("content").toString(), QString("lol").repeated(10));
+}
+
+void tst_HRXmlParserSafety::read_refusesAnew_afterDocumentWithoutEntities()
+{
+    MessageGuard messages;
+    HRXmlParser parser;
+    for (int round = 0; round < 2; ++round) {
+        qDeleteAll(parser.read("<a>&amp;</a>"));
+        qDeleteAll(parser.read(document(laughs(9), "&l0;").toUtf8()));
+        QCOMPARE(messages.takeMessages().size(), 1);
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_HRXmlParserSafety)
