@@ -37,9 +37,12 @@ void ColdCaches::fill()
         return;
     constexpr size_t Size = 96 << 20; // more than the caches of desktop processors hold
     constexpr size_t Line = 64;
+    constexpr int Passes = 4; // caches that adapt keep some of what was used often through one
     static std::vector<char> memory(Size);
-    for (size_t i = 0; i < memory.size(); i += Line)
-        ++memory[i];
+    for (int pass = 0; pass < Passes; ++pass) {
+        for (size_t i = 0; i < memory.size(); i += Line)
+            ++memory[i];
+    }
 }
 
 void expect(bool answer, bool expected)
