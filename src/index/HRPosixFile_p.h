@@ -74,8 +74,6 @@ class HRRegularFile
 public:
     /// @param path as QFile::encodeName() spells it
     explicit HRRegularFile(const QByteArray &path);
-    /// Reads such a file whole.
-    bool readRegularFile(const QString &path, QByteArray &bytes);
 
     /// A file that a directory lists.
     HRRegularFile(const HRDirectoryListing &listing, const HRListedFile &file);
