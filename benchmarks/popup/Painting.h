@@ -16,8 +16,8 @@ class PaintWatch : public QObject
 public:
     /// Makes the request from an event, as a host does, and handles events until it is painted.
     ///
-    /// Qt deletes what is to be deleted later before it paints, but only where an event asked for
-    /// that.
+    /// Outside of an event loop Qt deletes old content before the frame for some requests and after
+    /// it for others, by how they were made; here it is after the frame for all.
     double secondsFor(const std::function<void()> &request);
 
 protected:
