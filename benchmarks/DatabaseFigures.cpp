@@ -4,16 +4,19 @@
 #include "Figures.h"
 
 #include "Baselines.h"
+#include "FigureRuns.h"
 #include "Measuring.h"
 #include "PackageTree.h"
-#include "RatioTable.h"
 #include "context/HRContext.h"
 #include "index/HRPackageIndex.h"
 #include "index/HRSQLiteIndex.h"
 
 #include <QDir>
+#include <QSqlDatabase>
+#include <QSqlQuery>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <map>
 #include <memory>
 
@@ -85,7 +88,7 @@ Baseline::Lookup &filledLookup(int files)
 double startPackageIndex(int files)
 {
     HRPackageIndex index(&databases(files).context, {});
-    return seconds([&] {
+    return coldSeconds([&] {
         expect(index.open(), true);
         scan(index, settledTree(files));
     });
@@ -94,7 +97,7 @@ double startPackageIndex(int files)
 double startAndStorePackageIndex(int files)
 {
     HRPackageIndex index(&databases(files).context, {});
-    return seconds([&] {
+    return coldSeconds([&] {
         expect(index.open(), true);
         scan(index, settledTree(files));
         index.close();
@@ -111,31 +114,34 @@ void editSome(int files)
     waitUntilSettled();
 }
 
-void addSqliteFigures(RatioTable &table, int files)
+double startSqliteIndex(HRContext &context, int files)
 {
-    table.add({ "HRSQLiteIndex: filling", files, 1.3,
+    HRSQLiteIndex index(&context, {});
+    const double taken = coldSeconds([&] { fill(index, files); });
+    index.close();
+    return taken;
+}
+
+void addSqliteFigures(FigureRuns &runs, int files)
+{
+    runs.add({ "HRSQLiteIndex: filling", files, Bar::atMost(1.3),
         [=] {
             const QString path = databases(files).path("filling.sqlite");
-            return seconds([&] { Baseline::fillDatabase(settledTree(files), 0, 1, path); });
+            return coldSeconds([&] { Baseline::fillDatabase(settledTree(files), 0, 1, path); });
         },
-        [=] {
-            HRSQLiteIndex index(&databases(files).context, {});
-            const double taken = seconds([&] { fill(index, files); });
-            index.close();
-            return taken;
-        },
-        files > 1000 ? 5 : 10 });
-    table.add({ "HRSQLiteIndex: key that nobody has, all locales", files, 1.5,
+        [=] { return startSqliteIndex(databases(files).context, files); },
+        files == manyFiles ? 5 : 10 });
+    runs.add({ "HRSQLiteIndex: key that nobody has, all locales", files, Bar::atMost(1.5),
         [=] {
             Baseline::Lookup &lookup = filledLookup(files);
-            return seconds([&] {
+            return coldSeconds([&] {
                 for (const QString &locale : PackageTree::locales())
                     expect(lookup.find(NobodysKey, locale), false);
             });
         },
         [=] {
             HRSQLiteIndex &index = filledIndex(files);
-            return seconds([&] {
+            return coldSeconds([&] {
                 for (const QString &locale : PackageTree::locales())
                     expect(find(index, NobodysKey, locale), false);
             });
@@ -143,18 +149,40 @@ void addSqliteFigures(RatioTable &table, int files)
         50 });
 }
 
-void addPackageFigures(RatioTable &table, int files)
+/// Holds a database as another program would that writes for long.
+class Lock
 {
-    table.add({ "HRPackageIndex: warm start, nothing changed", files, 2,
-        [=] { return seconds([&] { Baseline::listAndStat(settledTree(files)); }); },
+public:
+    explicit Lock(const QString &path)
+        : m_database(QSqlDatabase::addDatabase("QSQLITE", Connection))
+    {
+        m_database.setDatabaseName(path);
+        expect(m_database.open() && QSqlQuery(m_database).exec("BEGIN EXCLUSIVE"), true);
+    }
+
+    ~Lock()
+    {
+        m_database = QSqlDatabase();
+        QSqlDatabase::removeDatabase(Connection);
+    }
+
+private:
+    const QString Connection = "lock";
+    QSqlDatabase m_database;
+};
+
+void addPackageFigures(FigureRuns &runs, int files)
+{
+    runs.add({ "HRPackageIndex: warm start, nothing changed", files, Bar::atMost(2),
+        [=] { return coldSeconds([&] { Baseline::listAndStat(settledTree(files)); }); },
         [=] {
             startPackageIndex(files); // takes in what other measurements have changed
             return startPackageIndex(files);
         } });
-    table.add({ "HRPackageIndex: warm start after 1 % of the files changed", files, 1.3,
+    runs.add({ "HRPackageIndex: warm start after 1 % of the files changed", files, Bar::atMost(1.3),
         [=] {
             const QString path = databases(files).path("changed.sqlite");
-            return seconds([&] {
+            return coldSeconds([&] {
                 Baseline::listAndStat(settledTree(files));
                 Baseline::fillDatabase(settledTree(files), 0, ChangedStep, path);
             });
@@ -167,12 +195,34 @@ void addPackageFigures(RatioTable &table, int files)
         3 });
 }
 
+double startLocked(int files)
+{
+    Databases &all = databases(files);
+    HRSQLiteIndex index(&all.context, {});
+    const double opening = coldSeconds([&] { expect(index.open(), true); });
+    double scanning = 0;
+    {
+        const Lock lock(all.path("Zentora_Bench_HRI.sqlite"));
+        scanning = coldSeconds([&] { scan(index, settledTree(files)); });
+    }
+    index.close();
+    return opening + scanning;
+}
+
 } // namespace
 
-void addDatabaseFigures(RatioTable &table, int files)
+void addDatabaseFigures(FigureRuns &runs, int files)
 {
-    addSqliteFigures(table, files);
-    addPackageFigures(table, files);
+    addSqliteFigures(runs, files);
+    addPackageFigures(runs, files);
+}
+
+void addLockFigures(FigureRuns &runs)
+{
+    constexpr double Waiting = 1; // s, that may go by until the index knows that nothing moves
+    runs.add({ "HRSQLiteIndex: start while another holds the lock, less a second", 0,
+        Bar::atMost(2), [] { return startSqliteIndex(databases(fewFiles).context, fewFiles); },
+        [] { return std::max(0.0, startLocked(fewFiles) - Waiting); }, 3 });
 }
 
 void dropDatabases()

@@ -4,9 +4,9 @@
 #include "Figures.h"
 
 #include "Baselines.h"
+#include "FigureRuns.h"
 #include "Measuring.h"
 #include "PackageTree.h"
-#include "RatioTable.h"
 #include "index/HRIndex.h"
 
 #include <malloc.h>
@@ -48,42 +48,43 @@ bool findMiddle(int files)
     return find(warmIndex(files), PackageTree::keyOf(middle), PackageTree::localeOf(middle));
 }
 
-void addWarmLookUps(RatioTable &table, int files)
+void addWarmLookUps(FigureRuns &runs, int files)
 {
-    table.add({ "HRIndex: key that nobody has", files, 1.5,
-        [=] { return seconds([&] { Baseline::statAll(settledTree(files)); }); },
+    runs.add({ "HRIndex: key that nobody has", files, Bar::atMost(1.5),
+        [=] { return coldSeconds([&] { Baseline::statAll(settledTree(files)); }); },
         [=] {
             HRIndex &index = warmIndex(files);
-            return seconds([&] { expect(find(index, NobodysKey, "en_US"), false); });
+            return coldSeconds([&] { expect(find(index, NobodysKey, "en_US"), false); });
         } });
-    table.add({ "HRIndex: key in the middle file", files, 1.3,
+    runs.add({ "HRIndex: key in the middle file", files, Bar::atMost(1.3),
         [=] {
-            return seconds([&] {
+            return coldSeconds([&] {
                 Baseline::statAll(settledTree(files));
                 Baseline::parse(middlePath(files));
             });
         },
         [=] {
             warmIndex(files);
-            return seconds([&] { expect(findMiddle(files), true); });
+            return coldSeconds([&] { expect(findMiddle(files), true); });
         } });
 }
 
-void addLookUpsThatRead(RatioTable &table, int files)
+void addLookUpsThatRead(FigureRuns &runs, int files)
 {
-    table.add({ "HRIndex: the very first look-up, key that nobody has", files, 3,
+    runs.add({ "HRIndex: the very first look-up, key that nobody has", files, Bar::atMost(3),
         [=] {
-            return seconds([&] { Baseline::searchAll(settledTree(files), NobodysKey.toUtf8()); });
+            return coldSeconds(
+                [&] { Baseline::searchAll(settledTree(files), NobodysKey.toUtf8()); });
         },
         [=] {
             HRIndex index(nullptr, {});
             scan(index, settledTree(files));
-            return seconds([&] { expect(find(index, NobodysKey, "en_US"), false); });
+            return coldSeconds([&] { expect(find(index, NobodysKey, "en_US"), false); });
         },
         5 });
-    table.add({ "HRIndex: a later look-up after one file was edited", files, 1.3,
+    runs.add({ "HRIndex: a later look-up after one file was edited", files, Bar::atMost(1.3),
         [=] {
-            return seconds([&] {
+            return coldSeconds([&] {
                 Baseline::statAll(settledTree(files));
                 Baseline::parse(settledTree(files).files().back().path);
                 Baseline::parse(middlePath(files));
@@ -92,7 +93,7 @@ void addLookUpsThatRead(RatioTable &table, int files)
         [=] {
             warmIndex(files);
             settledTree(files).edit(files - 1);
-            const double taken = seconds([&] { expect(findMiddle(files), true); });
+            const double taken = coldSeconds([&] { expect(findMiddle(files), true); });
             waitUntilSettled();
             findMiddle(files);
             return taken;
@@ -100,15 +101,15 @@ void addLookUpsThatRead(RatioTable &table, int files)
         3 });
 }
 
-void addStartAndMemory(RatioTable &table, int files)
+void addStartAndMemory(FigureRuns &runs, int files)
 {
-    table.add({ "start with HRIndex: scan and root elements", files, 2,
-        [=] { return seconds([&] { Baseline::listAndReadHeads(settledTree(files)); }); },
+    runs.add({ "start with HRIndex: scan and root elements", files, Bar::atMost(2),
+        [=] { return coldSeconds([&] { Baseline::listAndReadHeads(settledTree(files)); }); },
         [=] {
             HRIndex index(nullptr, {});
-            return seconds([&] { scan(index, settledTree(files)); });
+            return coldSeconds([&] { scan(index, settledTree(files)); });
         } });
-    table.add({ "HRIndex: memory of the remembered readings", files, 4,
+    runs.add({ "HRIndex: memory of the remembered readings", files, Bar::atMost(4),
         [=] { return double(settledTree(files).keyBytes()); },
         [=] {
             HRIndex index(nullptr, {});
@@ -117,14 +118,14 @@ void addStartAndMemory(RatioTable &table, int files)
             find(index, NobodysKey, "en_US");
             return double(::mallinfo2().uordblks - before);
         },
-        1 });
+        1, Statistic::least, Unit::bytes });
 }
 
 } // namespace
 
-void addIndexFigures(RatioTable &table, int files)
+void addIndexFigures(FigureRuns &runs, int files)
 {
-    addWarmLookUps(table, files);
-    addLookUpsThatRead(table, files);
-    addStartAndMemory(table, files);
+    addWarmLookUps(runs, files);
+    addLookUpsThatRead(runs, files);
+    addStartAndMemory(runs, files);
 }

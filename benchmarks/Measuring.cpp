@@ -11,30 +11,22 @@
 
 #include <QLocale>
 
-#include <vector>
+#include <malloc.h>
+
+#include <algorithm>
+#include <ctime>
+#include <limits>
 
 using namespace Hintreels;
 
-namespace {
-
-bool areCold = false;
-
-} // namespace
-
-ColdCaches::ColdCaches()
+void keepMemory()
 {
-    areCold = true;
+    ::mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
+    ::mallopt(M_MMAP_MAX, 0);
 }
 
-ColdCaches::~ColdCaches()
+void emptyCaches()
 {
-    areCold = false;
-}
-
-void ColdCaches::fill()
-{
-    if (!areCold)
-        return;
     constexpr size_t Size = 96 << 20; // more than the caches of desktop processors hold
     constexpr size_t Line = 64;
     constexpr int Passes = 4; // caches that adapt keep some of what was used often through one
@@ -43,6 +35,24 @@ void ColdCaches::fill()
         for (size_t i = 0; i < memory.size(); i += Line)
             ++memory[i];
     }
+}
+
+double processorSeconds(const std::function<void()> &action)
+{
+    const auto now = [] {
+        timespec time;
+        clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+        return double(time.tv_sec) + double(time.tv_nsec) / 1e9;
+    };
+    const double begin = now();
+    action();
+    return now() - begin;
+}
+
+double quantile(std::vector<double> values, double share)
+{
+    std::sort(values.begin(), values.end());
+    return values[std::min(size_t(double(values.size()) * share), values.size() - 1)];
 }
 
 void expect(bool answer, bool expected)

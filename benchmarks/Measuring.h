@@ -6,34 +6,48 @@
 #include <QElapsedTimer>
 #include <QString>
 
+#include <functional>
+#include <vector>
+
 namespace Hintreels {
 class HRIndex;
 }
 
 class PackageTree;
 
-/// While one lives, everything timed finds the processor's caches full of something else. Else what
-/// a thousand files need would stay there from run to run, and what ten thousand need would not.
-class ColdCaches
-{
-public:
-    ColdCaches();
-    ~ColdCaches();
+/// Has the program keep memory that it has once got. Else what one measurement gives back to the
+/// system is paid for by whichever comes next, page by page: most of what made figures jump.
+void keepMemory();
 
-    /// Fills the caches if one lives.
-    static void fill();
-};
+/// Fills the processor's caches with something else.
+void emptyCaches();
 
 /// How long something takes, in seconds.
 template <typename Action>
 double seconds(Action action)
 {
-    ColdCaches::fill();
     QElapsedTimer timer;
     timer.start();
     action();
     return double(timer.nsecsElapsed()) / 1e9;
 }
+
+/// How long something takes in a program that has done other work since, in seconds: as starts and
+/// look-ups do for whoever waits for them. With caches as the last measurement has left them, a
+/// thousand files would seem to cost nothing.
+template <typename Action>
+double coldSeconds(Action action)
+{
+    emptyCaches();
+    return seconds(action);
+}
+
+/// The seconds that the processors spend on the program, all its threads, during an action: what
+/// else runs on the machine does not count.
+double processorSeconds(const std::function<void()> &action);
+
+/// The value below which a share of the values lie.
+double quantile(std::vector<double> values, double share);
 
 /// Ends the program where an answer is wrong: nothing is measured then.
 void expect(bool answer, bool expected);

@@ -4,8 +4,8 @@
 #include "Figures.h"
 
 #include "Baselines.h"
+#include "FigureRuns.h"
 #include "Measuring.h"
-#include "RatioTable.h"
 #include "manager/HRInterpolation_p.h"
 
 #include <QMap>
@@ -20,7 +20,7 @@ constexpr int Rounds = 1000; // of one measurement, since one round is too short
 
 } // namespace
 
-void addTextFigures(RatioTable &table)
+void addTextFigures(FigureRuns &runs)
 {
     QString text;
     QStringList names;
@@ -30,7 +30,7 @@ void addTextFigures(RatioTable &table)
         names += i % 2 ? "key" : "name";
     }
     const QMap<QString, QVariant> values{ { "key", "Ctrl+K" }, { "name", "Pen" } };
-    table.add({ "20 placeholders in a text", 0, 4,
+    runs.add({ "20 placeholders in a text", 0, Bar::atMost(4),
         [=] {
             return seconds([&] {
                 for (int i = 0; i < Rounds; ++i)

@@ -18,7 +18,9 @@ if(HINTREELS_CCACHE)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
         CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
         ${HINTREELS_CCACHE})
-    add_compile_options(-fpch-preprocess)
+    add_compile_options(
+        $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>
+        "$<$<CXX_COMPILER_ID:Clang>:SHELL:-Xclang -fno-pch-timestamp>")
 endif()
 
 # The warnings and definitions of our own code; Qt's SAX classes are deprecated and stay in use.
@@ -29,6 +31,21 @@ function(hintreels_compile_options target)
     target_compile_definitions(${target} PRIVATE
         QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
         QT_NO_KEYWORDS)
+endfunction()
+
+include(CheckPIESupported)
+check_pie_supported()
+
+# What makes a fault in memory end the process instead of running foreign code; sanitizers find such
+# faults themselves, and do not see through the checked functions of the C library.
+function(hintreels_harden target)
+    set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+    target_compile_options(${target} PRIVATE -fstack-protector-strong)
+    if(NOT CMAKE_CXX_FLAGS MATCHES "-fsanitize")
+        target_compile_options(${target} PRIVATE
+            "$<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
+    endif()
+    target_link_options(${target} PRIVATE -Wl,-z,relro,-z,now,-z,noexecstack)
 endfunction()
 
 # Links the Qt headers that nearly every source includes into one precompiled header.

@@ -3,7 +3,7 @@
 
 #include "popup/PopupFigures.h"
 
-#include "RatioTable.h"
+#include "FigureRuns.h"
 #include "popup/Popups.h"
 
 #include <QCoreApplication>
@@ -52,11 +52,12 @@ Measure started(const QString &popup)
 
 } // namespace
 
-void addPopupFigures(RatioTable &table)
+void addPopupFigures(FigureRuns &runs)
 {
     const auto add = [&](const char *name, double bar, const Measure &baseline, const Measure &ours,
                          int repetitions) {
-        table.add({ name, 0, bar, baseline, ours, repetitions, Statistic::interquartileMean });
+        runs.add({ name, 0, Bar::atMost(bar), baseline, ours, repetitions,
+            Statistic::interquartileMean });
     };
     using Before = Popups::Before;
     const Measure appears = shown(&Popups::hover, Before::nothing);

@@ -3,10 +3,10 @@
 
 #pragma once
 
-class RatioTable;
+class FigureRuns;
 
 /// Adds the figures of popups. They need a screen, and draw with Qt Quick's software renderer.
-void addPopupFigures(RatioTable &table);
+void addPopupFigures(FigureRuns &runs);
 
 /// Closes the popups that were measured; no window may outlive the application.
 void dropPopups();

@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 
 #include "Clips.h"
-#include "Figures.h"
+#include "FigureRuns.h"
+#include "Measuring.h"
 #include "OneThread.h"
+#include "VideoFigures.h"
 #include "video/HRClip_p.h"
 #include "video/HRCompactFrameCache_p.h"
 #include "video/HRVideoSourceFFMPEG.h"
@@ -12,14 +14,16 @@
 #include <QUrl>
 
 #include <malloc.h>
+
+#include <algorithm>
+#include <memory>
 #include <numeric>
 #include <random>
+#include <vector>
 
 using namespace Hintreels;
 
 namespace {
-
-constexpr int runs = 5;
 
 // From a resting thread asked for the clip to the end of its stream.
 double effortToDecode(const QString &path)
@@ -30,7 +34,7 @@ double effortToDecode(const QString &path)
         &source, &HRVideoSource::streamEnded, &source, [&ended] { ended.release(); },
         Qt::DirectConnection);
     source.start();
-    return effortOf([&] {
+    return processorSeconds([&] {
         source.setSource(QUrl::fromLocalFile(path));
         ended.acquire();
     });
@@ -51,69 +55,119 @@ void fill(HRCompactFrameCache *cache, const QString &path)
         cache->addFrame(picture);
 }
 
-Figure decoding(const Clip &clip)
+std::string named(const char *what, const QSize &size, bool isScreen)
 {
-    const Least least = leastOf(
-        runs, [&] { return effortOf([&] { OneThread(clip.path).decode(clipPictures); }); },
-        [&] { return effortToDecode(clip.path); });
-    return { "decode whole, " + clip.name, Figure::ratio, "s", least.baseline, least.ours,
-        clip.isScreen ? 1.4 : 1.6 };
+    return std::string(what) + (isScreen ? ", screen " : ", motion ") + std::to_string(size.width())
+        + "x" + std::to_string(size.height());
 }
 
-Figure memory(const Clip &clip)
+void addDecoding(FigureRuns &runs, const QSize &size, bool isScreen)
 {
-    const double before = bytesInUse();
-    HRCompactFrameCache cache("x");
-    fill(&cache, clip.path);
-    const double bytes = bytesInUse() - before;
-    const double plain = 4.0 * clip.size.width() * clip.size.height() * clipPictures;
-    return { "memory, " + clip.name, Figure::ratio, "MB", plain / 1e6, bytes / 1e6,
-        clip.isScreen ? 0.10 : 1.02 };
+    runs.add({ named("decode whole", size, isScreen), 0, Bar::atMost(isScreen ? 1.4 : 1.6),
+        [=] {
+            const QString path = clipOf(size, isScreen).path;
+            return processorSeconds([&] { OneThread(path).decode(clipPictures); });
+        },
+        [=] { return effortToDecode(clipOf(size, isScreen).path); }, 5 });
+    runs.add({ named("memory", size, isScreen), 0, Bar::atMost(isScreen ? 0.10 : 1.02),
+        [=] { return 4.0 * size.width() * size.height() * clipPictures; },
+        [=] {
+            const QString path = clipOf(size, isScreen).path;
+            const double before = bytesInUse();
+            HRCompactFrameCache cache("x");
+            fill(&cache, path);
+            return bytesInUse() - before;
+        },
+        1, Statistic::least, Unit::bytes });
 }
 
-QVector<double> readingTimes(HRCompactFrameCache *cache, const QVector<int> &indexes)
+/// A clip whose pictures are all in a cache, and what one picture costs without one.
+struct CachedClip
 {
-    QVector<double> times;
+    explicit CachedClip(const Clip &clip)
+        : name(clip.name)
+        , straight(clip.path)
+    {
+        fill(&cache, clip.path);
+        straight.decode(10);
+    }
+
+    QString name;
+    HRCompactFrameCache cache{ "x" };
+    OneThread straight;
+};
+
+/// The one that is in use; only one is kept, since a clip in motion takes a gigabyte.
+std::unique_ptr<CachedClip> &cachedClip()
+{
+    static std::unique_ptr<CachedClip> cached;
+    return cached;
+}
+
+CachedClip &cachedClipOf(const QSize &size, bool isScreen)
+{
+    const Clip &clip = clipOf(size, isScreen);
+    if (!cachedClip() || cachedClip()->name != clip.name)
+        cachedClip() = std::make_unique<CachedClip>(clip);
+    return *cachedClip();
+}
+
+double scalingTime(CachedClip &clip)
+{
+    return processorSeconds([&] {
+        for (int i = 0; i < clipPictures; ++i)
+            clip.straight.scale();
+    }) / clipPictures;
+}
+
+std::vector<double> readingTimes(HRCompactFrameCache &cache, const std::vector<size_t> &indexes)
+{
+    std::vector<double> times;
     HRVideoFrame shown; // as the item holds the picture before
-    for (int index : indexes)
-        times.append(effortOf([&] { shown = cache->frame(size_t(index)); }));
+    for (const size_t index : indexes)
+        times.push_back(processorSeconds([&] { shown = cache.frame(index); }));
     return times;
 }
 
-Figures reading(const Clip &clip)
+std::vector<size_t> inOrder()
 {
-    HRCompactFrameCache cache("x");
-    fill(&cache, clip.path);
-    OneThread straight(clip.path);
-    straight.decode(10);
-    QVector<int> inOrder;
-    QVector<int> random;
+    std::vector<size_t> indexes(clipPictures);
+    std::iota(indexes.begin(), indexes.end(), size_t(0));
+    return indexes;
+}
+
+std::vector<size_t> atRandom()
+{
     std::mt19937 generator(1);
-    for (int i = 0; i < clipPictures; ++i) {
-        inOrder.append(i);
-        random.append(int(generator() % clipPictures));
-    }
-    double scaling = 1e9;
-    double mean = 1e9;
-    double late = 1e9;
-    for (int run = 0; run < runs; ++run) {
-        scaling = qMin(scaling, effortOf([&] {
-            for (int i = 0; i < clipPictures; ++i)
-                straight.scale();
-        }) / clipPictures);
-        const QVector<double> times = readingTimes(&cache, inOrder);
-        mean = qMin(mean, std::accumulate(times.begin(), times.end(), 0.0) / clipPictures);
-        late = qMin(late, quantile(readingTimes(&cache, random), 0.99));
-    }
-    return { { "read in order, mean, " + clip.name, Figure::ratio, "ms", scaling * 1e3, mean * 1e3,
-                 1.0 },
-        { "read at random, 99 %, " + clip.name, Figure::ratio, "ms", scaling * 1e3, late * 1e3,
-            2.0 } };
+    std::vector<size_t> indexes(clipPictures);
+    std::generate(indexes.begin(), indexes.end(), [&] { return generator() % clipPictures; });
+    return indexes;
+}
+
+void addReading(FigureRuns &runs, const QSize &size, bool isScreen)
+{
+    const Measure scaling = [=] { return scalingTime(cachedClipOf(size, isScreen)); };
+    runs.add({ named("read in order, mean", size, isScreen), 0, Bar::atMost(1), scaling,
+        [=] {
+            const auto times = readingTimes(cachedClipOf(size, isScreen).cache, inOrder());
+            return std::accumulate(times.begin(), times.end(), 0.0) / clipPictures;
+        },
+        5 });
+    runs.add({ named("read at random, 99 %", size, isScreen), 0, Bar::atMost(2), scaling,
+        [=] {
+            return quantile(readingTimes(cachedClipOf(size, isScreen).cache, atRandom()), 0.99);
+        },
+        5 });
 }
 
 } // namespace
 
-Figures cacheFigures(const Clip &clip)
+void addCacheFigures(FigureRuns &runs)
 {
-    return Figures{ decoding(clip), memory(clip) } + reading(clip);
+    for (const bool isScreen : { true, false }) {
+        for (const QSize &size : { SmallClip, LargeClip }) {
+            addDecoding(runs, size, isScreen);
+            addReading(runs, size, isScreen);
+        }
+    }
 }

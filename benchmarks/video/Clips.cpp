@@ -3,11 +3,16 @@
 
 #include "Clips.h"
 
+#include "VideoFigures.h"
 #include "support/TestClip.h"
 
+#include <QFile>
 #include <QPainter>
+#include <QTemporaryDir>
 #include <QtMath>
 
+#include <map>
+#include <memory>
 #include <random>
 
 namespace {
@@ -102,22 +107,73 @@ private:
     QImage m_field;
 };
 
+constexpr int rateClipSeconds = 5;
+
+/// Where all clips lie until dropClips().
+std::unique_ptr<QTemporaryDir> &directory()
+{
+    static std::unique_ptr<QTemporaryDir> directory;
+    if (!directory)
+        directory = std::make_unique<QTemporaryDir>();
+    return directory;
+}
+
+std::map<QString, Clip> &clips()
+{
+    static std::map<QString, Clip> clips;
+    return clips;
+}
+
+QString write(TestClip encoded, const QString &name, bool isScreen)
+{
+    encoded.options = "crf=20:preset=veryfast";
+    Screen screen(encoded.size);
+    const Motion motion(encoded.size);
+    return encoded.write(directory()->filePath(name + ".mp4"), [&](const QSize &, int number) {
+        return isScreen ? screen.picture(number) : motion.picture(number);
+    });
+}
+
 } // namespace
 
-Clip makeClip(const QString &directory, const QSize &size, bool isScreen)
+const Clip &clipOf(const QSize &size, bool isScreen)
 {
+    const QString kind = isScreen ? "screen" : "motion";
+    const QString name = QString("%1 %2x%3").arg(kind).arg(size.width()).arg(size.height());
+    const auto found = clips().find(name);
+    if (found != clips().end())
+        return found->second;
     TestClip encoded;
     encoded.size = size;
     encoded.pictures = clipPictures;
     encoded.rate = clipRate;
-    encoded.options = "crf=20:preset=veryfast";
-    Screen screen(size);
-    const Motion motion(size);
-    const QString kind = isScreen ? "screen" : "motion";
-    const QString name = QString("%1 %2x%3").arg(kind).arg(size.width()).arg(size.height());
-    const QString path
-        = encoded.write(directory + '/' + name + ".mp4", [&](const QSize &, int number) {
-              return isScreen ? screen.picture(number) : motion.picture(number);
-          });
-    return { name, path, size, isScreen };
+    const QString path = write(encoded, name, isScreen);
+    return clips().insert({ name, { name, path, size, isScreen } }).first->second;
+}
+
+QString writeClipAt(int rate, int seconds)
+{
+    TestClip encoded;
+    encoded.size = SmallClip / 2;
+    encoded.pictures = rateClipSeconds * rate / seconds;
+    encoded.rate = rate;
+    encoded.seconds = seconds;
+    return write(encoded, QString("%1 in %2").arg(rate).arg(seconds), true);
+}
+
+QStringList copiedClips(int count)
+{
+    const Clip &clip = clipOf(SmallClip, true);
+    QStringList copies;
+    for (int i = 0; i < count; ++i) {
+        copies += directory()->filePath(QString("copy %1.mp4").arg(i));
+        QFile::copy(clip.path, copies.last());
+    }
+    return copies;
+}
+
+void dropClips()
+{
+    clips().clear();
+    directory().reset();
 }

@@ -5,8 +5,9 @@
 
 #include <QSize>
 #include <QString>
+#include <QStringList>
 
-/// A clip to measure with: 10 s at 30 pictures a second, H.264, the same on every run.
+/// A clip to measure with, the same on every run: 10 s at 30 pictures a second, in H.264.
 struct Clip
 {
     QString name;
@@ -18,5 +19,14 @@ struct Clip
 constexpr int clipPictures = 300;
 constexpr int clipRate = 30; // pictures a second
 
-/// Encodes a clip into @p directory.
-Clip makeClip(const QString &directory, const QSize &size, bool isScreen);
+/// The clip of this kind, which is encoded when it is asked for first.
+const Clip &clipOf(const QSize &size, bool isScreen);
+
+/// A small clip of the screen kind, 5 s long, at @p rate pictures in @p seconds.
+QString writeClipAt(int rate, int seconds);
+
+/// As many copies of a small clip, by different names.
+QStringList copiedClips(int count);
+
+const QSize SmallClip(640, 360);
+const QSize LargeClip(1280, 720);

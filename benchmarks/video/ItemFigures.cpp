@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 
 #include "Clips.h"
-#include "Figures.h"
+#include "FigureRuns.h"
+#include "Measuring.h"
 #include "OneThread.h"
 #include "Stage.h"
+#include "VideoFigures.h"
 #include "video/HRClip_p.h"
 #include "video/HRCompactFrameCache_p.h"
 
@@ -12,7 +14,10 @@
 #include <QPainter>
 #include <QTimer>
 
+#include <algorithm>
+#include <memory>
 #include <random>
+#include <vector>
 
 using namespace Hintreels;
 
@@ -24,93 +29,110 @@ double secondsToFirstPicture(const QString &path)
 {
     Stage stage(path);
     stage.item->startWatch();
-    return secondsOf([&stage] {
+    return seconds([&stage] {
         stage.setSource();
         stage.runUntil([&stage] { return !stage.item->paintings.isEmpty(); });
     });
 }
 
-Figure firstPicture(const Clip &clip)
+/// A clip that is shown, beside its pictures without an item.
+struct ShownClip
 {
-    const Least least = leastOf(
-        10, [&] { return secondsOf([&] { OneThread(clip.path).decode(1); }); },
-        [&] { return secondsToFirstPicture(clip.path); });
-    return { "first picture painted, " + clip.name, Figure::ratio, "ms", least.baseline * 1e3,
-        least.ours * 1e3, 1.2 + refresh / least.baseline };
-}
+    explicit ShownClip(const Clip &clip)
+        : stage(clip.path)
+        , screen(clip.size, QImage::Format_RGB32)
+        , painter(&screen)
+    {
+        HRClip reader([] { return false; });
+        if (!reader.open(clip.path).isNull())
+            qFatal("cannot open %s", qPrintable(clip.path));
+        for (int i = 0; i < clipPictures; ++i)
+            cache.addFrame(reader.readPicture());
+        stage.load();
+    }
 
-/// The GUI thread's work for a picture, beside that of reading and drawing it.
-Figure paintedPicture(const Clip &clip)
-{
-    HRCompactFrameCache cache("x");
-    HRClip reader([] { return false; });
-    if (!reader.open(clip.path).isNull())
-        qFatal("cannot open %s", qPrintable(clip.path));
-    for (int i = 0; i < clipPictures; ++i)
-        cache.addFrame(reader.readPicture());
-    Stage stage(clip.path);
-    stage.load();
-    QImage screen(clip.size, QImage::Format_RGB32);
-    QPainter painter(&screen);
-    HRVideoFrame shown;
-    QVector<double> baseline;
-    QVector<double> ours;
-    for (int i = 1; i < clipPictures; ++i) {
-        baseline.append(secondsOf([&] {
-            shown = cache.frame(size_t(i));
+    double readAndDraw(int picture)
+    {
+        return seconds([&] {
+            shown = cache.frame(size_t(picture));
             painter.drawImage(QPoint(), shown);
-        }));
-        stage.item->setPosition(i);
-        ours.append(secondsOf([&] {
+        });
+    }
+
+    double fetchAndPaint(int picture)
+    {
+        stage.item->setPosition(picture);
+        const double taken = seconds([&] {
             stage.item->frameReady();
             stage.item->HRVideoComponent::paint(&painter);
-        }));
+        });
         QCoreApplication::processEvents();
+        return taken;
     }
-    return { "GUI thread, for a painted picture, " + clip.name, Figure::ratio, "ms",
-        quantile(baseline, 0.5) * 1e3, quantile(ours, 0.5) * 1e3, 1.3 };
+
+    HRCompactFrameCache cache{ "x" };
+    Stage stage;
+    QImage screen;
+    QPainter painter;
+    HRVideoFrame shown;
+};
+
+std::unique_ptr<ShownClip> &shownClip()
+{
+    static std::unique_ptr<ShownClip> shown;
+    return shown;
 }
 
-Figure destruction(const Clip &clip)
+ShownClip &shownClipOrNew()
 {
+    if (!shownClip())
+        shownClip() = std::make_unique<ShownClip>(clipOf(SmallClip, true));
+    return *shownClip();
+}
+
+/// The median over the pictures of a clip.
+Measure forEachPicture(double (ShownClip::*work)(int))
+{
+    return [work] {
+        std::vector<double> times;
+        for (int i = 1; i < clipPictures; ++i)
+            times.push_back((shownClipOrNew().*work)(i));
+        return quantile(times, 0.5);
+    };
+}
+
+double longestDestruction(const Clip &clip)
+{
+    constexpr int Items = 200;
+    constexpr unsigned MostLife = 60; // ms
     std::mt19937 random(2);
     double longest = 0.0;
-    for (int i = 0; i < 200; ++i) {
+    for (int i = 0; i < Items; ++i) {
         Stage stage(clip.path);
         stage.setSource();
         bool over = false;
-        QTimer::singleShot(int(random() % 60), [&over] { over = true; });
+        QTimer::singleShot(int(random() % MostLife), [&over] { over = true; });
         stage.runUntil([&over] { return over; });
-        longest = qMax(longest, secondsOf([&stage] { delete stage.item; }));
+        longest = std::max(longest, seconds([&stage] { delete stage.item; }));
     }
-    return { "longest of 200 destructions, " + clip.name, Figure::atMost, "ms", 0.0, longest * 1e3,
-        250.0 };
-}
-
-Figures smoothness(const Clip &clip)
-{
-    Stage stage(clip.path);
-    stage.load();
-    bool over = false;
-    stage.item->startWatch();
-    QTimer::singleShot(10000, Qt::PreciseTimer, [&over] { over = true; });
-    stage.item->update();
-    stage.item->play();
-    stage.runUntil([&over] { return over; });
-    double longest = 0.0;
-    const QVector<WatchedItem::Painting> &paintings = stage.item->paintings;
-    for (int i = 2; i < paintings.size(); ++i)
-        longest = qMax(longest, paintings[i].time - paintings[i - 1].time);
-    return { { "pictures shown in 10 s, " + clip.name, Figure::atLeast, "", 0.0,
-                 double(paintings.size()), 299.0 },
-        { "longest time for one of them, " + clip.name, Figure::atMost, "ms", 0.0, longest * 1e3,
-            2e3 / clipRate } };
+    return longest;
 }
 
 } // namespace
 
-Figures itemFigures(const Clip &clip)
+void addItemFigures(FigureRuns &runs)
 {
-    return Figures{ firstPicture(clip), paintedPicture(clip), destruction(clip) }
-    + smoothness(clip);
+    const auto clip = [] { return clipOf(SmallClip, true); };
+    runs.add({ "first picture painted, less a refresh of the screen", 0, Bar::atMost(1.2),
+        [=] { return seconds([&] { OneThread(clip().path).decode(1); }); },
+        [=] { return std::max(0.0, secondsToFirstPicture(clip().path) - refresh); } });
+    runs.add({ "GUI thread, for a painted picture", 0, Bar::atMost(1.3),
+        forEachPicture(&ShownClip::readAndDraw), forEachPicture(&ShownClip::fetchAndPaint), 3 });
+    runs.add({ "longest of 200 destructions", 0, Bar::atMost(0.25), nullptr,
+        [=] { return longestDestruction(clip()); }, 1 });
+}
+
+void dropShownClips()
+{
+    shownClip().reset();
 }

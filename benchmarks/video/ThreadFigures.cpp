@@ -1,8 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
-#include "Figures.h"
-
+#include "Clips.h"
+#include "FigureRuns.h"
+#include "Measuring.h"
+#include "OneThread.h"
+#include "VideoFigures.h"
 #include "video/HRVideoController.h"
 #include "video/HRVideoFrameCache.h"
 #include "video/HRVideoSourceFFMPEG.h"
@@ -14,6 +17,7 @@
 #include <condition_variable>
 #include <mutex>
 #include <thread>
+#include <vector>
 
 using namespace Hintreels;
 
@@ -35,13 +39,13 @@ public:
     template <typename Request>
     double median(Request request)
     {
-        QVector<double> times;
+        std::vector<double> times;
         for (int i = 0; i < requests; ++i) {
             QThread::usleep(settling);
             m_timer.start();
             request(i);
             m_done.acquire();
-            times.append(double(m_arrived) / 1e9);
+            times.push_back(double(m_arrived) / 1e9);
         }
         return quantile(times, 0.5);
     }
@@ -138,31 +142,67 @@ protected:
 
 double quitting()
 {
-    QVector<double> times;
+    std::vector<double> times;
     for (int i = 0; i < requests; ++i) {
         EndingSource source;
         source.start();
         QThread::usleep(settling);
         source.timer.start();
         source.quit();
-        times.append(double(source.left) / 1e9);
+        times.push_back(double(source.left) / 1e9);
     }
     return quantile(times, 0.5);
 }
 
-Figure figure(const char *name, double baseline, double ours)
+constexpr int sourcesBefore = 20;
+
+/// From a resting thread asked for many clips at once, to the moment the last is open.
+double lastOfManySources(const QStringList &paths)
 {
-    return { QString("request to a resting thread, %1").arg(name), Figure::ratio, "us",
-        baseline * 1e6, ours * 1e6, 3.0 };
+    HRVideoSourceFFMPEG source;
+    const QUrl last = QUrl::fromLocalFile(paths.last());
+    QSemaphore opened;
+    QObject::connect(
+        &source, &HRVideoSource::sourceLoaded, &source,
+        [&] {
+            if (source.source() == last)
+                opened.release();
+        },
+        Qt::DirectConnection);
+    source.start();
+    QThread::usleep(settling);
+    return seconds([&] {
+        for (const QString &path : paths)
+            source.setSource(QUrl::fromLocalFile(path));
+        opened.acquire();
+    });
+}
+
+double openedInTurn(const QStringList &paths)
+{
+    return seconds([&] {
+        for (const QString &path : paths)
+            OneThread clip(path);
+    });
+}
+
+const QStringList &manyClips()
+{
+    static const QStringList clips = copiedClips(sourcesBefore + 1);
+    return clips;
 }
 
 } // namespace
 
-Figures threadFigures()
+void addThreadFigures(FigureRuns &runs)
 {
-    const Least set = leastOf(3, throughACondition, sourceSet);
-    const Least played = leastOf(3, throughACondition, play);
-    const Least quit = leastOf(3, throughACondition, quitting);
-    return { figure("change", set.baseline, set.ours), figure("play", played.baseline, played.ours),
-        figure("quit", quit.baseline, quit.ours) };
+    const auto add = [&](const char *request, const Measure &ours) {
+        runs.add({ std::string("request to a resting thread, ") + request, 0, Bar::atMost(3),
+            throughACondition, ours, 3 });
+    };
+    add("change", sourceSet);
+    add("play", play);
+    add("quit", quitting);
+    runs.add({ "a source set behind twenty others", 0, Bar::atMost(1.2),
+        [] { return openedInTurn(manyClips()); }, [] { return lastOfManySources(manyClips()); } });
 }

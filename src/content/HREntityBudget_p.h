@@ -12,8 +12,9 @@ namespace Hintreels {
 ///
 /// A few lines of entities that refer to each other can stand for gigabytes of text. Expansion is
 /// refused above 8 MiB, and above 100 times the document's own size where that is more: the rule
-/// of other XML parsers, which honest documents keep by orders of magnitude. Sizes are in
-/// UTF-16 code units, names are without "&", "%" and ";".
+/// of other XML parsers, which honest documents keep by orders of magnitude. So is the declaration
+/// of more than 4,096 entities, or of fewer and longer ones than the reader can search in about a
+/// second a megabyte. Sizes are in UTF-16 code units, names are without "&", "%" and ";".
 class HREntityBudget
 {
 public:
@@ -49,6 +50,8 @@ private:
 
     QHash<QString, Entity> m_entities;
     double m_limit;
+    double m_searchLimit; // entities times characters in all of them
+    double m_declared = 0;
     double m_spent = 0;
 };
 

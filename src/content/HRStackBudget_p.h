@@ -7,30 +7,23 @@
 
 namespace Hintreels {
 
-/// Watches how far the stack has grown since the budget was made, on the thread that made it.
+/// Watches that what recurses without bounds leaves the calling thread enough of its stack.
+///
+/// Of what the stack had left when the budget was made, one half may be used up: the other half is
+/// for what the host does meanwhile. The thread's stack is looked at once a thread. A budget is
+/// used on the thread that made it.
 class HRStackBudget
 {
 public:
-    /// @param bytes how far the stack may grow
-    explicit HRStackBudget(quintptr bytes)
-        : m_start(position())
-        , m_bytes(bytes)
-    {
-    }
+    HRStackBudget();
 
     /// Whether the calling function is still within the budget.
-    bool isLeft() const
-    {
-        // Either way: whether a stack grows up or down is the machine's affair. The difference
-        // wraps around.
-        return position() - m_start + m_bytes < 2 * m_bytes;
-    }
+    bool isLeft() const { return position() > m_end; }
 
 private:
     static quintptr position() { return reinterpret_cast<quintptr>(__builtin_frame_address(0)); }
 
-    quintptr m_start;
-    quintptr m_bytes;
+    quintptr m_end; // stacks grow towards lower addresses
 };
 
 } // namespace Hintreels

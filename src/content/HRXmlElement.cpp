@@ -20,6 +20,9 @@ struct HRXmlElementPrivate
 
 namespace {
 
+// More would help nobody, and a string has an end.
+const int maximumIndentation = 10000;
+
 HRXmlElement *firstChildElement(const HRXmlElement *element)
 {
     const QObjectList &children = element->children();
@@ -104,6 +107,12 @@ struct Pending
     const HRXmlElement *element;
     int indentation;
     bool isOpen;
+
+    QString indent() const
+    {
+        return QString(qBound(0, indentation, maximumIndentation), QLatin1Char(' '));
+    }
+    int childIndentation() const { return qMin(indentation, maximumIndentation) + 2; }
 };
 
 } // namespace
@@ -214,17 +223,16 @@ QString HRXmlElement::toXml(int index) const
     QVector<Pending> pending{ { this, index, false } };
     while (!pending.isEmpty()) {
         const Pending entry = pending.takeLast();
-        const QString indent(qMax(0, entry.indentation), QLatin1Char(' '));
         if (entry.isOpen) {
-            lines.append(closingLine(*entry.element, indent));
+            lines.append(closingLine(*entry.element, entry.indent()));
             continue;
         }
         const QList<HRXmlElement *> children = childElements(entry.element);
-        lines.append(openingLine(*entry.element, indent, children.isEmpty()));
+        lines.append(openingLine(*entry.element, entry.indent(), children.isEmpty()));
         if (!children.isEmpty())
             pending.append({ entry.element, entry.indentation, true });
         for (auto child = children.crbegin(); child != children.crend(); ++child)
-            pending.append({ *child, entry.indentation + 2, false });
+            pending.append({ *child, entry.childIndentation(), false });
     }
     return lines.join(QLatin1Char('\n'));
 }

@@ -93,7 +93,7 @@ public:
     ///
     /// Text and namespaces are left out, and values are not escaped: the result need not be XML.
     /// Placeholders like "%3" in names and values are taken for those of the line's pattern.
-    /// @param index the width of the indentation in spaces; each level below adds two
+    /// @param index the width of the indentation in spaces; each level below adds two, up to 10,000
     Q_INVOKABLE QString toXml(int index = 0) const;
 
 Q_SIGNALS:

@@ -7,17 +7,10 @@ namespace Hintreels {
 
 namespace {
 
-// Half of the smallest stack that a thread usually has; about 1,500 nested elements.
-const quintptr stackBytes = 512 * 1024;
-
 // An element takes four characters or more. So many that there are more come out of entities, where
 // a short text can stand for a great number of them.
 const int charactersPerElement = 4;
 const int alwaysAllowedElements = 50000;
-
-// At each end of an element the reader compares all prefixes in scope with each other.
-const int maximumPrefixes = 32;
-const int maximumPrefixLength = 64;
 
 // Groups are read by recursion, which is out of sight where they stand in an entity.
 const int maximumGroups = 256;
@@ -28,8 +21,7 @@ const char *const expansionReason = "entities expand to too much text";
 } // namespace
 
 HRXmlGuard::HRXmlGuard(int documentSize)
-    : m_stack(stackBytes)
-    , m_entities(documentSize)
+    : m_entities(documentSize)
     , m_elementsLeft(qMax(documentSize / charactersPerElement, alwaysAllowedElements))
 {
 }
@@ -41,15 +33,8 @@ bool HRXmlGuard::refuseNesting()
 
 bool HRXmlGuard::allowsElement()
 {
-    return allowsNesting() && refuseUnless(m_elementsLeft-- > 0, expansionReason);
-}
-
-bool HRXmlGuard::allowsPrefix(const QString &prefix)
-{
-    m_prefixes.insert(prefix);
-    return refuseUnless(
-        m_prefixes.size() <= maximumPrefixes && prefix.size() <= maximumPrefixLength,
-        "too many or too long namespace prefixes");
+    return allowsNesting() && refuseUnless(m_elementsLeft-- > 0, expansionReason)
+        && refuseUnless(m_prefixes.spendElement(), "too many or too long namespace prefixes");
 }
 
 bool HRXmlGuard::allowsEntity(const QString &name, const QString &value)

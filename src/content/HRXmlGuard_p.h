@@ -4,9 +4,9 @@
 #pragma once
 
 #include "content/HREntityBudget_p.h"
+#include "content/HRPrefixBudget_p.h"
 #include "content/HRStackBudget_p.h"
 
-#include <QSet>
 #include <QString>
 
 namespace Hintreels {
@@ -15,8 +15,8 @@ namespace Hintreels {
 ///
 /// Qt's reader recurses and compares without bounds, so that a small malicious document could
 /// exhaust the stack, the memory or the user's patience. The parser asks here at each step; the
-/// first refusal ends the reading. Made where the reading begins, since the stack is measured from
-/// there.
+/// first refusal ends the reading. Made where the reading begins, on its thread, since it may take
+/// half of the stack that is left there.
 class HRXmlGuard
 {
 public:
@@ -27,10 +27,11 @@ public:
     /// comparison.
     bool allowsNesting() { return m_stack.isLeft() || refuseNesting(); }
 
-    /// Whether one more element may become an object.
-    bool allowsElement();
+    /// The prefixes in scope, which their reader keeps up to date.
+    HRPrefixBudget &prefixes() { return m_prefixes; }
 
-    bool allowsPrefix(const QString &prefix);
+    /// Whether one more element may be read, under the prefixes in scope.
+    bool allowsElement();
 
     /// @param name with a leading "%" for an entity of the document type definition
     bool allowsEntity(const QString &name, const QString &value);
@@ -50,7 +51,7 @@ private:
 
     HRStackBudget m_stack;
     HREntityBudget m_entities;
-    QSet<QString> m_prefixes;
+    HRPrefixBudget m_prefixes;
     int m_elementsLeft;
     QString m_refusal;
 };

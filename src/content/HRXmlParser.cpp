@@ -244,7 +244,14 @@ bool HRXmlParser::fatalError(const QXmlParseException &exception)
 
 bool HRXmlParser::startPrefixMapping(const QString &prefix, const QString &)
 {
-    return d->document->guard().allowsPrefix(prefix);
+    d->document->guard().prefixes().enter(prefix);
+    return true;
+}
+
+bool HRXmlParser::endPrefixMapping(const QString &prefix)
+{
+    d->document->guard().prefixes().leave(prefix);
+    return true;
 }
 
 bool HRXmlParser::internalEntityDecl(const QString &name, const QString &value)

@@ -38,7 +38,7 @@ struct HRXmlParserPrivate;
 ///
 /// Errors end the reading; they are written to Qt's debug output with line and column. So are
 /// documents that would exhaust the host: elements nested so deeply that the stack runs short, and
-/// entities or namespace prefixes that are too many or grow too much. External entities are never
+/// entities and namespace prefixes that grow to too much text or work. External entities are never
 /// opened. A document is held in memory whole while it is read.
 ///
 /// A parser may read several documents in turn. Use one parser on one thread.
@@ -88,6 +88,7 @@ private:
 
     // What could exhaust the host is refused here.
     bool startPrefixMapping(const QString &prefix, const QString &uri) override;
+    bool endPrefixMapping(const QString &prefix) override;
     bool internalEntityDecl(const QString &name, const QString &value) override;
     bool startEntity(const QString &name) override;
     bool endDTD() override;

@@ -15,8 +15,10 @@ namespace Hintreels {
 /// The settings that the library reads, by the number under which HRContext stores them.
 ///
 /// Each line names the type, the default that applies when the setting is absent, and the meaning.
-/// The numbers 0, 1, 7, 14, 15 and all above 39 are free for the host's own settings.
-enum contextKey
+/// The numbers 0, 1, 7, 14 and 15, those from 40 to 9999 and all negative ones are the host's own
+/// for good. New settings are numbered from 10000 up; they are ignored where the stored value is
+/// of another type than the one named here.
+enum contextKey : int
 {
     hideDelayKey
         = 2, ///< number, ms, 3000: time until the popup hides by itself; 0 or less is never
@@ -56,7 +58,20 @@ enum contextKey
     translationBaseNameKey = 37, ///< string, "Hintreels": base name of translation files
     scaleKey = 38, ///< double, 1.0: factor for sizes in the UI; read at start
     reducedMotionKey
-        = 39 ///< bool: nothing moves unless the reader asks (absent: as the desktop does)
+        = 39, ///< bool: nothing moves unless the reader asks (absent: as the desktop does)
+    ownFilesOnlyKey = 10000, ///< bool, false: packages open nothing but files of packages, and QML
+                             ///< imports no module but the usual ones and those of qmlModulesKey
+    strangersKey
+        = 10001, ///< bool, false: packages come from strangers: own files only, no network,
+                 ///< no QML but the standard UI, few formats, limited control files
+    allowNetworkKey = 10002, ///< bool, false: QML may reach the network
+    forbidSoftwareRendererKey = 10003, ///< bool, false: without OpenGL show no hints, rather than
+                                       ///< choose the software renderer for the whole process
+    largestPictureKey = 10004, ///< int, megapixels, 64: no clip with a larger picture is played
+    scriptLimitKey = 10005, ///< int, ms, 2000: a script that runs for longer is stopped, and its
+                            ///< hint goes away; 0 or less is never
+    qmlModulesKey = 10006 ///< string list, empty: further modules that QML may import with
+                          ///< ownFilesOnlyKey, with those inside them
 };
 
 } // namespace Hintreels

@@ -7,11 +7,18 @@
 
 namespace Hintreels {
 
+/// From here on a setting counts only where it is stored as the very type that is read: hosts may
+/// have had values of their own under these numbers before the library knew them.
+constexpr int firstStrictKey = 10000;
+
 /// Reads one setting as the type of its default, which applies where the setting is absent.
 template <typename T>
 T setting(const HRContext &context, contextKey key, const T &defaultValue)
 {
-    return context.get(key, QVariant::fromValue(defaultValue)).template value<T>();
+    const QVariant standard = QVariant::fromValue(defaultValue);
+    const QVariant value = context.get(key, standard);
+    const bool isRead = key < firstStrictKey || value.userType() == standard.userType();
+    return isRead ? value.template value<T>() : defaultValue;
 }
 
 } // namespace Hintreels

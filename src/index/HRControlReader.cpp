@@ -6,6 +6,8 @@
 #include "index/HRControlRecords_p.h"
 #include "index/HRPosixFile_p.h"
 
+#include <QFile>
+
 namespace Hintreels {
 
 namespace {
@@ -13,7 +15,7 @@ namespace {
 /// Qt's resources are no files to the operating system; they have no stamp and are always tried.
 bool isResource(const HRControlRecord &record)
 {
-    return record.nativePath.startsWith(':');
+    return record.directory.startsWith(QLatin1Char(':'));
 }
 
 } // namespace
@@ -29,21 +31,21 @@ bool HRControlReader::read(HRControlRecord &record)
 {
     const qint64 now = nanosecondsNow();
     record.isSettled = false;
-    HRRegularFile file(record.nativePath);
+    HRRegularFile file(QFile::encodeName(record.path()));
     if (!file.isOpen())
         return false;
     record.stamp = file.stamp();
     std::optional<HRControlReading> reading;
     if (file.readAll(m_bytes))
         reading = searchControlFile(m_bytes);
-    record.reading = reading ? std::move(*reading) : parseControlFile(record.path);
+    record.reading = reading ? std::move(*reading) : parseControlFile(record.path());
     record.isSettled = isSettled(record.stamp, now);
     return true;
 }
 
 bool HRControlReader::isCurrent(HRControlRecord &record)
 {
-    return record.isSettled && stampOfFile(record.nativePath) == record.stamp;
+    return record.isSettled && stampOfFile(record.directory, record.name) == record.stamp;
 }
 
 } // namespace Hintreels

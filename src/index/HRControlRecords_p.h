@@ -6,24 +6,35 @@
 #include "index/HRControlReading_p.h"
 #include "index/HRFileStamp_p.h"
 
-#include <QByteArray>
-#include <QPair>
-#include <QSet>
 #include <QString>
 
 #include <deque>
+#include <vector>
 
 namespace Hintreels {
 
-/// A control file as it was named to the index, and what is remembered of it.
+/// A control file as it was named to the index, and what is remembered of it. There are thousands,
+/// so none keeps what its neighbours keep, too.
 struct HRControlRecord
 {
-    QString path;
+    HRControlRecord(const QString &path, int levels);
+
+    /// @param place the directory with its slash; the memory of its text is shared
+    HRControlRecord(const QString &place, const QString &fileName, int levels)
+        : directory(place)
+        , name(fileName)
+        , depth(levels)
+    {
+    }
+
+    QString path() const { return directory + name; }
+
+    QString directory; // with its slash
+    QString name;
     int depth; // levels below the package directory; 1 directly in it
-    QByteArray nativePath; // as QFile::encodeName() spells it
-    HRControlReading reading = {};
-    HRFileStamp stamp = {}; // of the file when the reading was taken
-    bool isSettled = false; // whether the stamp will tell of every edit since
+    bool isSettled = false; // whether the stamp will tell of every edit since the reading
+    HRControlReading reading;
+    HRFileStamp stamp; // of the file when the reading was taken
 };
 
 /// The known control files in the order in which they are tried, one for each path and depth.
@@ -40,10 +51,19 @@ public:
     std::deque<HRControlRecord>::iterator end() { return m_records.end(); }
 
 private:
-    bool learn(const HRControlRecord &record);
+    struct Known
+    {
+        const HRControlRecord *record;
+        uint hash;
+    };
 
-    std::deque<HRControlRecord> m_records;
-    QSet<QPair<QString, int>> m_known; // paths and depths
+    bool learn(const HRControlRecord &record);
+    void makeRoom();
+    Known &place(const HRControlRecord &record, uint hash);
+
+    std::deque<HRControlRecord> m_records; // which stay where they are while others are added
+    // A hash table in one piece, with more room than records: a set would need memory for each.
+    std::vector<Known> m_known;
 };
 
 } // namespace Hintreels

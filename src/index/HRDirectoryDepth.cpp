@@ -17,9 +17,11 @@ QString canonicalDirectory(const QString &path)
 
 std::optional<int> levelsOfCanonical(const QString &filePath, const QString &packagePath)
 {
-    if (!filePath.startsWith(packagePath + QLatin1Char('/')))
+    // The root's path is the only one that ends in a slash.
+    const int length = packagePath.size() - (packagePath.endsWith(QLatin1Char('/')) ? 1 : 0);
+    if (!filePath.startsWith(packagePath) || filePath.midRef(length, 1) != QLatin1String("/"))
         return std::nullopt;
-    return filePath.midRef(packagePath.size()).count(QLatin1Char('/'));
+    return filePath.midRef(length).count(QLatin1Char('/'));
 }
 
 } // namespace

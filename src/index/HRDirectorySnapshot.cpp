@@ -89,10 +89,9 @@ HRFileStamp withoutDevice(HRFileStamp stamp)
 
 void decodeKeys(std::string_view bytes, std::vector<quint32> &keys)
 {
-    keys.clear();
-    keys.reserve(bytes.size() / sizeof(quint32));
-    for (; !bytes.empty(); bytes.remove_prefix(sizeof(quint32)))
-        keys.push_back(qFromLittleEndian<quint32>(bytes.data()));
+    keys.resize(bytes.size() / sizeof(quint32));
+    if (!keys.empty())
+        qFromLittleEndian<quint32>(bytes.data(), qsizetype(keys.size()), keys.data());
 }
 
 QByteArray encodeKeys(const std::vector<quint32> &keys)

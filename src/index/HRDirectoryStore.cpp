@@ -32,6 +32,9 @@ HRDirectoryStore::HRDirectoryStore(const QSqlDatabase &database)
     // on disk keeps the file whole when the process is killed.
     QSqlQuery query(m_database);
     query.exec(QStringLiteral("PRAGMA synchronous=OFF"));
+    // Everything is read once: keeping more pages than these (in KiB) only costs fresh memory.
+    query.exec(QStringLiteral("PRAGMA cache_size=-128"));
+    markAsOurs(query);
     query.prepare(QStringLiteral("CREATE TABLE IF NOT EXISTS control_directories "
                                  "( path TEXT PRIMARY KEY, files BLOB )"));
     m_isUsable = run(query);

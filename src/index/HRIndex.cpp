@@ -20,13 +20,12 @@ namespace Hintreels {
 void HRIndexPrivate::follow(HRContext *settings, HRIndex *index)
 {
     context = settings;
-    mappedPackage.clear();
     if (!settings)
         return;
     QObject::connect(
         settings, &HRContext::settingDidChange, index, [this](const HRContextKey &key) {
             if (key == packageSuffixKey)
-                mappedPackage.clear();
+                prepared.mappedPackage.clear();
         });
 }
 
@@ -47,9 +46,11 @@ bool HRIndexPrivate::isControlFile(const QString &path)
     return file.isOpen() && isControlFile(file);
 }
 
-QByteArray HRIndexPrivate::nativePath(const QString &path) const
+HRControlRecord HRIndexPrivate::record(const QString &path, int levels) const
 {
-    return prepared.is(path) ? prepared.listed->nativePath : QFile::encodeName(path);
+    const QString &directory = depth.directory();
+    const QString name = prepared.is(path) ? prepared.listed->name : path.mid(directory.size());
+    return { directory, name, levels };
 }
 
 bool HRIndexPrivate::isControlFile(HRRegularFile &file)
@@ -112,11 +113,12 @@ HRXmlElement *HRIndex::retrieve(
     for (HRControlRecord &record : d->records) {
         if (!d->reader.mayServe(record, number, locale))
             continue;
-        HRXmlElement *entry = load(key, record.path, locale, root);
+        const QString path = record.path();
+        HRXmlElement *entry = load(key, path, locale, root);
         if (!entry)
             continue;
         depth = record.depth;
-        directory = QFileInfo(record.path).absolutePath();
+        directory = QFileInfo(path).absolutePath();
         return entry;
     }
     return nullptr;
@@ -124,7 +126,7 @@ HRXmlElement *HRIndex::retrieve(
 
 bool HRIndex::store(HRXmlElement *, const QLocale &, const QString &filePath, int depth)
 {
-    d->records.addLast({ filePath, depth, QFile::encodeName(filePath) });
+    d->records.addLast({ filePath, depth });
     return true;
 }
 
@@ -142,7 +144,7 @@ QStringList HRIndex::keys()
 {
     QStringList keys;
     for (const HRControlRecord &record : d->records)
-        keys += keysOfControlFile(record.path);
+        keys += keysOfControlFile(record.path());
     return keys;
 }
 
@@ -151,8 +153,8 @@ void HRIndex::indexControlFile(const QString &filePath, const QString &packagePa
     const std::optional<int> depth = d->levels(filePath, packagePath);
     if (!depth || !d->isControlFile(filePath))
         return;
-    if (d->records.addFirst({ filePath, *depth, d->nativePath(filePath) }))
-        mapControlFile(QString(), packagePath);
+    if (d->records.addFirst(d->record(filePath, *depth)))
+        mapPackageOf(filePath, packagePath);
 }
 
 HRXmlElement *HRIndex::load(
@@ -190,11 +192,7 @@ QString HRIndex::packageNameForLocation(const QString &path) const
 
 void HRIndex::mapControlFile(const QString &, const QString &packagePath)
 {
-    // A scan maps the same package for each of its files.
-    if (packagePath == d->mappedPackage)
-        return;
     d->packages.add(packageNameForLocation(packagePath), packagePath);
-    d->mappedPackage = packagePath;
     d->componentQuestion.clear();
 }
 
@@ -245,6 +243,15 @@ bool HRIndex::prepare(const HRDirectoryListing &listing, const HRListedFile &fil
 {
     d->prepared.file.emplace(listing, file);
     return listing.hasResources() || d->prepared.file->isOpen();
+}
+
+void HRIndex::mapPackageOf(const QString &filePath, const QString &packagePath)
+{
+    const bool isScanned = d->prepared.is(filePath);
+    if (isScanned && packagePath == d->prepared.mappedPackage)
+        return;
+    mapControlFile(QString(), packagePath);
+    d->prepared.mappedPackage = isScanned ? packagePath : QString();
 }
 
 bool HRIndex::isInUpdate() const

@@ -70,6 +70,8 @@ public:
 
     /// Records that a control file holds an entry; one record for each path and depth. In memory
     /// neither entry nor locale are looked at, and the file is tried last. Always true.
+    ///
+    /// The entry is borrowed: it lives until the indexControlFile() that hands it in returns.
     virtual bool store(
         HRXmlElement *entry, const QLocale &locale, const QString &filePath, int depth);
 
@@ -128,6 +130,9 @@ protected:
 
     /// What the index knows in memory, for the indexes of this library.
     HRIndexPrivate &memory() { return *d; }
+
+    /// Maps the package of a file that was taken in; of those that a scan names, once a directory.
+    void mapPackageOf(const QString &filePath, const QString &packagePath);
 
 private:
     friend class HRPackageScanner;

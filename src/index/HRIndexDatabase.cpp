@@ -19,6 +19,11 @@ namespace {
 // A statement on a locked database waits this long, where Qt's own five seconds for each of a
 // start's ten statements would look like a hang.
 const QString ConnectOptions = QStringLiteral("QSQLITE_BUSY_TIMEOUT=100");
+const QString Wait = QStringLiteral("PRAGMA busy_timeout=100");
+const QString DoNotWait = QStringLiteral("PRAGMA busy_timeout=0");
+
+// Whoever holds the database may hold it for long, and a start asks for it once a control file.
+constexpr int HasteMilliseconds = 1000;
 
 // SQLite's primary result codes; extended ones carry them in the lowest byte.
 constexpr int BusyCode = 5;
@@ -30,22 +35,40 @@ int primaryCode(const QSqlError &error)
     return error.nativeErrorCode().toInt() & 0xff;
 }
 
-/// Tells a damaged database from a file that never was one: by the head of every database, by our
-/// tables, which stand in the first page, or by nothing but the zeros that a crash of the machine
-/// may leave of a file.
-bool startsLikeDatabase(const QString &path)
+// What our files carry in bytes 68 to 71 of their header: "HtRl".
+constexpr int ApplicationId = 0x4874526c;
+constexpr int ApplicationIdOffset = 68;
+const QByteArray ApplicationIdBytes("HtRl");
+
+bool isAllZeros(QFile &file)
+{
+    while (!file.atEnd()) {
+        const QByteArray bytes = file.read(1 << 16);
+        if (bytes.isEmpty() || bytes.count('\0') != bytes.size())
+            return false;
+    }
+    return true;
+}
+
+/// Whether a file that SQLite cannot read is one of ours all the same: by the mark in its header,
+/// by our tables, which stand in the first page, or by nothing but the zeros that a crash of the
+/// machine may leave of a file. The names alone say little, since a host chooses them.
+bool looksLikeOurs(const QString &path)
 {
     QFile file(path);
     if (!openRegularFile(file, path))
         return false;
     const QByteArray page = file.read(4096);
-    return page.startsWith(QByteArray("SQLite format 3", 16))
+    if (page.mid(ApplicationIdOffset, ApplicationIdBytes.size()) == ApplicationIdBytes
         || page.contains("CREATE TABLE hintreels")
-        || page.contains("CREATE TABLE control_directories") || page.count('\0') == page.size();
+        || page.contains("CREATE TABLE control_directories"))
+        return true;
+    return page.count('\0') == page.size() && isAllZeros(file);
 }
 
 /// Whether a row of the schema is one that our own statements could have made.
-bool isOurs(const QString &type, const QString &name, const QString &sql, const QStringList &tables)
+bool isOurRow(
+    const QString &type, const QString &name, const QString &sql, const QStringList &tables)
 {
     if (name.startsWith(QLatin1String("sqlite_")))
         return type == QLatin1String("table") || type == QLatin1String("index");
@@ -71,21 +94,36 @@ bool isRefusal(const QSqlError &error)
     return primaryCode(error) == BusyCode;
 }
 
+bool markAsOurs(QSqlQuery &query)
+{
+    if (!query.exec(QStringLiteral("PRAGMA application_id")))
+        return false;
+    const bool isMarked = query.next() && query.value(0).toInt() != 0;
+    query.finish();
+    return isMarked || query.exec(QStringLiteral("PRAGMA application_id=%1").arg(ApplicationId));
+}
+
 HRIndexDatabase::~HRIndexDatabase()
 {
     close();
 }
 
 bool HRIndexDatabase::open(
-    const QString &connection, const QString &path, const QStringList &tables)
+    const QString &connection, const QString &path, const QStringList &tables, bool isOwnPlace)
 {
     close();
-    m_damaged = false;
+    m_isOwnPlace = isOwnPlace;
+    m_isDamaged = false;
+    m_wasRefused = false;
+    m_isFailing = false;
+    m_haste = QDeadlineTimer();
     m_handle = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection);
     m_handle.setConnectOptions(ConnectOptions);
     m_handle.setDatabaseName(path);
-    if (takeOwnFile(path) && m_handle.open() && holdsOnly(tables))
+    if (takeOwnFile(path) && m_handle.open() && holdsOnly(tables)) {
+        m_opened = stampOfFile(QFile::encodeName(path));
         return true;
+    }
     close();
     return false;
 }
@@ -107,10 +145,13 @@ void HRIndexDatabase::close()
 bool HRIndexDatabase::isSound()
 {
     QSqlQuery query(m_handle);
-    if (!query.exec(QStringLiteral("PRAGMA integrity_check(1)")))
-        return !noteDamage(query.lastError());
-    m_damaged = query.next() && query.value(0).toString() != QLatin1String("ok");
-    return !m_damaged;
+    if (!query.exec(QStringLiteral("PRAGMA integrity_check(1)"))) {
+        noteDamage(query.lastError());
+        return !isDamage(query.lastError());
+    }
+    const bool isSound = !query.next() || query.value(0).toString() == QLatin1String("ok");
+    m_isDamaged = m_isDamaged || (!isSound && isOurs());
+    return isSound;
 }
 
 bool HRIndexDatabase::execute(const char *statement, const char *message)
@@ -125,21 +166,54 @@ bool HRIndexDatabase::execute(const char *statement, const char *message)
 
 bool HRIndexDatabase::lock(const char *message)
 {
-    QSqlQuery query(m_handle);
-    if (query.exec(QStringLiteral("BEGIN IMMEDIATE")) || !isRefusal(query.lastError()))
-        return true;
-    reportSqlError(message, query.lastError());
-    return false;
+    if (m_isFailing && !m_haste.hasExpired())
+        return false;
+    const bool isLocked
+        = (!m_wasRefused || isFree(message)) && !isRefusal(ask("BEGIN IMMEDIATE", message));
+    m_wasRefused = !isLocked;
+    return isLocked;
 }
 
 bool HRIndexDatabase::commit(const char *message)
 {
-    if (m_handle.commit())
-        return true;
-    noteDamage(m_handle.lastError());
-    reportSqlError(message, m_handle.lastError());
-    m_handle.rollback();
-    return false;
+    const QSqlError error = ask("COMMIT", message);
+    m_wasRefused = isRefusal(error);
+    m_isFailing = error.isValid() && !m_wasRefused;
+    if (m_isFailing) {
+        noteDamage(error);
+        reportSqlError(message, error);
+        m_haste.setRemainingTime(HasteMilliseconds);
+    }
+    if (error.isValid())
+        m_handle.rollback();
+    return !error.isValid();
+}
+
+/// Whether nobody else, readers included, holds the database. Asked for before everything that was
+/// refused is written anew.
+bool HRIndexDatabase::isFree(const char *message)
+{
+    if (isRefusal(ask("BEGIN EXCLUSIVE", message)))
+        return false;
+    ask("COMMIT", message);
+    return true;
+}
+
+/// Runs a statement that may meet another's lock, and reports a refusal that it has waited for.
+QSqlError HRIndexDatabase::ask(const char *statement, const char *message)
+{
+    QSqlQuery query(m_handle);
+    const bool hurries = !m_haste.hasExpired();
+    if (hurries)
+        query.exec(DoNotWait);
+    const QSqlError error = query.exec(QLatin1String(statement)) ? QSqlError() : query.lastError();
+    if (hurries)
+        query.exec(Wait);
+    else if (isRefusal(error)) {
+        reportSqlError(message, error);
+        m_haste.setRemainingTime(HasteMilliseconds);
+    }
+    return error;
 }
 
 bool HRIndexDatabase::holdsOnly(const QStringList &tables)
@@ -149,20 +223,41 @@ bool HRIndexDatabase::holdsOnly(const QStringList &tables)
         noteDamage(query.lastError());
         return false;
     }
+    bool isEmpty = true;
     while (query.next()) {
-        if (!isOurs(query.value(0).toString(), query.value(1).toString(), query.value(2).toString(),
-                tables))
+        isEmpty = false;
+        if (!isOurRow(query.value(0).toString(), query.value(1).toString(),
+                query.value(2).toString(), tables))
             return false;
     }
-    return true;
+    return !isEmpty || holdsNothing() || isOurs();
 }
 
-bool HRIndexDatabase::noteDamage(const QSqlError &error)
+/// Whether an empty schema is the truth: after damage to its page it may hide somebody's tables.
+bool HRIndexDatabase::holdsNothing()
 {
-    const int code = primaryCode(error);
-    m_damaged = m_damaged || code == CorruptCode
-        || (code == NoDatabaseCode && startsLikeDatabase(m_handle.databaseName()));
-    return m_damaged;
+    return pragma("PRAGMA page_count") - pragma("PRAGMA freelist_count") <= 1;
+}
+
+bool HRIndexDatabase::isOurs() const
+{
+    const QString path = m_handle.databaseName();
+    if (m_isOwnPlace || looksLikeOurs(path))
+        return true;
+    const std::optional<HRFileStamp> stamp = stampOfFile(QFile::encodeName(path));
+    return stamp && m_opened && stamp->inode == m_opened->inode
+        && stamp->device == m_opened->device;
+}
+
+void HRIndexDatabase::noteDamage(const QSqlError &error)
+{
+    m_isDamaged = m_isDamaged || (isDamage(error) && isOurs());
+}
+
+qint64 HRIndexDatabase::pragma(const char *statement)
+{
+    QSqlQuery query(QLatin1String(statement), m_handle);
+    return query.next() ? query.value(0).toLongLong() : 0;
 }
 
 } // namespace Hintreels

@@ -3,11 +3,17 @@
 
 #pragma once
 
+#include "index/HRFileStamp_p.h"
+
+#include <QDeadlineTimer>
 #include <QSqlDatabase>
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 class QSqlError;
+class QSqlQuery;
 
 namespace Hintreels {
 
@@ -19,6 +25,10 @@ bool isDamage(const QSqlError &error);
 
 /// Whether another connection held the database locked for longer than we wait.
 bool isRefusal(const QSqlError &error);
+
+/// Marks a database as ours in its header; one that carries another's mark keeps it.
+/// @return false where SQLite refused, which is in @p query then
+bool markAsOurs(QSqlQuery &query);
 
 /// One named connection to an SQLite file that belongs to this user and holds our tables only.
 class HRIndexDatabase
@@ -32,7 +42,9 @@ public:
     ///
     /// Refuses files that others could have planted or can write to, and databases with any table
     /// but @p tables, with a trigger or with a view. An open connection of this name is replaced.
-    bool open(const QString &connection, const QString &path, const QStringList &tables);
+    /// @param isOwnPlace whether whatever lies at the path is ours
+    bool open(const QString &connection, const QString &path, const QStringList &tables,
+        bool isOwnPlace = false);
 
     /// Closes and forgets the connection; queries on the handle must be gone.
     void close();
@@ -47,21 +59,38 @@ public:
     /// Runs a statement; after a failure, it reports under @p message.
     bool execute(const char *statement, const char *message);
 
-    /// Takes the lock for writing, to be given back by commit(); false only where another holds it.
+    /// Takes the lock for writing, to be given back by commit(); false only where another holds it,
+    /// and for a second after a commit that failed for any other reason.
+    ///
+    /// After a refusal locks are not waited for, nor their refusals reported, for a second.
     bool lock(const char *message);
 
     /// False where nothing of what was written stays, for instance because another reads on.
     bool commit(const char *message);
 
-    /// Whether SQLite has called the database corrupt since it was opened last.
-    bool isDamaged() const { return m_damaged; }
+    /// Whether SQLite has called the database corrupt since it was opened last, and the file is
+    /// ours so that it may be made anew.
+    bool isDamaged() const { return m_isDamaged; }
+
+    /// To be called when the file was deleted: another one may take its place.
+    void forgetFile() { m_opened.reset(); }
 
 private:
     bool holdsOnly(const QStringList &tables);
-    bool noteDamage(const QSqlError &error);
+    bool holdsNothing();
+    bool isOurs() const;
+    void noteDamage(const QSqlError &error);
+    qint64 pragma(const char *statement);
+    bool isFree(const char *message);
+    QSqlError ask(const char *statement, const char *message);
 
     QSqlDatabase m_handle;
-    bool m_damaged = false;
+    bool m_isOwnPlace = false;
+    bool m_isDamaged = false;
+    std::optional<HRFileStamp> m_opened; // of the file that was last found to be ours
+    bool m_wasRefused = false; // the last lock or commit, by another's lock
+    bool m_isFailing = false; // the last commit did, for another reason
+    QDeadlineTimer m_haste; // until then nothing waits for a lock
 };
 
 } // namespace Hintreels

@@ -19,7 +19,8 @@ constexpr char Lookup[]
 } // namespace
 
 HRIndexLookup::HRIndexLookup(const QSqlDatabase &database)
-    : m_query(database)
+    : m_database(database)
+    , m_query(database)
 {
     m_query.setForwardOnly(true);
 }
@@ -32,6 +33,17 @@ std::optional<HRIndexLookup::File> HRIndexLookup::find(const QString &key, const
         file = File{ m_query.value(0).toString(), m_query.value(1).toInt() };
     m_query.finish(); // gives the lock back
     return file;
+}
+
+std::optional<int> HRIndexLookup::depthOf(const QString &path)
+{
+    QSqlQuery query(m_database);
+    query.setForwardOnly(true);
+    query.prepare(QStringLiteral("SELECT depth FROM packages WHERE ppath = ?"));
+    query.bindValue(0, path);
+    if (!query.exec() || !query.next())
+        return std::nullopt;
+    return query.value(0).toInt();
 }
 
 bool HRIndexLookup::ask(const QString &key, const QString &locale)

@@ -26,10 +26,14 @@ public:
     /// @param locale as QLocale::name() spells it
     std::optional<File> find(const QString &key, const QString &locale);
 
+    /// At which depth the database knows a file, if it does. Reads all files' rows.
+    std::optional<int> depthOf(const QString &path);
+
 private:
     bool ask(const QString &key, const QString &locale);
     bool askAnew(const QString &key, const QString &locale);
 
+    QSqlDatabase m_database;
     QSqlQuery m_query;
     bool m_isPrepared = false;
 };

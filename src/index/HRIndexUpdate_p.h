@@ -3,47 +3,67 @@
 
 #pragma once
 
-#include <QSqlDatabase>
+#include "index/HRHeldEntries_p.h"
+#include "index/HRPackageRows_p.h"
+
 #include <QSqlQuery>
 #include <QString>
 
 #include <optional>
+#include <vector>
 
 namespace Hintreels {
 
-class HRPackageRows;
+class HRIndexDatabase;
 
-/// The statements that a transaction, which has been begun, stores entries with.
+/// Stores entries in the database, one transaction at a time.
+///
+/// What another program's lock keeps out, at the beginning, on the way or at the commit, is held,
+/// and stored by the next transaction that gets its lock.
 class HRIndexUpdate
 {
 public:
-    /// @param rows must outlive this
-    HRIndexUpdate(const QSqlDatabase &database, HRPackageRows &rows);
+    /// @param database, held must outlive this
+    HRIndexUpdate(HRIndexDatabase &database, HRHeldEntries &held);
 
-    /// Begins an update. What cannot be prepared fails again when it is used.
+    /// Begins a transaction, where no lock is in the way, and stores what is held.
+    /// A statement that cannot be prepared fails again when it is used.
     void begin();
 
-    /// Stores which file holds a key for a locale; an older row of both is replaced.
-    /// @param locale as QLocale::name() spells it
-    bool store(const QString &key, const QString &locale, const QString &filePath, int depth);
+    /// Says that the entries up to end() come from this file, one after the other, so that its row
+    /// has to be looked for only once.
+    void expect(const QString &filePath);
 
-    /// Whether every entry since begin() could be stored.
-    bool isComplete() const { return m_isComplete; }
+    /// Stores which file holds a key for a locale; an older row of both is replaced. False where
+    /// the entry is held, and where it is refused.
+    bool store(const HRIndexEntry &entry);
+
+    void end();
+
+    /// To be called when the tables were emptied or dropped.
+    void forget();
 
 private:
     bool prepareAll();
     bool prepare(QSqlQuery &query, const char *statement, const char *message);
-    int packageRow(const QString &filePath, int depth);
-    int insertPackage(const QString &filePath, int depth);
+    bool write(const HRIndexEntry &entry);
+    std::optional<int> packageRow(const HRIndexEntry &entry);
+    std::optional<int> insertPackage(const HRIndexEntry &entry);
+    int insertedRow(const QString &filePath);
     int selectInserted(const QString &filePath);
+    void holdStored();
 
-    QSqlDatabase m_database;
-    HRPackageRows &m_rows;
+    HRIndexDatabase &m_database;
+    HRHeldEntries &m_held;
+    HRPackageRows m_rows;
     QSqlQuery m_selectPackage;
     QSqlQuery m_insertPackage;
     QSqlQuery m_replaceItem;
     std::optional<qint64> m_preparedAtSchema; // for which version of the schema, if all could be
-    bool m_isComplete = true;
+    std::vector<HRIndexEntry> m_stored; // in this transaction
+    QString m_expectedFile;
+    bool m_isBegun = false; // a transaction is
+    bool m_isRefused = false; // by another's lock, from then on until the end
 };
 
 } // namespace Hintreels

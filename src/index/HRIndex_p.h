@@ -23,17 +23,32 @@ class HRIndex;
 /// A file that a scan has listed and names next, and what looking at it has brought.
 struct HRPreparedFile
 {
+    QString path;
     const HRListedFile *listed = nullptr;
+    std::string_view nativeName = {}; // as the operating system spells it
     std::optional<HRRegularFile> file = {};
     std::optional<HRFileStamp> stamp = {};
+    QString mappedPackage = {}; // by a file of the same scan, until the suffix of packages changes
 
-    bool is(const QString &path) const { return listed && listed->path == path; }
+    bool is(const QString &other) const { return listed && path == other; }
+
+    /// @param directory with its slash
+    void expect(
+        const QString &directory, const HRDirectoryListing &listing, const HRListedFile &next)
+    {
+        path.resize(0); // keeps its memory
+        path += directory;
+        path += next.name;
+        listed = &next;
+        nativeName = listing.nativeName(next);
+    }
 
     void forget()
     {
         listed = nullptr;
         file.reset();
         stamp.reset();
+        mappedPackage.clear();
     }
 };
 
@@ -47,7 +62,6 @@ struct HRIndexPrivate
     HRPackageMap packages;
     HRControlFileProbe probe;
     HRDirectoryDepth depth;
-    QString mappedPackage; // the one mapped last, until the suffix of packages changes
     bool inUpdate = false;
     HRPreparedFile prepared;
     QStringList componentQuestion; // the last one, until another package is mapped
@@ -65,8 +79,8 @@ struct HRIndexPrivate
         return depth.levels(filePath, packagePath, prepared.is(filePath));
     }
 
-    /// A path as QFile::encodeName() spells it.
-    QByteArray nativePath(const QString &path) const;
+    /// A record of the file that levels() was asked for last.
+    HRControlRecord record(const QString &path, int levels) const;
 
 private:
     bool isControlFile(HRRegularFile &file);

@@ -26,10 +26,11 @@ namespace Hintreels {
 
 namespace {
 
-std::string_view fileName(const QByteArray &nativePath)
+const QString DefaultName = QStringLiteral("HintreelsPackages.sqlite");
+
+QString defaultDirectory()
 {
-    const std::string_view path(nativePath.constData(), size_t(nativePath.size()));
-    return path.substr(path.rfind('/') + 1);
+    return QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
 }
 
 /// A directory that may be missing yet.
@@ -42,6 +43,7 @@ bool makeDirectory(const QString &path)
 
 struct HRPackageIndexPrivate
 {
+    QString path; // of the database's file, as the settings gave it when it was opened
     std::optional<HRDirectoryStore> store; // none while the database is closed
     QString directory; // the one whose files are being indexed, with its slash
     HRDirectorySnapshot snapshot; // of that directory
@@ -142,36 +144,46 @@ void HRPackageIndex::indexControlFile(const QString &filePath, const QString &pa
     const std::optional<int> depth = memory().levels(filePath, packagePath);
     if (!depth)
         return;
-    HRControlRecord record{ filePath, *depth, memory().nativePath(filePath) };
-    enterDirectory(memory().depth.directory());
+    HRControlRecord record = memory().record(filePath, *depth);
+    enterDirectory(record.directory);
+    const bool isPrepared = memory().prepared.is(filePath);
     const std::optional<HRFileStamp> stamp
-        = memory().prepared.is(filePath) ? memory().prepared.stamp : stampOfFile(record.nativePath);
+        = isPrepared ? memory().prepared.stamp : stampOfFile(record.directory, record.name);
     if (!stamp) {
         HRIndex::indexControlFile(filePath, packagePath); // it may be a Qt resource
         return;
     }
-    if (recall(record, *stamp) && memory().records.addFirst(std::move(record)))
-        mapControlFile(QString(), packagePath);
+    const QByteArray encoded = isPrepared ? QByteArray() : QFile::encodeName(record.name);
+    const std::string_view name = isPrepared
+        ? memory().prepared.nativeName
+        : std::string_view(encoded.constData(), size_t(encoded.size()));
+    if (recall(record, name, *stamp) && memory().records.addFirst(std::move(record)))
+        mapPackageOf(filePath, packagePath);
 }
 
 QString HRPackageIndex::databaseFilePath()
 {
     QString directory = setting(context(), persistentDirectoryKey, QString());
     if (directory.isEmpty() || !QFileInfo(directory).isDir())
-        directory = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
+        directory = defaultDirectory();
     if (!makeDirectory(directory)) {
         qDebug().noquote() << "No cache directory. Cannot create index database. Index will be "
                               "kept in memory";
         return QString();
     }
     const QString name = setting(context(), indexFileNameKey, QString());
-    return QDir(directory).absoluteFilePath(
-        name.isEmpty() ? QStringLiteral("HintreelsPackages.sqlite") : name);
+    d->path = QDir(directory).absoluteFilePath(name.isEmpty() ? DefaultName : name);
+    return d->path;
 }
 
 QStringList HRPackageIndex::tableNames() const
 {
     return HRSQLiteIndex::tableNames() << HRDirectoryStore::tableName();
+}
+
+bool HRPackageIndex::isOwnPlace(const QString &path) const
+{
+    return path == QDir(defaultDirectory()).absoluteFilePath(DefaultName);
 }
 
 bool HRPackageIndex::openAnew(const QString &path)
@@ -183,15 +195,15 @@ bool HRPackageIndex::openAnew(const QString &path)
 
 /// Fills a record from the database or, where that knows another state of the file, from the file;
 /// false where it is no control file.
-bool HRPackageIndex::recall(HRControlRecord &record, const HRFileStamp &stamp)
+bool HRPackageIndex::recall(
+    HRControlRecord &record, std::string_view name, const HRFileStamp &stamp)
 {
-    const std::string_view name = fileName(record.nativePath);
     HRStoredFile file;
     record.isSettled = d->snapshot.find(name, stamp, file);
     record.stamp = stamp;
     if (!record.isSettled) {
         const qint64 now = nanosecondsNow();
-        file.isControlFile = memory().isControlFile(record.path);
+        file.isControlFile = memory().isControlFile(record.path());
         if (file.isControlFile && !memory().reader.read(record))
             return false;
         file.stamp = record.stamp;
@@ -273,14 +285,13 @@ void HRPackageIndex::rebuildIfDamaged()
 /// Once in a run: a disk that damages what was just written is not worth a second try.
 void HRPackageIndex::rebuild()
 {
-    const QString path = databaseFilePath();
     d->isDamaged = false;
     d->store.reset();
     closeDatabase();
     if (d->isRebuilt)
-        QFile::remove(path);
+        QFile::remove(d->path);
     else
-        openAnew(path);
+        openAnew(d->path);
 }
 
 } // namespace Hintreels

@@ -6,6 +6,7 @@
 #include "index/HRSQLiteIndex.h"
 
 #include <memory>
+#include <string_view>
 
 namespace Hintreels {
 
@@ -57,10 +58,11 @@ public:
 protected:
     QString databaseFilePath() override;
     QStringList tableNames() const override;
+    bool isOwnPlace(const QString &path) const override;
     bool openAnew(const QString &path) override;
 
 private:
-    bool recall(HRControlRecord &record, const HRFileStamp &stamp);
+    bool recall(HRControlRecord &record, std::string_view name, const HRFileStamp &stamp);
     void enterDirectory(const QString &directory);
     void leaveDirectory();
     void saveSoon();

@@ -14,20 +14,32 @@ HRPackageRows::HRPackageRows(const QSqlDatabase &database)
     : m_database(database)
     , m_dataVersion(database)
     , m_schemaVersion(database)
+    , m_totalChanges(database)
 {
     m_dataVersion.prepare(QStringLiteral("PRAGMA data_version"));
     m_schemaVersion.prepare(QStringLiteral("PRAGMA schema_version"));
+    m_totalChanges.prepare(QStringLiteral("SELECT total_changes()"));
 }
 
 void HRPackageRows::refresh()
 {
-    const qint64 data = version(m_dataVersion);
-    const qint64 schema = version(m_schemaVersion);
+    const qint64 data = number(m_dataVersion);
+    const qint64 schema = number(m_schemaVersion);
     if (data == m_readAtData && schema == m_readAtSchema)
         return;
     load();
     m_readAtData = data;
     m_readAtSchema = schema;
+    m_changes = number(m_totalChanges);
+}
+
+void HRPackageRows::check()
+{
+    const qint64 changes = number(m_totalChanges);
+    if (changes == m_changes)
+        return;
+    load();
+    m_changes = changes;
 }
 
 std::optional<int> HRPackageRows::row(const QString &path) const
@@ -36,12 +48,12 @@ std::optional<int> HRPackageRows::row(const QString &path) const
     return found == m_rows.cend() ? std::nullopt : std::optional<int>(*found);
 }
 
-qint64 HRPackageRows::version(QSqlQuery &query)
+qint64 HRPackageRows::number(QSqlQuery &query)
 {
     const bool known = query.exec() && query.next();
-    const qint64 version = known ? query.value(0).toLongLong() : 0;
+    const qint64 number = known ? query.value(0).toLongLong() : 0;
     query.finish();
-    return version;
+    return number;
 }
 
 void HRPackageRows::load()

@@ -5,7 +5,7 @@
 
 #include <QDir>
 #include <QFile>
-#include <QStringBuilder>
+#include <QVarLengthArray>
 
 #include <algorithm>
 #include <cerrno>
@@ -36,6 +36,32 @@ HRFileStamp stampOf(const struct stat &status)
 {
     return { status.st_dev, status.st_ino, status.st_size, nanoseconds(status.st_mtim),
         nanoseconds(status.st_ctim) };
+}
+
+std::optional<HRFileStamp> stampAt(const char *path)
+{
+    struct stat status;
+    if (::stat(path, &status) != 0 || !S_ISREG(status.st_mode))
+        return std::nullopt;
+    return stampOf(status);
+}
+
+// Long enough for most paths, which then need no memory of their own.
+using AsciiPath = QVarLengthArray<char, 256>;
+
+/// Appends text in ASCII, which the operating system spells as we do; false for any other.
+bool append(AsciiPath &path, const QString &text)
+{
+    const QChar *characters = text.constData();
+    const int length = path.size();
+    path.resize(length + text.size());
+    char *bytes = path.data() + length;
+    ushort bits = 0;
+    for (int i = 0; i < text.size(); ++i) {
+        bits |= characters[i].unicode();
+        bytes[i] = char(characters[i].unicode());
+    }
+    return bits < 0x80;
 }
 
 // Not blocking means that a named pipe, too, is opened at once, and then found out.
@@ -70,49 +96,46 @@ bool endsWith(std::string_view name, const QByteArray &suffix)
         && qstrnicmp(name.data() + name.size() - length, suffix.constData(), uint(length)) == 0;
 }
 
-/// A path with a name as the directory lists it; null where no text stands for the name, since it
+/// The text of a name as the directory lists it; null where no text stands for the name, since it
 /// could not be opened by that.
-QString pathOf(const QString &directory, std::string_view name)
+QString textOf(std::string_view name)
 {
     const bool isAscii
         = std::none_of(name.begin(), name.end(), [](char c) { return uchar(c) >= 0x80; });
     if (isAscii)
-        return directory % QLatin1String(name.data(), int(name.size()));
+        return QLatin1String(name.data(), int(name.size()));
     const QByteArray native(name.data(), int(name.size()));
     const QString text = QFile::decodeName(native);
-    return QFile::encodeName(text) == native ? directory + text : QString();
+    return QFile::encodeName(text) == native ? text : QString();
 }
 
-/// A path with its name in lower case, which most names are in as they are.
-QString withLowerCaseName(const QString &path, int directoryLength)
+/// A name in lower case, which most names are in as they are.
+QString lowerCase(const QString &name)
 {
-    const bool isLowerCase = std::all_of(path.begin() + directoryLength, path.end(),
+    const bool isLowerCase = std::all_of(name.begin(), name.end(),
         [](QChar c) { return c.unicode() < 'A' || (c.unicode() > 'Z' && c.unicode() < 0x80); });
-    return isLowerCase ? path : path.left(directoryLength) + path.mid(directoryLength).toLower();
+    return isLowerCase ? name : name.toLower();
 }
 
-/// As QDir sorts names by default. Only names differ between paths in one directory.
-void sortIgnoringCase(std::vector<HRListedFile> &files, int directoryLength)
+/// As QDir sorts names by default.
+void sortIgnoringCase(std::vector<HRListedFile> &files)
 {
     struct Key
     {
-        std::u16string_view name; // in lower case
+        QStringView name; // in lower case
         size_t index;
     };
-    std::vector<QString> paths;
+    std::vector<QString> names;
     std::vector<Key> keys;
-    paths.reserve(files.size());
+    names.reserve(files.size());
     keys.reserve(files.size());
     for (const HRListedFile &file : files) {
-        paths.push_back(withLowerCaseName(file.path, directoryLength));
-        const QString &path = paths.back();
-        const auto *begin = reinterpret_cast<const char16_t *>(path.constData());
-        keys.push_back(
-            { { begin + directoryLength, size_t(path.size() - directoryLength) }, keys.size() });
+        names.push_back(lowerCase(file.name));
+        keys.push_back({ names.back(), keys.size() });
     }
     std::sort(keys.begin(), keys.end(), [&files](const Key &a, const Key &b) {
         const int order = a.name.compare(b.name);
-        return order != 0 ? order < 0 : files[a.index].path < files[b.index].path;
+        return order != 0 ? order < 0 : files[a.index].name < files[b.index].name;
     });
     std::vector<HRListedFile> sorted;
     sorted.reserve(files.size());
@@ -176,21 +199,20 @@ bool readRegularFile(const QString &path, QByteArray &bytes)
 }
 
 HRDirectoryListing::HRDirectoryListing(const QString &directory, const QByteArray &suffix)
-    : m_nativeDirectory(QFile::encodeName(directory))
 {
     if (directory.startsWith(QLatin1Char(':'))) {
         const QStringList names
             = QDir(directory).entryList({ QLatin1String("*" + suffix) }, QDir::Files, QDir::NoSort);
         for (const QString &name : names)
-            m_files.push_back({ directory + name, QFile::encodeName(directory + name) });
+            add(name, QFile::encodeName(name).constData());
         return;
     }
-    m_directory = ::opendir(m_nativeDirectory.constData());
+    m_directory = ::opendir(QFile::encodeName(directory).constData());
     if (!m_directory)
         return;
     m_descriptor = ::dirfd(m_directory);
-    list(directory, suffix);
-    sortIgnoringCase(m_files, directory.size());
+    list(suffix);
+    sortIgnoringCase(m_files);
 }
 
 HRDirectoryListing::~HRDirectoryListing()
@@ -209,21 +231,22 @@ std::optional<HRFileStamp> HRDirectoryListing::stampOfReadable(const HRListedFil
     return stampOf(status);
 }
 
-void HRDirectoryListing::list(const QString &directory, const QByteArray &suffix)
+void HRDirectoryListing::list(const QByteArray &suffix)
 {
     while (const struct dirent *entry = ::readdir(m_directory)) {
         const std::string_view name(entry->d_name);
         if (name[0] == '.' || !endsWith(name, suffix) || !isRegularEntry(m_descriptor, *entry))
             continue;
-        const QString path = pathOf(directory, name);
-        if (!path.isNull())
-            m_files.push_back({ path, m_nativeDirectory % name.data() });
+        const QString text = textOf(name);
+        if (!text.isNull())
+            add(text, entry->d_name);
     }
 }
 
-const char *HRDirectoryListing::nativeName(const HRListedFile &file) const
+void HRDirectoryListing::add(const QString &name, const char *nativeName)
 {
-    return file.nativePath.constData() + m_nativeDirectory.size();
+    m_files.push_back({ name, m_nativeNames.size() });
+    m_nativeNames.append(nativeName).append('\0');
 }
 
 HRRegularFile::HRRegularFile(const QByteArray &path)
@@ -285,10 +308,16 @@ bool HRRegularFile::readAll(QByteArray &bytes)
 
 std::optional<HRFileStamp> stampOfFile(const QByteArray &path)
 {
-    struct stat status;
-    if (::stat(path.constData(), &status) != 0 || !S_ISREG(status.st_mode))
-        return std::nullopt;
-    return stampOf(status);
+    return stampAt(path.constData());
+}
+
+std::optional<HRFileStamp> stampOfFile(const QString &directory, const QString &name)
+{
+    AsciiPath path;
+    if (!append(path, directory) || !append(path, name))
+        return stampOfFile(QFile::encodeName(directory + name));
+    path.append('\0');
+    return stampAt(path.constData());
 }
 
 bool takeOwnFile(const QString &path)

@@ -30,8 +30,8 @@ bool readRegularFile(const QString &path, QByteArray &bytes);
 /// A file that a directory lists.
 struct HRListedFile
 {
-    QString path;
-    QByteArray nativePath; // as QFile::encodeName() spells it
+    QString name;
+    int nativeName; // where the listing keeps the name as QFile::encodeName() spells it
 };
 
 /// The files in a directory that a reader may take for content: regular, no links, not hidden, and
@@ -42,13 +42,19 @@ struct HRListedFile
 class HRDirectoryListing
 {
 public:
-    /// @param directory with its slash; the files' paths begin with it
+    /// @param directory with its slash
     /// @param suffix in ASCII
     HRDirectoryListing(const QString &directory, const QByteArray &suffix);
     ~HRDirectoryListing();
     Q_DISABLE_COPY(HRDirectoryListing)
 
     const std::vector<HRListedFile> &files() const { return m_files; }
+
+    /// A listed file's name as the operating system spells it.
+    const char *nativeName(const HRListedFile &file) const
+    {
+        return m_nativeNames.constData() + file.nativeName;
+    }
 
     /// Whether the files are Qt's resources, which the operating system does not know.
     bool hasResources() const { return !m_directory; }
@@ -59,13 +65,13 @@ public:
 private:
     friend class HRRegularFile;
 
-    void list(const QString &directory, const QByteArray &suffix);
-    const char *nativeName(const HRListedFile &file) const;
+    void list(const QByteArray &suffix);
+    void add(const QString &name, const char *nativeName);
 
     DIR *m_directory = nullptr;
     int m_descriptor = -1; // that of the directory
-    QByteArray m_nativeDirectory; // with its slash
     std::vector<HRListedFile> m_files;
+    QByteArray m_nativeNames; // in one piece, each with a zero at its end
 };
 
 /// A regular file or a link to one, open for reading as long as this lives.
@@ -102,6 +108,9 @@ private:
 /// The stamp of a regular file or a link to one; nothing for anything else.
 /// @param path as QFile::encodeName() spells it
 std::optional<HRFileStamp> stampOfFile(const QByteArray &path);
+
+/// The same for a name in a directory, which is given with its slash.
+std::optional<HRFileStamp> stampOfFile(const QString &directory, const QString &name);
 
 /// Makes sure that a database's file is this user's own, where others can write to its directory.
 ///

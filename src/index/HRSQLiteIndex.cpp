@@ -7,11 +7,11 @@
 #include "context/HRContext.h"
 #include "context/HRSetting_p.h"
 #include "index/HRControlTree_p.h"
+#include "index/HRHeldEntries_p.h"
 #include "index/HRIndexDatabase_p.h"
 #include "index/HRIndexLookup_p.h"
 #include "index/HRIndexUpdate_p.h"
 #include "index/HRIndex_p.h"
-#include "index/HRPackageRows_p.h"
 
 #include <QDebug>
 #include <QDir>
@@ -23,7 +23,6 @@
 #include <QVariant>
 
 #include <optional>
-#include <vector>
 
 namespace Hintreels {
 
@@ -39,6 +38,9 @@ constexpr char HintreelsTable[]
 constexpr const char *Pragmas[] = { "PRAGMA synchronous=OFF", "PRAGMA count_changes=OFF",
     "PRAGMA journal_mode=MEMORY", "PRAGMA temp_store=MEMORY" };
 
+const QString Keys = QStringLiteral("SELECT hrkey FROM hintreels");
+const QString KeysAndLocales = QStringLiteral("SELECT hrkey, tlocale FROM hintreels");
+
 bool isUsableDirectory(const QString &path)
 {
     return !path.isEmpty() && QFileInfo(path).isDir();
@@ -50,11 +52,43 @@ struct HRSQLiteIndexPrivate
 {
     HRIndexDatabase database;
     QString path; // survives closing, so that the file can still be removed
-    std::vector<HRIndexLookup::File> files; // that have entries in the database
+    HRHeldEntries held; // none while closed
     std::optional<HRIndexLookup> lookup; // this and all that follows is gone while closed
-    std::optional<HRPackageRows> rows;
     std::optional<HRIndexUpdate> update;
+
+    /// Where a key is found for a locale: what is held is newer than what the database has.
+    std::optional<HRIndexLookup::File> find(const QString &key, const QString &locale);
+
+    /// One row's key for each key and locale that is not held, then the keys that are.
+    QStringList keys();
 };
+
+std::optional<HRIndexLookup::File> HRSQLiteIndexPrivate::find(
+    const QString &key, const QString &locale)
+{
+    if (!lookup)
+        lookup.emplace(database.handle());
+    const HRIndexEntry *entry = held.find(key, locale);
+    if (!entry)
+        return lookup->find(key, locale);
+    const int depth = lookup->depthOf(entry->filePath).value_or(entry->depth);
+    return HRIndexLookup::File{ entry->filePath, depth };
+}
+
+QStringList HRSQLiteIndexPrivate::keys()
+{
+    QSqlQuery query(database.handle());
+    query.setForwardOnly(true);
+    if (!query.exec(held.isEmpty() ? Keys : KeysAndLocales))
+        reportSqlError("Could not retrieve keys:", query.lastError());
+    QStringList keys;
+    while (query.next()) {
+        const QString key = query.value(0).toString();
+        if (held.isEmpty() || !held.find(key, query.value(1).toString()))
+            keys.append(key);
+    }
+    return keys + held.keys();
+}
 
 HRSQLiteIndex::HRSQLiteIndex(HRContext *context, const QStringList &paths)
     : HRIndex(context, paths)
@@ -71,7 +105,6 @@ bool HRSQLiteIndex::open()
 {
     HRIndex::open();
     closeDatabase();
-    d->files.clear();
     d->path.clear();
     const QString path = databaseFilePath();
     if (path.isEmpty())
@@ -89,6 +122,8 @@ bool HRSQLiteIndex::setup()
     if (!isInUpdate() && !d->database.lock("Could not create package table:"))
         return false;
     HRIndex::setup();
+    QSqlQuery mark(d->database.handle());
+    markAsOurs(mark);
     const bool made = d->database.execute(PackagesTable, "Could not create package table:")
         && d->database.execute(HintreelsTable, "Could not create hintreels table:");
     if (!isInUpdate() && !d->database.commit("Could not create hintreels table:"))
@@ -101,20 +136,23 @@ bool HRSQLiteIndex::setup()
 bool HRSQLiteIndex::clear()
 {
     HRIndex::clear();
-    d->files.clear();
+    d->held.clear();
     if (!d->database.isOpen())
         return true;
     d->database.execute("DROP TABLE IF EXISTS hintreels", "Could not drop package table:");
     d->database.execute("DROP TABLE IF EXISTS packages", "Could not drop package table:");
-    if (d->rows)
-        d->rows->forget();
+    if (d->update)
+        d->update->forget();
     return true;
 }
 
 bool HRSQLiteIndex::close()
 {
+    const bool removes = setting(context(), removeIndexOnCloseKey, true);
+    if (!removes)
+        storeHeld();
     closeDatabase();
-    if (setting(context(), removeIndexOnCloseKey, true))
+    if (removes)
         remove();
     return true;
 }
@@ -123,8 +161,8 @@ bool HRSQLiteIndex::remove()
 {
     // Not by way of close(), which calls this.
     closeDatabase();
-    if (!d->path.isEmpty())
-        QFile::remove(d->path);
+    if (!d->path.isEmpty() && QFile::remove(d->path))
+        d->database.forgetFile();
     return true;
 }
 
@@ -133,9 +171,7 @@ HRXmlElement *HRSQLiteIndex::retrieve(
 {
     if (!d->database.isOpen())
         return HRIndex::retrieve(key, locale, directory, depth, root);
-    if (!d->lookup)
-        d->lookup.emplace(d->database.handle());
-    const std::optional<HRIndexLookup::File> file = d->lookup->find(key, locale.name());
+    const std::optional<HRIndexLookup::File> file = d->find(key, locale.name());
     if (!file)
         return nullptr;
     depth = file->depth;
@@ -149,25 +185,17 @@ bool HRSQLiteIndex::store(
 {
     if (!isInUpdate() || !d->update || !entry)
         return HRIndex::store(entry, locale, filePath, depth);
-    if (d->files.empty() || d->files.back().path != filePath)
-        d->files.push_back({ filePath, depth });
     return d->update->store(
-        entry->attribute(QStringLiteral("key")), locale.name(), filePath, depth);
+        { entry->attribute(QStringLiteral("key")), locale.name(), filePath, depth });
 }
 
 void HRSQLiteIndex::startUpdate()
 {
     if (isInUpdate() || !d->database.isOpen())
         return;
-    if (!d->database.lock("Could not query package table:")) {
-        serveFromMemory();
-        return;
-    }
     HRIndex::startUpdate();
-    if (!d->update) {
-        d->rows.emplace(d->database.handle());
-        d->update.emplace(d->database.handle(), *d->rows);
-    }
+    if (!d->update)
+        d->update.emplace(d->database, d->held);
     d->update->begin();
 }
 
@@ -175,24 +203,13 @@ void HRSQLiteIndex::endUpdate()
 {
     if (!isInUpdate() || !d->update)
         return;
-    const bool isStored = d->database.commit("Could not insert item:") && d->update->isComplete();
+    d->update->end();
     HRIndex::endUpdate();
-    if (!isStored)
-        serveFromMemory();
 }
 
 QStringList HRSQLiteIndex::keys()
 {
-    if (!d->database.isOpen())
-        return HRIndex::keys();
-    QSqlQuery query(d->database.handle());
-    query.setForwardOnly(true);
-    if (!query.exec(QStringLiteral("SELECT hrkey FROM hintreels")))
-        reportSqlError("Could not retrieve keys:", query.lastError());
-    QStringList keys;
-    while (query.next())
-        keys.append(query.value(0).toString());
-    return keys;
+    return d->database.isOpen() ? d->keys() : HRIndex::keys();
 }
 
 bool HRSQLiteIndex::prepare(const HRDirectoryListing &listing, const HRListedFile &file)
@@ -211,6 +228,8 @@ void HRSQLiteIndex::indexControlFile(const QString &filePath, const QString &pac
     if (!root)
         return;
     startUpdate();
+    if (d->update)
+        d->update->expect(filePath);
     const QLocale locale(root->attribute(QStringLiteral("locale")));
     for (QObject *child : root->children()) {
         auto *entry = qobject_cast<HRXmlElement *>(child);
@@ -250,11 +269,17 @@ QStringList HRSQLiteIndex::tableNames() const
     return { QStringLiteral("packages"), QStringLiteral("hintreels") };
 }
 
+bool HRSQLiteIndex::isOwnPlace(const QString &) const
+{
+    return false;
+}
+
 // A process that is killed while it fills the database may leave it damaged; without a new one no
 // later start would come through.
 bool HRSQLiteIndex::openAnew(const QString &path)
 {
     QFile::remove(path); // or another process has
+    d->database.forgetFile();
     return openAt(path);
 }
 
@@ -268,7 +293,7 @@ bool HRSQLiteIndex::openAt(const QString &path)
     const QString connection
         = setting(context(), indexConnectionKey, QStringLiteral("__Hintreels_Index__"));
     qDebug().noquote() << QStringLiteral("Creating index database in ") + path;
-    if (!d->database.open(connection, path, tableNames())) {
+    if (!d->database.open(connection, path, tableNames(), isOwnPlace(path))) {
         if (!d->database.isDamaged())
             qDebug().noquote() << "Could not open index database. Index will be disabled";
         return false;
@@ -281,14 +306,13 @@ bool HRSQLiteIndex::openAt(const QString &path)
     return false;
 }
 
-/// A database that misses entries would answer wrongly, and waiting for its lock at each control
-/// file would make a start endless.
-void HRSQLiteIndex::serveFromMemory()
+/// A last try, for the runs that follow.
+void HRSQLiteIndex::storeHeld()
 {
-    closeDatabase();
-    for (const HRIndexLookup::File &file : d->files)
-        HRIndex::store(nullptr, QLocale(), file.path, file.depth);
-    d->files.clear();
+    if (d->held.isEmpty() || isInUpdate())
+        return;
+    HRSQLiteIndex::startUpdate();
+    HRSQLiteIndex::endUpdate();
 }
 
 void HRSQLiteIndex::closeDatabase()
@@ -296,7 +320,7 @@ void HRSQLiteIndex::closeDatabase()
     // Queries go before their connection.
     d->update.reset();
     HRIndex::endUpdate();
-    d->rows.reset();
+    d->held.clear();
     d->lookup.reset();
     d->database.close();
 }

@@ -24,10 +24,11 @@ struct HRSQLiteIndexPrivate;
 /// same key and locale the one indexed last is served, whatever it holds by then; packages are not
 /// mapped, so components are found in the setting componentDirectoryKey only.
 ///
-/// A database that another process keeps locked, or that does not take an entry, is left at the end
-/// of the update that fails; the index then serves from memory. Several processes may fill one
-/// database at the same time, but each start that clears it takes the keys from the others until it
-/// has filled it again.
+/// Entries that another process keeps out by its lock, which is waited for a tenth of a second and
+/// then not again for a second, are held in memory: they answer before what the database has, as
+/// the newest, and go in with the next update that gets its lock, at the latest when a database
+/// that stays is closed. Several processes may fill one database at the same time, but each start
+/// that clears it takes the keys from the others until it has filled it again.
 ///
 /// Messages go to Qt's debug output. GUI thread only. Two indexes with the same connection name
 /// (the setting indexConnectionKey) must not be open at once.
@@ -44,13 +45,15 @@ public:
     /// Opens or makes the database and sets it up.
     ///
     /// The file must be a regular one that belongs to this user alone, with nothing in it but our
-    /// tables; a new one gets the mode 0600. A database of ours that SQLite calls corrupt is made
-    /// anew. After a failure the index stays closed and serves from memory.
+    /// tables; a new one gets the mode 0600. A database that SQLite calls corrupt is made anew
+    /// where it can be told to be ours, and left alone where not. After a failure the index stays
+    /// closed and serves from memory.
     bool open() override;
     bool setup() override;
-    /// Drops what is indexed. Always true.
+    /// Drops what is indexed, and what is held. Always true.
     bool clear() override;
-    /// Closes the database, and removes it as removeIndexOnCloseKey says. Always true.
+    /// Closes the database, and removes it as removeIndexOnCloseKey says. Where it stays, what is
+    /// held is tried to be stored once more. Always true.
     bool close() override;
     /// Closes the database and deletes its file. Always true.
     bool remove() override;
@@ -59,6 +62,11 @@ public:
         int &depth, HRXmlElement *&root) override;
 
     /// Stores the entry's key; outside of an update only the file is remembered, in memory.
+    ///
+    /// The entry lives until indexControlFile(), which hands it in, returns.
+    /// @return false where the entry is refused, which one message tells, and where it is held
+    /// because of another's lock. Where only the file is refused the key is stored all the same:
+    /// such a key is listed by keys() and never found.
     bool store(
         HRXmlElement *entry, const QLocale &locale, const QString &filePath, int depth) override;
 
@@ -79,6 +87,10 @@ protected:
     /// The tables that may stand in the database.
     virtual QStringList tableNames() const;
 
+    /// Whether whatever lies at a path is ours, so that it may be made anew when it is damaged,
+    /// even where nothing in it tells.
+    virtual bool isOwnPlace(const QString &path) const;
+
     /// Deletes a database that is damaged, and opens a new one.
     virtual bool openAnew(const QString &path);
 
@@ -91,7 +103,7 @@ protected:
 private:
     bool prepare(const HRDirectoryListing &listing, const HRListedFile &file) override;
     bool openAt(const QString &path);
-    void serveFromMemory();
+    void storeHeld();
 
     std::unique_ptr<HRSQLiteIndexPrivate> d;
 };

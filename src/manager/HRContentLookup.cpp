@@ -37,6 +37,12 @@ void HRFoundContent::discard()
     element = root = nullptr;
 }
 
+void HRFoundContent::forgetStrayRoot()
+{
+    if (!element)
+        root = nullptr;
+}
+
 HRContentLookup::HRContentLookup(const HRContext &context, HRIndex &index, Report report)
     : m_context(context)
     , m_index(index)
@@ -44,23 +50,38 @@ HRContentLookup::HRContentLookup(const HRContext &context, HRIndex &index, Repor
 {
 }
 
-HRFoundContent HRContentLookup::find(const QString &key) const
+HRXmlElement *HRContentLookup::retrieve(
+    const QString &key, QString &path, int &depth, HRXmlElement *&root) const
 {
     QElapsedTimer timer;
     timer.start();
-    HRFoundContent found = findIn(setting(m_context, localeKey, defaultLocale), key);
-    if (!found.element)
-        found = findIn(fallbackLocale(), key);
-    if (found.element)
+    const QLocale primary(setting(m_context, localeKey, defaultLocale));
+    HRXmlElement *element = m_index.retrieve(key, primary, path, depth, root);
+    if (!element)
+        element = m_index.retrieve(key, fallbackLocale(), path, depth, root);
+    if (element)
         m_report(QString("Retrieved %1 in %2 seconds")
                      .arg(key, QString::number(timer.elapsed() / 1000.0)));
+    return element;
+}
+
+HRFoundContent HRContentLookup::find(const QString &key) const
+{
+    HRFoundContent found;
+    found.element = retrieve(key, found.path, found.depth, found.root);
+    found.forgetStrayRoot();
     return found;
 }
 
 HRFoundContent HRContentLookup::findFallback() const
 {
+    HRFoundContent found;
     const QString key = fallbackKey();
-    return key.isNull() ? HRFoundContent() : findIn(fallbackLocale(), key);
+    if (key.isNull())
+        return found;
+    found.element = m_index.retrieve(key, fallbackLocale(), found.path, found.depth, found.root);
+    found.forgetStrayRoot();
+    return found;
 }
 
 QString HRContentLookup::fallbackKey() const
@@ -68,18 +89,9 @@ QString HRContentLookup::fallbackKey() const
     return setting(m_context, fallbackKeyKey, QString());
 }
 
-HRFoundContent HRContentLookup::findIn(const QString &localeName, const QString &key) const
+QLocale HRContentLookup::fallbackLocale() const
 {
-    HRFoundContent found;
-    found.element = m_index.retrieve(key, QLocale(localeName), found.path, found.depth, found.root);
-    if (!found.element)
-        found.root = nullptr; // an index may leave the address of what it has deleted
-    return found;
-}
-
-QString HRContentLookup::fallbackLocale() const
-{
-    return setting(m_context, fallbackLocaleKey, defaultLocale);
+    return QLocale(setting(m_context, fallbackLocaleKey, defaultLocale));
 }
 
 } // namespace Hintreels

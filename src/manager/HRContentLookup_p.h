@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QLocale>
 #include <QString>
 
 #include <functional>
@@ -27,6 +28,10 @@ struct HRFoundContent
     /// The package directory, canonical; a control file directly in it has the depth 1.
     QString packageDirectory() const;
 
+    /// Clears the root where there is no element: an index may leave the address of what it has
+    /// deleted.
+    void forgetStrayRoot();
+
     /// Frees the tree: with the element's parent where it has one, else the element.
     void discard();
 };
@@ -41,7 +46,13 @@ public:
 
     HRContentLookup(const HRContext &context, HRIndex &index, Report report);
 
-    /// A key's content in the first locale that has it; reports how long that took.
+    /// A key's element in the first locale that has it; reports how long that took.
+    ///
+    /// The rest is the index's: what it has written stays, on a miss too, and nothing else is.
+    HRXmlElement *retrieve(
+        const QString &key, QString &path, int &depth, HRXmlElement *&root) const;
+
+    /// The same as a record, which is safe to look at on a miss.
     HRFoundContent find(const QString &key) const;
 
     /// The fallback key's content, which is looked for in the fallback locale only.
@@ -51,8 +62,7 @@ public:
     QString fallbackKey() const;
 
 private:
-    HRFoundContent findIn(const QString &localeName, const QString &key) const;
-    QString fallbackLocale() const;
+    QLocale fallbackLocale() const;
 
     const HRContext &m_context;
     HRIndex &m_index;

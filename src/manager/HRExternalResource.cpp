@@ -15,4 +15,13 @@ HRExternalResourceType externalResourceType(const QString &resource)
     return resource.contains('/') ? resourcePath : resourceName;
 }
 
+bool mayStrangersOpen(const QString &resource)
+{
+    const HRExternalResourceType type = externalResourceType(resource);
+    const QString scheme = QUrl(resource, QUrl::StrictMode).scheme();
+    const bool isAddress = scheme == QLatin1String("http") || scheme == QLatin1String("https")
+        || scheme == QLatin1String("mailto");
+    return type == resourceName || (type == resourceUrl && isAddress);
+}
+
 } // namespace Hintreels

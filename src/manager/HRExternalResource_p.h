@@ -13,4 +13,7 @@ namespace Hintreels {
 /// one, of the rest what contains a slash is a path.
 HRExternalResourceType externalResourceType(const QString &resource);
 
+/// Whether content of strangers may have it opened: a web address, a mail address or a help topic.
+bool mayStrangersOpen(const QString &resource);
+
 } // namespace Hintreels

@@ -4,7 +4,9 @@
 #include "manager/HRManager.h"
 
 #include "content/HRXmlElement.h"
+#include "context/HRPrintable_p.h"
 #include "context/HRSetting_p.h"
+#include "gates/HRPackageRules_p.h"
 #include "index/HRIndex.h"
 #include "interface/HRInterface.h"
 #include "manager/HRContentLookup_p.h"
@@ -15,6 +17,7 @@
 #include "manager/HRReservedPopups_p.h"
 #include "manager/HRTranslation_p.h"
 #include "ui/HRQmlTypes_p.h"
+#include "ui/HRQuickRenderer_p.h"
 #include "ui/HRView.h"
 #include "ui/HRWidget.h"
 
@@ -27,6 +30,7 @@
 #include <QPointer>
 
 #include <limits>
+#include <utility>
 
 namespace Hintreels {
 
@@ -38,18 +42,19 @@ struct HRManagerPrivate
         , dataPaths(paths)
         , context(hostContext)
         , index(hostIndex ? hostIndex : new HRIndex(&context, paths))
-        , scanner(context, *index, reporterOf(manager))
+        , scanner(context, *index, reporterOf(manager), reporterOf(manager, messageWarning))
         , lookup(context, *index, reporterOf(manager))
         , presenter(context, host, lookup)
         , translation(manager)
     {
     }
 
-    static HRPackageScanner::Report reporterOf(HRManager *manager)
+    static HRPackageScanner::Report reporterOf(
+        HRManager *manager, HRMessageType type = messageInformation)
     {
-        return [guarded = QPointer<HRManager>(manager)](const QString &text) {
+        return [guarded = QPointer<HRManager>(manager), type](const QString &text) {
             if (guarded)
-                guarded->handleMessage(messageInformation, text);
+                guarded->handleMessage(type, text);
         };
     }
 
@@ -64,6 +69,7 @@ struct HRManagerPrivate
     HRTranslation translation;
     QMap<QString, QVariant> globalProperties;
     bool applicationFilterInstalled = false;
+    bool toldWhyNothingShows = false;
     float scale = 1.0F;
 };
 
@@ -173,7 +179,7 @@ void HRManager::indexControFile(const QString &controlFile, const QString &packa
 void HRManager::handleMessage(HRMessageType type, const QString &message)
 {
     if (setting(d->context, messageLevelKey, int(messageWarning)) >= int(type))
-        d->interface->handleMessage(type, message);
+        d->interface->handleMessage(type, printable(message));
 }
 
 QLocale HRManager::currentLocale() const
@@ -190,22 +196,20 @@ QString HRManager::translateString(const QString &text, const QString &context)
 {
     if (!widget() || !widget()->view())
         return text;
+    const std::shared_ptr<HRManagerPrivate> work
+        = d; // the host may be told of a file that is refused
     const QString baseName = setting(d->context, translationBaseNameKey, QString("Hintreels"));
     const QString fileName = QString("%1_%2.qm").arg(baseName, currentLocale().name());
     const QString path
         = widget()->view()->findComponent("l10n_name", translationDirectoryKey, "l10n", fileName);
-    return d->translation.translate(path, text, context);
+    return path.isEmpty() ? text : work->translation.translate(path, text, context);
 }
 
 HRXmlElement *HRManager::retrieve(
     const QString &key, QString &path, int &depth, HRXmlElement *&root)
 {
     const std::shared_ptr<HRManagerPrivate> work = d;
-    const HRFoundContent found = work->lookup.find(key);
-    path = found.path;
-    depth = found.depth;
-    root = found.root;
-    return found.element;
+    return work->lookup.retrieve(key, path, depth, root);
 }
 
 bool HRManager::show(const QString &key, const QPoint &globalPos, QObject *object)
@@ -219,8 +223,21 @@ bool HRManager::show(const QString &key, const QPoint &globalPos, QObject *objec
     const int modifiers = setting(d->context, modifierKey, 0);
     if (modifiers != 0 && int(QGuiApplication::keyboardModifiers()) != modifiers)
         return false;
+    if (!canRender())
+        return false;
     initializeTooltipWindow();
     return work->presenter.show(hover);
+}
+
+/// Whether a popup can be painted; says once why not.
+bool HRManager::canRender()
+{
+    if (chooseQuickRenderer(this))
+        return true;
+    if (!std::exchange(d->toldWhyNothingShows, true))
+        handleMessage(messageWarning,
+            "No hints are shown: there is no OpenGL, and software rendering is forbidden");
+    return false;
 }
 
 /// True also where the host has deleted the object meanwhile: nobody else may see the event then.
@@ -283,6 +300,10 @@ bool HRManager::openExternalResource(const QString &resource)
     const HRExternalResourceType type = externalResourceType(resource);
     const contextKey permission
         = type == resourceName ? allowNamedResourcesKey : allowUrlResourcesKey;
+    if (packageRules(d->context).fromStrangers && !mayStrangersOpen(resource)) {
+        handleMessage(messageWarning, QString("May not open link \"%1\"").arg(resource));
+        return false;
+    }
     return setting(d->context, permission, true)
         && d->interface->openExternalResource(type, resource);
 }

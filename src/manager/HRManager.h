@@ -83,8 +83,9 @@ public:
     /// Loads a key's content for the first locale, then for the fallback locale.
     /// @param path receives the directory of the control file
     /// @param depth receives how many levels that file lies below its package directory
-    /// @param root receives the top of the tree; null where nothing was found
-    /// @return the element, whose tree the caller owns and frees through @p root; or null
+    /// @param root receives the top of the tree
+    /// @return the element, whose tree the caller owns and frees through @p root; or null. Then the
+    /// index may have written to all three, and where @p root points there need not be an element.
     HRXmlElement *retrieve(const QString &key, QString &path, int &depth, HRXmlElement *&root);
 
     /// See HRInterface::show().
@@ -146,6 +147,7 @@ protected:
 
 private:
     bool showToolTip(QObject *object, const QPoint &globalPos);
+    bool canRender();
 
     // Shared with what is at work: the host may delete the manager from any callback.
     std::shared_ptr<HRManagerPrivate> d;

@@ -4,6 +4,7 @@
 #include "manager/HRPackageScanner_p.h"
 
 #include "context/HRSetting_p.h"
+#include "gates/HRPackageRules_p.h"
 #include "index/HRIndex.h"
 #include "index/HRIndex_p.h"
 #include "index/HRPosixFile_p.h"
@@ -40,12 +41,24 @@ QFileInfoList packagesIn(const QDir &directory, const QString &suffix)
     return packages;
 }
 
+// What the control files of strangers may take of the host's time.
+constexpr qint64 largestFile = 8 * 1024 * 1024; // bytes
+constexpr size_t mostFiles = 2000;
+constexpr int deepestLevel = 20; // below the package
+
+int levelsBetween(const QString &package, const QString &directory)
+{
+    return QDir(package).relativeFilePath(directory).count('/') + 1;
+}
+
 } // namespace
 
-HRPackageScanner::HRPackageScanner(const HRContext &context, HRIndex &index, Report report)
+HRPackageScanner::HRPackageScanner(
+    const HRContext &context, HRIndex &index, Report report, Report refuse)
     : m_context(context)
     , m_index(index)
     , m_report(std::move(report))
+    , m_refuse(std::move(refuse))
 {
 }
 
@@ -91,20 +104,56 @@ void HRPackageScanner::indexFiles(const QFileInfo &directory, const QString &pac
     const QString canonicalPath = directory.canonicalFilePath();
     if (canonicalPath.isEmpty())
         return;
-    const HRDirectoryListing listing(canonicalPath + '/', ".xml");
+    const QString place = canonicalPath + '/';
+    const HRDirectoryListing listing(place, ".xml");
     // Asked once: the text for each of thousands of files costs more than the rest of its scan.
     const bool isReported
         = setting(m_context, messageLevelKey, int(messageWarning)) >= int(messageInformation);
     HRPreparedFile &prepared = m_index.memory().prepared;
-    for (const HRListedFile &file : listing.files()) {
-        prepared.listed = &file;
-        if (!m_index.prepare(listing, file))
+    const size_t count = filesWithin(listing, canonicalPath, packagePath);
+    for (size_t i = 0; i < count; ++i) {
+        const HRListedFile &file = listing.files()[i];
+        prepared.expect(place, listing, file);
+        if (isTooLarge(listing, file, prepared.path) || !m_index.prepare(listing, file))
             continue;
         if (isReported)
-            m_report("found control file :" + file.path);
-        m_index.indexControlFile(file.path, packagePath);
+            m_report("found control file :" + prepared.path);
+        m_index.indexControlFile(prepared.path, packagePath);
     }
     prepared.forget();
+}
+
+/// How many of a directory's files are indexed: all but those that strangers have too many of.
+size_t HRPackageScanner::filesWithin(
+    const HRDirectoryListing &listing, const QString &directory, const QString &package) const
+{
+    const size_t count = listing.files().size();
+    if (!packageRules(m_context).fromStrangers)
+        return count;
+    if (levelsBetween(package, directory) > deepestLevel) {
+        m_refuse(QString("Package %1: control files lie more than %2 levels deep")
+                     .arg(package)
+                     .arg(deepestLevel));
+        return 0;
+    }
+    if (count > mostFiles)
+        m_refuse(QString("Package %1: only the first %2 of %3 control files are read")
+                     .arg(package)
+                     .arg(mostFiles)
+                     .arg(count));
+    return std::min(count, mostFiles);
+}
+
+bool HRPackageScanner::isTooLarge(
+    const HRDirectoryListing &listing, const HRListedFile &file, const QString &path) const
+{
+    if (!packageRules(m_context).fromStrangers)
+        return false;
+    const std::optional<HRFileStamp> stamp = listing.stampOfReadable(file);
+    if (!stamp || stamp->size <= largestFile)
+        return false;
+    m_refuse(QString("Control file %1 is larger than %2 bytes").arg(path).arg(largestFile));
+    return true;
 }
 
 } // namespace Hintreels

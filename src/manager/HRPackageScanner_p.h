@@ -15,7 +15,9 @@ class HRContext;
 
 namespace Hintreels {
 
+class HRDirectoryListing;
 class HRIndex;
+struct HRListedFile;
 
 /// Finds the packages in data paths and hands their control files to an index.
 ///
@@ -26,7 +28,11 @@ class HRPackageScanner
 public:
     using Report = std::function<void(const QString &progress)>;
 
-    HRPackageScanner(const HRContext &context, HRIndex &index, Report report);
+    /// @param report told of the progress
+    /// @param refuse told of what packages of strangers have too much of
+    HRPackageScanner(
+        const HRContext &context, HRIndex &index, Report report,
+        Report refuse = [](const QString &) {});
 
     void scanDataPaths(const QStringList &paths);
     void scanPackage(const QFileInfo &package);
@@ -37,10 +43,15 @@ public:
 private:
     void scanDataPath(const QString &path);
     void indexFiles(const QFileInfo &directory, const QString &packagePath);
+    size_t filesWithin(
+        const HRDirectoryListing &listing, const QString &directory, const QString &package) const;
+    bool isTooLarge(
+        const HRDirectoryListing &listing, const HRListedFile &file, const QString &path) const;
 
     const HRContext &m_context;
     HRIndex &m_index;
     Report m_report;
+    Report m_refuse;
     QStringList m_scannedDirectories;
 };
 

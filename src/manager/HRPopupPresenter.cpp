@@ -8,6 +8,8 @@
 #include "interface/HRInterface.h"
 #include "ui/HRView.h"
 
+#include <limits>
+
 namespace Hintreels {
 
 namespace {
@@ -22,10 +24,11 @@ QObject *takeShownContent(HRView *view, const HRXmlElement *next)
     return content->parent() ? content->parent() : content;
 }
 
-// Bounded by what a widget can be moved to: any numbers may be set and asked for.
+// Any numbers may be set and asked for.
 int coordinateSum(qint64 a, qint64 b)
 {
-    return int(qBound<qint64>(-QWIDGETSIZE_MAX, a + b, QWIDGETSIZE_MAX));
+    using Limits = std::numeric_limits<int>;
+    return int(qBound<qint64>(Limits::min(), a + b, Limits::max()));
 }
 
 } // namespace
@@ -107,6 +110,8 @@ bool HRPopupPresenter::present(const HRHover &hover, const HRFoundContent &found
 {
     const QPointer<HRWidget> popup = m_popup;
     const QPointer<HRXmlElement> element = found.element;
+    // Before the host is asked for the shortcut: an offset that it sets then is for the next hint.
+    const QPoint corner = position(hover.globalPos);
     // Freed only at the end, or the scene's bindings would see null on the way.
     const QPointer<QObject> previous = takeShownContent(popup->view(), element);
     popup->view()->setContent(element);
@@ -114,13 +119,15 @@ bool HRPopupPresenter::present(const HRHover &hover, const HRFoundContent &found
     const bool isWanted
         = canPresent() && popup == m_popup && element && popup->view()->content() == element;
     if (isWanted) {
-        popup->showWithContent(
-            hover.object, position(hover.globalPos), element, found.packageDirectory());
+        popup->showWithContent(hover.object, corner, element, found.packageDirectory());
         // Without its view, Qt's container of it crashes when raised.
         if (popup && popup->view())
             popup->raise();
     }
-    delete previous;
+    if (popup && popup->view())
+        popup->view()->discard(previous);
+    else
+        delete previous;
     return isWanted && popup;
 }
 

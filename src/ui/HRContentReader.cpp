@@ -3,114 +3,36 @@
 
 #include "ui/HRContentReader_p.h"
 
+#include "context/HRPrintable_p.h"
+#include "ui/HRHintReading_p.h"
+#include "ui/HRKeyCaps_p.h"
+#include "ui/HRMeasuring_p.h"
+#include "ui/HRPictureFile_p.h"
 #include "ui/HRReadableColor_p.h"
+#include "ui/HRTextCut_p.h"
 #include "ui/HRTextStyle_p.h"
 #include "video/HRCaptions_p.h"
 #include "video/HRClipSize_p.h"
 
-#include <QFileInfo>
-#include <QImageReader>
 #include <QQuickTextDocument>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
 #include <QUrl>
 
-#include <algorithm>
 #include <utility>
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 namespace Hintreels {
 
 namespace {
 
-constexpr qint64 largestPicture = 64'000'000; // pixels
-
-const QString summaryTag = QStringLiteral("summary");
-
-// What each kind of block cannot do without; "text" is the text inside the element.
-const QMap<QString, QString> neededOfBlock{
-    { QStringLiteral("text"), QStringLiteral("text") },
-    { QStringLiteral("keys"), QStringLiteral("press") },
-    { QStringLiteral("picture"), QStringLiteral("source") },
-    { QStringLiteral("note"), QStringLiteral("text") },
-    { QStringLiteral("link"), QStringLiteral("to") },
-    { QStringLiteral("video"), QStringLiteral("source") },
-};
-
-bool isMarkdown(const QString &tag)
-{
-    return tag == QLatin1String("text") || tag == QLatin1String("note");
-}
-
-bool isBlank(const QString &line)
-{
-    return line.trimmed().isEmpty();
-}
-
-QString indentation(const QString &line)
-{
-    const auto end
-        = std::find_if_not(line.begin(), line.end(), [](QChar c) { return c.isSpace(); });
-    return line.left(int(end - line.begin()));
-}
-
-QString commonStart(const QString &a, const QString &b)
-{
-    const int length = std::min(a.size(), b.size());
-    const auto difference = std::mismatch(a.begin(), a.begin() + length, b.begin());
-    return a.left(int(difference.first - a.begin()));
-}
-
-QString sharedIndentation(const QStringList &lines)
-{
-    QString shared;
-    bool first = true;
-    for (const QString &line : lines) {
-        if (isBlank(line))
-            continue;
-        shared = first ? indentation(line) : commonStart(shared, indentation(line));
-        first = false;
-    }
-    return shared;
-}
-
-QVariantMap readBlock(const HRXmlElement &element)
-{
-    const QString tag = element.getTagName();
-    QVariantMap block;
-    const QStringList names = element.attributeNames();
-    for (const QString &name : names)
-        block.insert(name, element.attribute(name));
-    const QString content = element.content();
-    block.insert("text", isMarkdown(tag) ? dedent(content) : content.simplified());
-    block.insert("block", tag);
-    return block;
-}
-
-bool showsSomething(const QVariantMap &block)
-{
-    const auto needed = neededOfBlock.constFind(block.value("block").toString());
-    return needed != neededOfBlock.constEnd() && !isBlank(block.value(*needed).toString());
-}
-
-QVariantList readBlocks(const HRXmlElement &element)
-{
-    QVariantList blocks;
-    for (const QObject *child : element.children()) {
-        const auto *childElement = qobject_cast<const HRXmlElement *>(child);
-        const QVariantMap block = childElement ? readBlock(*childElement) : QVariantMap();
-        if (showsSomething(block))
-            blocks.append(block);
-    }
-    return blocks;
-}
-
-QString readSummary(const HRXmlElement &element)
-{
-    for (const QObject *child : element.children()) {
-        const auto *childElement = qobject_cast<const HRXmlElement *>(child);
-        if (childElement && childElement->getTagName() == summaryTag)
-            return childElement->content().simplified();
-    }
-    return {};
-}
+constexpr int longestCaption = 500;
+constexpr int longestTarget = 200;
+constexpr int mostCaptions = 1'000; // nobody writes as many for a clip of some seconds
 
 QLocale localeOf(const HRXmlElement &element, const HRReaderSettings &settings)
 {
@@ -119,90 +41,69 @@ QLocale localeOf(const HRXmlElement &element, const HRReaderSettings &settings)
     return name.isEmpty() ? settings.locales.first() : QLocale(name);
 }
 
-// A plus sign joins what stands before it to the next key, unless nothing does: then it is the key.
-QStringList keysOfStroke(const QString &stroke)
+/// A text as the UI says it; as it is where the UI has no other, or fails.
+QString said(QJSValue say, const QString &text)
 {
-    QStringList keys;
-    QString key;
-    for (const QChar c : stroke) {
-        const bool joins = c == '+' && !isBlank(key);
-        if (joins)
-            keys.append(key.trimmed());
-        key = joins ? QString() : key + c;
-    }
-    if (!isBlank(key))
-        keys.append(key.trimmed());
-    return keys;
+    if (text.isEmpty() || !say.isCallable())
+        return text;
+    const QJSValue answer = say.call({ text });
+    return answer.isString() ? answer.toString() : text;
+}
+
+QVariantMap sizeMap(const QSize &size)
+{
+    if (size.isEmpty())
+        return {};
+    return { { "width", size.width() }, { "height", size.height() } };
 }
 
 } // namespace
 
-QString dedent(const QString &text)
-{
-    QStringList lines = text.split('\n');
-    if (!isBlank(lines.first()))
-        lines.first() = lines.first().trimmed().prepend(sharedIndentation(lines.mid(1)));
-    const QString shared = sharedIndentation(lines);
-    for (QString &line : lines)
-        line = isBlank(line) ? QString() : line.mid(shared.size());
-    while (!lines.isEmpty() && lines.first().isEmpty())
-        lines.removeFirst();
-    while (!lines.isEmpty() && lines.last().isEmpty())
-        lines.removeLast();
-    return lines.join('\n');
-}
-
-HRContentReader::HRContentReader(SettingsSource settings, QObject *parent)
+HRContentReader::HRContentReader(SettingsSource settings, QObject *parent, FileGate gate)
     : QObject(parent)
     , m_settings(std::move(settings))
+    , m_gate(std::move(gate))
+    , m_pictures(new HRMeasuring([](const QString &path, auto) { return pictureSize(path); }, this))
+    , m_clips(new HRMeasuring(&clipSize, this))
 {
+    connect(m_pictures, &HRMeasuring::measured, this, &HRContentReader::tellMeasured);
+    connect(m_clips, &HRMeasuring::measured, this, &HRContentReader::tellMeasured);
 }
 
-QVariantMap HRContentReader::read(HRXmlElement *element) const
+QVariantMap HRContentReader::read(HRXmlElement *element, const QJSValue &say) const
 {
     if (!element)
         return {};
+    m_pictures->forget();
+    m_clips->forget();
+    QVariantMap hint = readHint(*element, [&say](const QString &text) { return said(say, text); });
     const QLocale locale = localeOf(*element, m_settings());
-    return {
-        { "title", element->attribute("title").simplified() },
-        { "shortcut", element->attribute("shortcut").simplified() },
-        { "documentation", element->attribute("documentation").trimmed() },
-        { "summary", readSummary(*element) },
-        { "rightToLeft", locale.textDirection() == Qt::RightToLeft },
-        { "blocks", readBlocks(*element) },
-    };
+    hint.insert("rightToLeft", locale.textDirection() == Qt::RightToLeft);
+    return hint;
 }
 
 QVariantList HRContentReader::keyCaps(const QString &shortcut) const
 {
     QVariantList strokes;
-    const QStringList parts = shortcut.split(QStringLiteral(", "), Qt::SkipEmptyParts);
-    for (const QString &part : parts) {
-        const QStringList keys = keysOfStroke(part);
-        if (!keys.isEmpty())
-            strokes.append(QVariant(keys));
-    }
+    const QVector<QStringList> caps = keyCapsOf(shortcut);
+    for (const QStringList &keys : caps)
+        strokes.append(QVariant(keys));
     return strokes;
 }
 
 QVariantMap HRContentReader::picture(const QString &path) const
 {
-    if (!QFileInfo(path).isFile())
+    if (!mayUse(path, HRFileUse::picture))
         return {};
-    QImageReader reader(path);
-    const QSize size = reader.canRead() ? reader.size() : QSize();
-    if (size.isEmpty() || qint64(size.width()) * size.height() > largestPicture)
-        return {};
-    return { { "url", QUrl::fromLocalFile(path) }, { "width", size.width() },
-        { "height", size.height() } };
+    QVariantMap picture = sizeMap(m_pictures->size(path));
+    if (!picture.isEmpty())
+        picture.insert("url", QUrl::fromLocalFile(path));
+    return picture;
 }
 
 QVariantMap HRContentReader::clip(const QString &path) const
 {
-    const QSize size = clipSize(path);
-    if (size.isEmpty())
-        return {};
-    return { { "width", size.width() }, { "height", size.height() } };
+    return mayUse(path, HRFileUse::clip) ? sizeMap(m_clips->size(path)) : QVariantMap();
 }
 
 QStringList HRContentReader::captionFiles(const QString &clip) const
@@ -210,15 +111,36 @@ QStringList HRContentReader::captionFiles(const QString &clip) const
     return Hintreels::captionFiles(clip, m_settings().locales);
 }
 
+QString HRContentReader::caption(const QString &text) const
+{
+    return cutText(text, longestCaption);
+}
+
 QVariantList HRContentReader::captions(const QString &path) const
 {
+    if (!mayUse(path, HRFileUse::text))
+        return {};
     QVariantList captions;
-    const QVector<HRCaption> read = readCaptions(path);
+    const QVector<HRCaption> read = readCaptions(path).mid(0, mostCaptions);
     for (const HRCaption &caption : read) {
-        captions.append(QVariantMap{
-            { "start", caption.start }, { "end", caption.end }, { "text", caption.text } });
+        captions.append(QVariantMap{ { "start", caption.start }, { "end", caption.end },
+            { "text", this->caption(caption.text) } });
     }
     return captions;
+}
+
+void HRContentReader::returnMemory() const
+{
+#ifdef __GLIBC__
+    malloc_trim(0);
+#endif
+}
+
+QString HRContentReader::shownTarget(const QString &target, const QString &text) const
+{
+    if (!m_settings().showsTargets || target == text)
+        return {};
+    return QStringLiteral(" (%1)").arg(cutText(printable(target), longestTarget));
 }
 
 bool HRContentReader::reducedMotion() const
@@ -231,16 +153,50 @@ QColor HRContentReader::readable(const QColor &wanted, const QColor &background)
     return readableColor(wanted, background);
 }
 
-QVariantList HRContentReader::showMarkdown(
-    QQuickTextDocument *document, const QString &markdown, const QVariantMap &look) const
+void HRContentReader::tellMeasured()
+{
+    ++m_measured;
+    Q_EMIT measuredChanged();
+}
+
+QVariantMap HRContentReader::showMarkdown(QQuickTextDocument *document, const QString &markdown,
+    const QVariantMap &look, const QJSValue &findPicture) const
 {
     QTextDocument *text = document ? document->textDocument() : nullptr;
     if (!text)
         return {};
+    const auto find = [&](const QString &path) {
+        return pictureInText(findPicture, path, look.value("room").toSizeF());
+    };
     setMarkdown(*text, markdown,
         { look.value("link").value<QColor>(), look.value("codeBackground").value<QColor>(),
-            look.value("spacing").toReal() });
-    return linksIn(*text);
+            look.value("spacing").toReal() },
+        HRMarkdownGate(find, look.value("links").toInt()));
+    tellTargets(*text);
+    return { { "links", linksIn(*text) }, { "pictures", picturesIn(*text) } };
+}
+
+/// From the last link to the first, so that the positions of the others stay.
+void HRContentReader::tellTargets(QTextDocument &text) const
+{
+    const QVariantList links = m_settings().showsTargets ? linksIn(text) : QVariantList();
+    for (auto it = links.crbegin(); it != links.crend(); ++it) {
+        const QVariantMap link = it->toMap();
+        QTextCursor cursor(&text);
+        cursor.setPosition(link.value("end").toInt());
+        cursor.insertText(shownTarget(link.value("href").toString(), link.value("text").toString()),
+            cursor.block().charFormat());
+    }
+}
+
+HRTextPicture HRContentReader::pictureInText(
+    QJSValue findPicture, const QString &path, const QSizeF &room) const
+{
+    const QJSValue file = findPicture.call({ path });
+    const QVariantMap found = file.isString() ? picture(file.toString()) : QVariantMap();
+    const QSizeF size(found.value("width").toReal(), found.value("height").toReal());
+    return { found.value("url").toUrl(),
+        size.scaled(room.boundedTo(size), Qt::KeepAspectRatio).toSize() };
 }
 
 } // namespace Hintreels

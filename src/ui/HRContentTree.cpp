@@ -17,12 +17,15 @@ bool isRootOfOne(const HRXmlElement *element)
 
 } // namespace
 
+QObject *contentTreeOf(HRXmlElement *content)
+{
+    auto *root = content ? qobject_cast<HRXmlElement *>(content->parent()) : nullptr;
+    return isRootOfOne(root) ? root : content;
+}
+
 void deleteContentTree(HRXmlElement *content)
 {
-    if (!content)
-        return;
-    auto *root = qobject_cast<HRXmlElement *>(content->parent());
-    delete (isRootOfOne(root) ? root : content);
+    delete contentTreeOf(content);
 }
 
 } // namespace Hintreels

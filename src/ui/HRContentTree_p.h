@@ -3,13 +3,22 @@
 
 #pragma once
 
+#include <QtGlobal>
+
+QT_BEGIN_NAMESPACE
+class QObject;
+QT_END_NAMESPACE
+
 namespace Hintreels {
 
 class HRXmlElement;
 
-/// Deletes content that nobody shows any more, with the `hintreels` root that was read for it.
+/// What goes with content that nobody shows any more: the `hintreels` root that was read for it.
 ///
-/// A parent of another kind, or with other children, stays. Null does nothing.
+/// A parent of another kind, or with other children, stays. Null for null.
+QObject *contentTreeOf(HRXmlElement *content);
+
+/// Deletes that.
 void deleteContentTree(HRXmlElement *content);
 
 } // namespace Hintreels

@@ -24,11 +24,11 @@ bool HRPopupFade::isFadingOut() const
     return isRunning() && m_animation->endValue().toReal() == 0.0;
 }
 
-void HRPopupFade::fadeTo(qreal opacity, int duration, const Ended &ended)
+void HRPopupFade::fade(qreal from, qreal to, int duration, const Ended &ended)
 {
     stop();
-    m_animation->setStartValue(m_window->windowOpacity());
-    m_animation->setEndValue(opacity);
+    m_animation->setStartValue(from);
+    m_animation->setEndValue(to);
     m_animation->setDuration(duration);
     m_ended = QObject::connect(m_animation, &QPropertyAnimation::finished, m_window, ended);
     m_animation->start();

@@ -26,9 +26,11 @@ public:
     bool isRunning() const;
     bool isFadingOut() const;
 
-    /// Animates the opacity from its current value; @p ended is called when that is done.
+    /// Animates the opacity; @p ended is called when that is done.
+    ///
+    /// The start is named, since a window keeps its opacity in steps of 1/255 and rounds down.
     /// @param duration in milliseconds, above zero
-    void fadeTo(qreal opacity, int duration, const Ended &ended);
+    void fade(qreal from, qreal to, int duration, const Ended &ended);
 
     /// Stops without calling back; the opacity stays as it is.
     void stop();

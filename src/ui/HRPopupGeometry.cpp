@@ -3,7 +3,7 @@
 
 #include "ui/HRPopupGeometry_p.h"
 
-#include <QtGlobal>
+#include <QWidget>
 
 namespace Hintreels {
 
@@ -54,6 +54,12 @@ QRect movedInside(const QRect &geometry, const QRect &screen)
     if (screen.right() < moved.right())
         moved.moveRight(screen.right());
     return moved;
+}
+
+QPoint withinReach(const QPoint &position)
+{
+    const auto bounded = [](int value) { return qBound(-QWIDGETSIZE_MAX, value, QWIDGETSIZE_MAX); };
+    return { bounded(position.x()), bounded(position.y()) };
 }
 
 bool isNear(const QRect &area, const QSize &margin, const QPoint &position)

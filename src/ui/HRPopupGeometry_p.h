@@ -23,6 +23,9 @@ int mostCoveredScreen(const QRect &area, const QVector<QRect> &screens);
 /// right corner in sight.
 QRect movedInside(const QRect &geometry, const QRect &screen);
 
+/// The nearest position to which a window can be moved, and at which its edges can be computed.
+QPoint withinReach(const QPoint &position);
+
 /// Whether a position is inside an area widened by the margin on every side, edges included.
 bool isNear(const QRect &area, const QSize &margin, const QPoint &position);
 

@@ -3,8 +3,13 @@
 
 #include "ui/HRQuickRenderer_p.h"
 
+#include "context/HRSetting_p.h"
+#include "manager/HRManager.h"
+
 #include <QOpenGLContext>
 #include <QQuickWindow>
+
+#include <utility>
 
 namespace Hintreels {
 
@@ -16,16 +21,27 @@ bool hasOpenGL()
     return context.create();
 }
 
+bool isSoftwareAllowed(HRManager *manager)
+{
+    return !manager || !setting(manager->context(), forbidSoftwareRendererKey, false);
+}
+
 } // namespace
 
-void chooseQuickRenderer()
+bool chooseQuickRenderer(HRManager *manager)
 {
-    static const bool chosen = [] {
-        if (QQuickWindow::sceneGraphBackend().isEmpty() && !hasOpenGL())
-            QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
+    if (!QQuickWindow::sceneGraphBackend().isEmpty())
         return true;
-    }();
-    Q_UNUSED(chosen)
+    static const bool isAccelerated = hasOpenGL();
+    if (isAccelerated)
+        return true;
+    if (!isSoftwareAllowed(manager))
+        return false;
+    // Once, since after a window of the host's own it is too late, and Qt warns each time.
+    static bool isTold = false;
+    if (!std::exchange(isTold, true))
+        QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
+    return true;
 }
 
 } // namespace Hintreels

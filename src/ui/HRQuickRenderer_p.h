@@ -5,11 +5,16 @@
 
 namespace Hintreels {
 
-/// Makes Qt Quick render in software where OpenGL is not to be had.
+class HRManager;
+
+/// Makes Qt Quick render in software where OpenGL is not to be had, for the whole process.
 ///
 /// Without OpenGL Qt Quick ends the whole application at the first frame, unless it was told
-/// before the first of its windows. A backend that the host or its user has chosen stays. To be
-/// called before each view is constructed; looks only once, since a look costs an OpenGL context.
-void chooseQuickRenderer();
+/// before the first of its windows. A backend that the host or its user has chosen stays, and the
+/// setting forbidSoftwareRendererKey leaves everything as it is. To be called before each view is
+/// constructed; looks for OpenGL only once, since a look costs an OpenGL context.
+/// @param manager whose settings count; null for the defaults
+/// @return false where the setting is all that keeps a view from being painted
+bool chooseQuickRenderer(HRManager *manager);
 
 } // namespace Hintreels

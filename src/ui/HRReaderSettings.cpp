@@ -4,6 +4,7 @@
 #include "ui/HRReaderSettings_p.h"
 
 #include "context/HRSetting_p.h"
+#include "gates/HRPackageRules_p.h"
 #include "manager/HRManager.h"
 
 #include <QApplication>
@@ -28,7 +29,8 @@ HRReaderSettings readerSettings(HRManager *manager)
     const HRContext &context = manager->context();
     const QLocale fallback(setting(context, fallbackLocaleKey, QStringLiteral("en_US")));
     return { { manager->currentLocale(), fallback },
-        setting(context, reducedMotionKey, desktopReducesMotion()) };
+        setting(context, reducedMotionKey, desktopReducesMotion()),
+        packageRules(context).fromStrangers };
 }
 
 } // namespace Hintreels

@@ -3,7 +3,8 @@
 
 #include "ui/HRTextStyle_p.h"
 
-#include <QFontDatabase>
+#include "ui/HRTextParts_p.h"
+
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -16,21 +17,9 @@ namespace {
 constexpr qreal lineHeight = 120; // percent; DejaVu and Noto read well with it at 13 px
 constexpr qreal indentPerSpacing = 2.5; // a list's bullet stands clear of the text above it
 
-// What Qt's Markdown reader sets code in; it does not always come with the fixed-pitch property.
-QString fixedFamily()
-{
-    return QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
-}
-
 bool isListItem(const QTextBlock &block)
 {
     return block.textList() != nullptr;
-}
-
-bool isCode(const QTextBlock &block)
-{
-    return block.blockFormat().hasProperty(QTextFormat::BlockCodeFence)
-        || block.blockFormat().hasProperty(QTextFormat::BlockCodeLanguage);
 }
 
 qreal spaceBelow(const QTextBlock &block, qreal spacing)
@@ -39,6 +28,11 @@ qreal spaceBelow(const QTextBlock &block, qreal spacing)
     if (!next.isValid() || (isCode(block) && isCode(next)))
         return 0;
     return isListItem(block) && isListItem(next) ? spacing / 2 : spacing;
+}
+
+bool holdsPicture(const QTextBlock &block)
+{
+    return block.text().contains(QChar::ObjectReplacementCharacter);
 }
 
 void styleBlock(const QTextBlock &block, const HRTextLook &look)
@@ -50,15 +44,16 @@ void styleBlock(const QTextBlock &block, const HRTextLook &look)
     format.setLeftMargin(isCode(block) ? indent : quotation * indent);
     format.setRightMargin(0);
     format.setBottomMargin(spaceBelow(block, look.spacing));
-    format.setLineHeight(lineHeight, QTextBlockFormat::ProportionalHeight);
+    // A line is as high as the picture in it, and must not grow by a fifth of that.
+    if (!holdsPicture(block))
+        format.setLineHeight(lineHeight, QTextBlockFormat::ProportionalHeight);
     QTextCursor(block).setBlockFormat(format);
 }
 
 QTextCharFormat styledFormat(
     const QTextCharFormat &markdown, const QTextBlock &block, const HRTextLook &look)
 {
-    const bool fixed = markdown.fontFixedPitch() || markdown.fontFamily() == fixedFamily();
-    const bool inlineCode = fixed && !isCode(block);
+    const bool inlineCode = isCode(markdown) && !isCode(block);
     QTextCharFormat format = markdown;
     format.clearProperty(QTextFormat::FontSizeAdjustment);
     if (format.fontWeight() > QFont::Normal)
@@ -68,14 +63,6 @@ QTextCharFormat styledFormat(
     if (format.isAnchor())
         format.setForeground(look.link);
     return format;
-}
-
-QVector<QTextFragment> fragmentsOf(const QTextBlock &block)
-{
-    QVector<QTextFragment> fragments;
-    for (auto it = block.begin(); !it.atEnd(); ++it)
-        fragments.append(it.fragment());
-    return fragments;
 }
 
 void styleCharacters(QTextDocument &document, const QTextBlock &block, const HRTextLook &look)
@@ -106,11 +93,12 @@ void removeLeftovers(QTextDocument &document)
 
 } // namespace
 
-void setMarkdown(QTextDocument &document, const QString &markdown, const HRTextLook &look)
+void setMarkdown(QTextDocument &document, const QString &markdown, const HRTextLook &look,
+    const HRMarkdownGate &gate)
 {
     QTextCursor whole(&document);
     whole.beginEditBlock();
-    document.setMarkdown(markdown);
+    gate.fill(&document, markdown);
     removeLeftovers(document);
     document.setIndentWidth(look.spacing * indentPerSpacing);
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
@@ -134,6 +122,23 @@ QVariantList linksIn(const QTextDocument &document)
         }
     }
     return links;
+}
+
+QVariantList picturesIn(const QTextDocument &document)
+{
+    QVariantList pictures;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        const QVector<QTextFragment> fragments = fragmentsOf(block);
+        for (const QTextFragment &fragment : fragments) {
+            const QTextImageFormat picture = fragment.charFormat().toImageFormat();
+            if (picture.isValid())
+                pictures.append(QVariantMap{ { "url", HRMarkdownGate::pictureIn(picture) },
+                    { "text", picture.property(QTextFormat::ImageAltText) },
+                    { "start", fragment.position() }, { "width", picture.width() },
+                    { "height", picture.height() } });
+        }
+    }
+    return pictures;
 }
 
 } // namespace Hintreels

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "ui/HRMarkdownGate_p.h"
+
 #include <QColor>
 #include <QVariantList>
 
@@ -25,9 +27,16 @@ struct HRTextLook
 ///
 /// The document is laid out once, at the end: Qt's own road lays it out after each piece of text,
 /// which takes minutes for a paragraph of some thousand links.
-void setMarkdown(QTextDocument &document, const QString &markdown, const HRTextLook &look);
+///
+/// @param gate what is let into the document
+void setMarkdown(QTextDocument &document, const QString &markdown, const HRTextLook &look,
+    const HRMarkdownGate &gate = HRMarkdownGate());
 
 /// A map for each link, in reading order: "href", "text", and the positions "start" and "end".
 QVariantList linksIn(const QTextDocument &document);
+
+/// A map for each place of a picture, in reading order: "url", "text" (which says what it shows),
+/// the position "start", and "width" and "height" in pixels.
+QVariantList picturesIn(const QTextDocument &document);
 
 } // namespace Hintreels

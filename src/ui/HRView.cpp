@@ -3,6 +3,8 @@
 
 #include "ui/HRView.h"
 
+#include "gates/HRSceneGates_p.h"
+#include "gates/HRScriptWatch_p.h"
 #include "index/HRIndex.h"
 #include "interface/HRInterface.h"
 #include "manager/HRManager.h"
@@ -10,12 +12,14 @@
 #include "ui/HRCursorShape_p.h"
 #include "ui/HROverrideCursors_p.h"
 #include "ui/HRQuickRenderer_p.h"
+#include "ui/HRSceneLoader_p.h"
+#include "ui/HRSceneReach_p.h"
+#include "video/HRVideoComponent.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QQmlEngine>
 #include <QQuickItem>
-#include <QUrl>
 
 namespace Hintreels {
 
@@ -42,6 +46,33 @@ void reportErrors(HRManager *manager, const QString &pattern, const QList<QQmlEr
         report(manager, pattern.arg(error.line()).arg(error.column()).arg(error.description()));
 }
 
+/// All clips below an item, whatever made them.
+QVector<HRVideoComponent *> clipsBelow(const QQuickItem *item)
+{
+    QVector<HRVideoComponent *> clips;
+    const QList<QQuickItem *> children = item->childItems();
+    for (QQuickItem *child : children) {
+        if (auto *clip = qobject_cast<HRVideoComponent *>(child))
+            clips.append(clip);
+        clips += clipsBelow(child);
+    }
+    return clips;
+}
+
+QString packageName(const HRXmlElement *content)
+{
+    return content ? content->attribute(QStringLiteral("HRPackagName")) : QString();
+}
+
+void reportRefusal(
+    HRManager *manager, const HRXmlElement *content, const QString &kind, const QString &path)
+{
+    if (manager)
+        manager->handleMessage(messageWarning,
+            QStringLiteral("Package \"%1\" may not use %2 \"%3\"")
+                .arg(packageName(content), kind, path));
+}
+
 QVariant managerSetting(HRManager *manager, HRContextKey key, const QVariant &defaultValue)
 {
     return manager ? manager->context().get(key, defaultValue) : defaultValue;
@@ -49,11 +80,28 @@ QVariant managerSetting(HRManager *manager, HRContextKey key, const QVariant &de
 
 } // namespace
 
+int HRSceneWindow::qt_metacall(QMetaObject::Call call, int id, void **arguments)
+{
+    static const int slot = QQuickView::staticMetaObject.indexOfMethod("setSource(QUrl)");
+    if (call != QMetaObject::InvokeMetaMethod || id != slot)
+        return QQuickView::qt_metacall(call, id, arguments);
+    load(*static_cast<const QUrl *>(arguments[1]));
+    return -1;
+}
+
 HRView::HRView(HRManager *manager, QWindow *parent)
-    : QQuickView((chooseQuickRenderer(), parent))
+    : HRSceneWindow((chooseQuickRenderer(manager), parent))
     , m_manager(manager)
     , m_cursors(std::make_unique<HROverrideCursors>())
+    , m_loader(std::make_unique<HRSceneLoader>(
+          this, engine(), [this](const QUrl &source) { take(source); }))
+    , m_gates(std::make_unique<HRSceneGates>(engine(),
+          [this](const QString &kind, const QString &path) {
+              reportRefusal(m_manager, m_content, kind, path);
+          }))
+    , m_watch(std::make_shared<HRScriptWatch>(engine()))
 {
+    connect(m_watch.get(), &HRScriptWatch::stopped, this, &HRView::scriptStopped);
     connect(engine(), &QQmlEngine::warnings, this, &HRView::handleWarnings);
     connect(this, &QQuickView::statusChanged, this, &HRView::statusHasChanged);
     // A renderer that fails ends the application unless somebody listens.
@@ -71,15 +119,42 @@ HRView::HRView(HRManager *manager, QWindow *parent)
 
 HRView::~HRView()
 {
+    m_watch->start(0);
     m_cursors->release();
     // The scene first: its bindings should not see the content go.
-    setSource(QUrl());
+    QQuickView::setSource(QUrl());
     deleteContentTree(m_content);
 }
 
 HRManager *HRView::manager() const
 {
     return m_manager;
+}
+
+QUrl HRView::source() const
+{
+    return m_loader->waiting().value_or(QQuickView::source());
+}
+
+void HRView::setSource(const QUrl &source)
+{
+    load(source);
+}
+
+HRSceneLoader *HRView::sceneLoader() const
+{
+    return m_loader.get();
+}
+
+const std::shared_ptr<HRScriptWatch> &HRView::scriptWatch() const
+{
+    return m_watch;
+}
+
+bool HRView::mayOpen(const QString &attribute, const QString &path, HRFileUse use) const
+{
+    followRules();
+    return m_gates->admits(attribute, path, use);
 }
 
 bool HRView::stayOpen() const
@@ -89,6 +164,7 @@ bool HRView::stayOpen() const
 
 void HRView::setStayOpen(bool stayOpen)
 {
+    const HRScriptWatch::HostCall call(m_watch);
     m_stayOpen = stayOpen;
     Q_EMIT stayOpenChanged();
 }
@@ -102,6 +178,7 @@ void HRView::setReserved(bool reserved)
 {
     if (m_reserved == reserved)
         return;
+    const HRScriptWatch::HostCall call(m_watch);
     m_reserved = reserved;
     Q_EMIT reservedChanged();
 }
@@ -113,7 +190,18 @@ HRXmlElement *HRView::content() const
 
 void HRView::setContent(HRXmlElement *content)
 {
+    if (m_content != content)
+        m_gates->forgetRefusals();
     m_content = content;
+    followRules();
+}
+
+void HRView::discard(QObject *contentTree)
+{
+    if (contentTree && m_loader->isSceneAtWork())
+        contentTree->deleteLater();
+    else
+        delete contentTree;
 }
 
 bool HRView::documentationAvailable() const
@@ -145,7 +233,11 @@ void HRView::setViewPos(int x, int y)
 
 QString HRView::uiRootFilePath() const
 {
-    if (managerSetting(m_manager, simpleTooltipKey, false).toBool())
+    const bool simple = managerSetting(m_manager, simpleTooltipKey, false).toBool();
+    followRules();
+    if (m_gates->rules().fromStrangers)
+        return builtInUi(simple);
+    if (simple)
         return findComponent(QStringLiteral("simple"), simpleUiFileKey,
             QStringLiteral("ui/SimpleTooltip.qml"), QString());
     return findComponent(
@@ -165,14 +257,18 @@ QString HRView::findComponent(const QString &attributeName, HRContextKey key,
     const QString base = categoryPath(attributeName, defaultValue, key);
     if (!m_content || !m_manager)
         return base;
+    followRules();
     const QStringList candidates = m_manager->index()->componentPathsForElement(m_content, base);
     for (const QString &candidate : candidates) {
         const QString file
             = relativePath.isEmpty() ? candidate : QDir(candidate).absoluteFilePath(relativePath);
         if (QFile::exists(file))
-            return QFileInfo(file).absoluteFilePath();
+            return m_gates->admits(attributeName, file, HRFileUse::any)
+                ? QFileInfo(file).absoluteFilePath()
+                : QString();
     }
-    return base;
+    // Such a name would be looked for in the working directory.
+    return m_gates->rules().ownFilesOnly && !relativePath.isEmpty() ? QString() : base;
 }
 
 void HRView::releaseOverrideCursors()
@@ -180,8 +276,24 @@ void HRView::releaseOverrideCursors()
     m_cursors->release();
 }
 
+void HRView::setDecodingPaused(bool paused)
+{
+    m_decodingPaused = paused;
+    for (HRVideoComponent *clip : clipsBelow(contentItem()))
+        clip->setDecodingPaused(paused);
+}
+
+bool HRView::isDecodingPaused() const
+{
+    return m_decodingPaused;
+}
+
 void HRView::handleWarnings(const QList<QQmlError> &warnings)
 {
+    // Qt tells of a script's error when the script has left the stack, and the scene is at work
+    // yet.
+    const HRSceneLoader::Work work(m_loader.get());
+    const HRScriptWatch::HostCall call(m_watch);
     reportErrors(m_manager, QStringLiteral("QML Warning %1:%2:%3"), warnings);
 }
 
@@ -199,8 +311,10 @@ void HRView::loadQML(const QString &path)
         return;
     }
     // The same scene stays loaded: it follows the context property that holds the content.
-    const QUrl url = QUrl::fromLocalFile(file.absoluteFilePath());
-    if (source() != url)
+    const QUrl url = urlOfFile(file.absoluteFilePath());
+    if (QQuickView::source() == url)
+        m_loader->forget();
+    else if (source() != url)
         setSource(url);
 }
 
@@ -212,6 +326,7 @@ void HRView::resetState()
 
 void HRView::managerContextSettingDidChange(const HRContextKey &key)
 {
+    followRules();
     if (key == allowNamedResourcesKey)
         Q_EMIT documentationAvailableChanged();
 }
@@ -228,13 +343,16 @@ void HRView::setItemCursor(QQuickPaintedItem *object, const QString &shape, cons
 
 void HRView::debugLog(const QString &msg)
 {
+    const HRScriptWatch::HostCall call(m_watch);
     report(m_manager, msg);
 }
 
 void HRView::openExternalResource(const QString &resourceLocator)
 {
+    const HRScriptWatch::HostCall call(m_watch);
+    // A link may come out of a property for URLs, which are refused where they would be loaded.
     if (m_manager)
-        m_manager->openExternalResource(resourceLocator);
+        m_manager->openExternalResource(withoutRefusal(resourceLocator));
 }
 
 QString HRView::interpolate(const QString &string)
@@ -256,6 +374,7 @@ QString HRView::translate(const QString &string, const QString &context)
 {
     if (!m_manager || !m_manager->interface())
         return string;
+    const HRScriptWatch::HostCall call(m_watch);
     return m_manager->interface()->translateString(string, context);
 }
 
@@ -268,6 +387,50 @@ QString HRView::findResource(const QString &relativePath)
 int HRView::getScaledSize(int size)
 {
     return m_manager ? m_manager->getScaledSize(size) : size;
+}
+
+void HRView::load(const QUrl &source)
+{
+    m_loader->load(source);
+}
+
+bool HRView::event(QEvent *event)
+{
+    if (m_loader->holdsBack(*event))
+        return true;
+    const HRSceneLoader::Work work(m_loader.get());
+    const HRScriptWatch::Entry entry(m_watch);
+    return QQuickView::event(event);
+}
+
+void HRView::take(const QUrl &source)
+{
+    followRules();
+    if (!mayBecomeScene(source, reachOfScene(m_manager, m_content, m_qmlFile, *engine()))) {
+        m_gates->refuse(QStringLiteral("ui"), source.toLocalFile());
+        return;
+    }
+    m_qmlFile = source.toLocalFile();
+    followRules();
+    m_watch->start(source.isEmpty() ? 0 : scriptLimit(m_manager));
+    const HRScriptWatch::Entry entry(m_watch);
+    QQuickView::setSource(source);
+    m_gates->tellRefusals();
+}
+
+void HRView::followRules() const
+{
+    m_gates->setReach(reachOfScene(m_manager, m_content, m_qmlFile, *engine()));
+}
+
+void HRView::scriptStopped(int limit)
+{
+    setSource(QUrl());
+    if (m_manager)
+        m_manager->handleMessage(messageWarning,
+            QStringLiteral("A script of package \"%1\" ran for more than %2 ms and was stopped")
+                .arg(packageName(m_content))
+                .arg(limit));
 }
 
 void HRView::resizeEvent(QResizeEvent *)

@@ -14,6 +14,7 @@
 #include <QQuickPaintedItem>
 #include <QQuickView>
 #include <QString>
+#include <QUrl>
 
 #include <memory>
 
@@ -21,6 +22,23 @@ namespace Hintreels {
 
 class HRManager;
 class HROverrideCursors;
+class HRSceneGates;
+class HRSceneLoader;
+class HRScriptWatch;
+enum class HRFileUse;
+
+/// A view whose scripts may ask for another QML file by what QQuickView itself offers them.
+class HINTREELS_EXPORT HRSceneWindow : public QQuickView
+{
+public:
+    using QQuickView::QQuickView;
+
+    /// Leads scripts from QQuickView's slot, which cannot be overridden, to setSource() of HRView.
+    int qt_metacall(QMetaObject::Call call, int id, void **arguments) override;
+
+protected:
+    virtual void load(const QUrl &source) = 0;
+};
 
 /// Renders the QML user interface of one popup, and serves the scripts in it.
 ///
@@ -29,7 +47,7 @@ class HROverrideCursors;
 ///
 /// Works without a manager too, also after the manager is gone: settings then have their defaults,
 /// texts come back as they are and nothing is opened. GUI thread only.
-class HINTREELS_EXPORT HRView : public QQuickView
+class HINTREELS_EXPORT HRView : public HRSceneWindow
 {
     Q_OBJECT
     // QML sees signals, slots, methods and properties in the order in which they stand here.
@@ -40,6 +58,8 @@ class HINTREELS_EXPORT HRView : public QQuickView
             documentationAvailableChanged)
     // Without notification: QML binds to `hintreel`, which changes whenever this can.
     Q_PROPERTY(QString resourceDirectory READ resourceDirectoryPath)
+    // Instead of the one that comes with QQuickView, which deletes a scene that is at work.
+    Q_PROPERTY(QUrl source READ source WRITE setSource)
 
 public:
     /// @param manager not owned; may be null
@@ -49,6 +69,24 @@ public:
     ~HRView() override;
 
     HRManager *manager() const;
+
+    /// The QML root file, also while it waits to be loaded; see setSource().
+    QUrl source() const;
+
+    /// Loads a QML root file in place of the scene before.
+    ///
+    /// Asked from inside that scene (a callback out of one of its scripts or events, or while it is
+    /// being made), the file waits for the event loop, and nothing is painted until then.
+    void setSource(const QUrl &source);
+
+    /// What knows whether the scene is at work; for the popup that holds the view.
+    HRSceneLoader *sceneLoader() const;
+
+    /// What stops scripts that run for too long; for the popup that holds the view.
+    const std::shared_ptr<HRScriptWatch> &scriptWatch() const;
+
+    /// Whether the settings let the content use a file, which is told where they do not.
+    bool mayOpen(const QString &attribute, const QString &path, HRFileUse use) const;
 
     /// Whether the popup stays when the pointer leaves it.
     bool stayOpen() const;
@@ -68,6 +106,10 @@ public:
     /// Takes an element over without a signal. The old one is not deleted: whoever replaces it
     /// does that.
     void setContent(HRXmlElement *content);
+
+    /// Deletes what is shown no longer: at once, or from the event loop when it is called from
+    /// inside the scene, which may be working on it.
+    void discard(QObject *contentTree);
 
     /// Whether the UI offers documentation: the setting allowNamedResourcesKey, false by default.
     bool documentationAvailable() const;
@@ -100,6 +142,11 @@ public:
     ///
     /// As many later restores by QML are swallowed, so that they do not take the host's cursor.
     void releaseOverrideCursors();
+
+    /// Pauses or resumes the decoding of all clips in the view, of those to come as well. The popup
+    /// does so when it hides and shows; a view that was never in a shown popup decodes.
+    void setDecodingPaused(bool paused);
+    bool isDecodingPaused() const;
 
 Q_SIGNALS:
     void stayOpenChanged();
@@ -146,18 +193,29 @@ public:
     Q_INVOKABLE int getScaledSize(int size);
 
 protected:
+    void load(const QUrl &source) override;
+    bool event(QEvent *event) override;
     // The base is left out: the window follows its root item, and UI files never size from the
     // window.
     void resizeEvent(QResizeEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
 
 private:
+    void take(const QUrl &source);
+    void followRules() const;
+    void scriptStopped(int limit);
+
     QPointer<HRManager> m_manager;
     QPointer<HRXmlElement> m_content;
     QString m_packageRoot;
     bool m_stayOpen = false;
     bool m_reserved = false;
+    bool m_decodingPaused = false;
     std::unique_ptr<HROverrideCursors> m_cursors;
+    std::unique_ptr<HRSceneLoader> m_loader;
+    QString m_qmlFile; // of the scene
+    std::unique_ptr<HRSceneGates> m_gates;
+    std::shared_ptr<HRScriptWatch> m_watch;
 };
 
 } // namespace Hintreels

@@ -4,6 +4,8 @@
 #include "ui/HRWidget.h"
 
 #include "context/HRSetting_p.h"
+#include "gates/HRMediaKind_p.h"
+#include "gates/HRScriptWatch_p.h"
 #include "manager/HRManager.h"
 #include "ui/HRContentReader_p.h"
 #include "ui/HRContentTree_p.h"
@@ -13,6 +15,7 @@
 #include "ui/HRPopupFit_p.h"
 #include "ui/HRPopupGeometry_p.h"
 #include "ui/HRPopupScreen_p.h"
+#include "ui/HRSceneLoader_p.h"
 #include "ui/HRView.h"
 #include "ui/HRViewEmbedding_p.h"
 
@@ -67,6 +70,8 @@ struct HRWidgetPrivate
     void paintAfterContent();
     void paintHeldBack();
     void followContent();
+    void followScene();
+    void dismiss();
 
     HRWidget *q;
     QPointer<HRManager> manager;
@@ -94,6 +99,9 @@ HRWidgetPrivate::HRWidgetPrivate(HRWidget *widget, HRManager *hrManager, QWidget
 
 void HRWidgetPrivate::setContextProperties(HRXmlElement *content, const QString &rootPath)
 {
+    // Bindings call the host back, which may show something else meanwhile.
+    const HRSceneLoader::Work work(view->sceneLoader());
+    const HRScriptWatch::Entry entry(view->scriptWatch());
     QQmlContext *context = view->rootContext();
     context->setContextProperty(QStringLiteral("hintreel"), content);
     context->setContextProperty(QStringLiteral("dataLocation"), rootPath);
@@ -102,8 +110,11 @@ void HRWidgetPrivate::setContextProperties(HRXmlElement *content, const QString 
         return;
     context->setContextProperty(QStringLiteral("hintreelView"), view.data());
     const auto settings = [m = manager] { return readerSettings(m); };
+    const auto admits = [v = view](const QString &path, HRFileUse use) {
+        return v && v->mayOpen(QStringLiteral("source"), path, use);
+    };
     context->setContextProperty(
-        QStringLiteral("hintreelReader"), new HRContentReader(settings, view));
+        QStringLiteral("hintreelReader"), new HRContentReader(settings, view, admits));
 }
 
 /// On Wayland a popup has its position only beside a window that it belongs to.
@@ -189,6 +200,24 @@ void HRWidgetPrivate::followContent()
     q->contentResized();
 }
 
+/// A scene that had to wait for the event loop comes when the popup shows already.
+void HRWidgetPrivate::followScene()
+{
+    if (!q->isVisible() || !view->rootObject())
+        return;
+    matchBackground(*q);
+    followContent();
+}
+
+/// A pinned popup goes with the window that it is in.
+void HRWidgetPrivate::dismiss()
+{
+    if (detached)
+        q->window()->close();
+    else
+        q->hide();
+}
+
 HRWidget::HRWidget(HRManager *manager, QWidget *parent, QWidget *reference)
     : QWidget(parent)
     , d(std::make_unique<HRWidgetPrivate>(this, manager, reference))
@@ -228,6 +257,8 @@ void HRWidget::setView(HRView *view)
         return;
     connect(view, &HRView::reservedChanged, this, &HRWidget::contentReservedChanged);
     connect(view, &HRView::contentSizeChanged, this, &HRWidget::contentResized);
+    connect(view, &QQuickView::statusChanged, this, [this] { d->followScene(); });
+    connect(view->scriptWatch().get(), &HRScriptWatch::stopped, this, [this] { d->dismiss(); });
     connect(view, &HRView::stayOpenChanged, this, [this] { d->followStayOpen(); });
     connect(
         view, &QQuickWindow::frameSwapped, this, [this] { d->paintHeldBack(); },
@@ -299,13 +330,13 @@ void HRWidget::showWithContent(
     d->view->setPackageRoot(rootPath);
     const QPointer<HRXmlElement> previous = d->view->content();
     d->view->setContent(content);
-    move(pos);
+    move(withinReach(pos));
     if (isVisible())
         reposition();
     d->setContextProperties(content, rootPath);
     // Not before the scene has let go of it, or its bindings would see null on the way.
     if (previous != content)
-        deleteContentTree(previous);
+        d->view->discard(contentTreeOf(previous));
     // The host may delete the popup or its view when it is told of a missing file.
     const QPointer<HRWidget> guarded = this;
     d->view->loadQML(QFileInfo(d->view->uiRootFilePath()).absoluteFilePath());
@@ -338,7 +369,7 @@ void HRWidget::hideAnimated()
         hideAnimationFinished();
         return;
     }
-    d->fade.fadeTo(0.0, duration, [this] { hideAnimationFinished(); });
+    d->fade.fade(windowOpacity(), 0.0, duration, [this] { hideAnimationFinished(); });
     d->timer->stop();
 }
 
@@ -362,7 +393,7 @@ void HRWidget::showAnimated()
     setWindowOpacity(fadeInStart);
     show();
     contentResized();
-    d->fade.fadeTo(1.0, duration, [this] { d->endFadeIn(); });
+    d->fade.fade(fadeInStart, 1.0, duration, [this] { d->endFadeIn(); });
 }
 
 void HRWidget::setTimer()
@@ -409,6 +440,8 @@ void HRWidget::showEvent(QShowEvent *)
     if (!isSafe(pointer))
         setTimer();
     reposition();
+    if (d->view)
+        d->view->setDecodingPaused(false);
     if (!d->detached)
         d->watch.start(pointer);
     else if (!isWindow())
@@ -421,6 +454,7 @@ void HRWidget::hideEvent(QHideEvent *)
     if (!d->view)
         return;
     d->view->releaseOverrideCursors();
+    d->view->setDecodingPaused(true);
     if (d->detached)
         d->embedding.release();
 }

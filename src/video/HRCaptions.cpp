@@ -3,13 +3,9 @@
 
 #include "video/HRCaptions_p.h"
 
-#include "video/HRFFmpegHandle_p.h"
+#include "video/HRMediaFile_p.h"
 
 #include <QFileInfo>
-
-extern "C" {
-#include <libavutil/opt.h>
-}
 
 namespace Hintreels {
 
@@ -24,23 +20,6 @@ struct DecodedText
     ~DecodedText() { avsubtitle_free(&subtitle); }
 };
 
-HRFFmpegHandle<AVFormatContext> openWebVtt(const QString &path)
-{
-    const QFileInfo file(path);
-    // Files of the kernel have no size, and some block whoever reads them.
-    if (!file.isFile() || file.size() == 0 || file.size() > largestFile)
-        return {};
-    AVFormatContext *input = avformat_alloc_context();
-    if (!input)
-        return {};
-    av_opt_set(input, "format_whitelist", "webvtt", 0);
-    av_opt_set(input, "protocol_whitelist", "file", 0);
-    // The call frees the context and nulls the pointer when it fails.
-    const QByteArray url = "file:" + path.toUtf8();
-    avformat_open_input(&input, url.constData(), nullptr, nullptr);
-    return HRFFmpegHandle<AVFormatContext>(input);
-}
-
 HRFFmpegHandle<AVCodecContext> openDecoder(const AVFormatContext &input)
 {
     const AVCodec *codec = avcodec_find_decoder(AV_CODEC_ID_WEBVTT);
@@ -54,17 +33,31 @@ HRFFmpegHandle<AVCodecContext> openDecoder(const AVFormatContext &input)
     return avcodec_open2(decoder.get(), codec, nullptr) < 0 ? nullptr : std::move(decoder);
 }
 
+bool isEscapedBrace(const QString &text, int at)
+{
+    return text.at(at) == '\\' && at + 1 < text.size()
+        && (text.at(at + 1) == '{' || text.at(at + 1) == '}');
+}
+
+/// A text without what stands in braces. Those of the text itself come with a backslash.
+QString withoutOverrides(const QString &text)
+{
+    QString plain;
+    for (int i = 0; i < text.size(); ++i) {
+        const int close = text.at(i) == '{' ? text.indexOf('}', i) : -1;
+        if (close >= 0)
+            i = close;
+        else
+            plain += text.at(isEscapedBrace(text, i) ? ++i : i);
+    }
+    return plain;
+}
+
 /// The text of one line of the decoder's dialogue format: what follows its eighth comma, without
 /// the overrides in braces.
 QString plainText(const char *dialogue)
 {
-    QString text = QString::fromUtf8(dialogue).section(',', 8);
-    for (int start = text.indexOf('{'); start >= 0; start = text.indexOf('{', start)) {
-        const int end = text.indexOf('}', start);
-        if (end < 0)
-            break;
-        text.remove(start, end - start + 1);
-    }
+    QString text = withoutOverrides(QString::fromUtf8(dialogue).section(',', 8));
     return text.replace("\\N", "\n").replace("\\h", " ").trimmed();
 }
 
@@ -90,7 +83,9 @@ QString decode(AVCodecContext *decoder, AVPacket *packet)
 
 QVector<HRCaption> readCaptions(const QString &path)
 {
-    const HRFFmpegHandle<AVFormatContext> input = openWebVtt(path);
+    if (QFileInfo(path).size() > largestFile)
+        return {};
+    const HRFFmpegHandle<AVFormatContext> input = openMediaFile(path, "webvtt");
     const HRFFmpegHandle<AVCodecContext> decoder = input ? openDecoder(*input) : nullptr;
     const HRFFmpegHandle<AVPacket> packet(av_packet_alloc());
     QVector<HRCaption> captions;

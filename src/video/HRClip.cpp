@@ -4,8 +4,27 @@
 #include "video/HRClip_p.h"
 
 #include <cmath>
+#include <limits>
 
 namespace Hintreels {
+
+namespace {
+
+// FFmpeg rounds a width up to 64 before it compares.
+constexpr qint64 roundedUp = 63 * 65536;
+
+/// What FFmpeg is told, which takes no more than the largest int.
+qint64 mostPixels(qint64 largestPicture)
+{
+    return qBound(qint64(0), largestPicture + roundedUp, qint64(std::numeric_limits<int>::max()));
+}
+
+QString tooLarge()
+{
+    return QStringLiteral("Could not allocate rgb frame in %1");
+}
+
+} // namespace
 
 HRClip::HRClip(HRMediaDemuxer::ShouldStop shouldStop)
     : m_shouldStop(shouldStop)
@@ -14,9 +33,11 @@ HRClip::HRClip(HRMediaDemuxer::ShouldStop shouldStop)
 {
 }
 
-QString HRClip::open(const QString &path)
+QString HRClip::open(const QString &path, qint64 largestPicture)
 {
     close();
+    m_largestPicture = largestPicture;
+    m_failure.clear();
     const QString failure = tryOpen(path);
     if (!failure.isNull())
         close();
@@ -38,10 +59,10 @@ HRClipFacts HRClip::facts() const
 
 HRVideoFrame HRClip::readPicture()
 {
-    while (!m_shouldStop()) {
+    while (m_failure.isNull() && !m_shouldStop()) {
         switch (m_decoder.receive()) {
         case HRMediaDecoder::pictureReady:
-            return m_converter.convert(m_decoder.picture());
+            return convertPicture();
         case HRMediaDecoder::packetNeeded:
             feedDecoder();
             break;
@@ -62,6 +83,14 @@ void HRClip::seek(double seconds, bool backward)
     m_decoder.flush();
 }
 
+void HRClip::restart()
+{
+    m_demuxer.seek(0, 0);
+    // Only a drained decoder would take no more packets.
+    if (m_decoder.isDraining())
+        m_decoder.flush();
+}
+
 void HRClip::rewind()
 {
     m_demuxer.seek(0, AVSEEK_FLAG_BYTE);
@@ -71,11 +100,16 @@ QString HRClip::tryOpen(const QString &path)
 {
     if (!m_packet || !m_demuxer.open(path))
         return QStringLiteral("Could not open media at: %1");
-    if (!m_demuxer.findStreams())
+    // By the header, before anything is decoded, and again by what decoding has told.
+    if (m_demuxer.largestPicture() > m_largestPicture)
+        return tooLarge();
+    if (!m_demuxer.findStreams(mostPixels(m_largestPicture)))
         return QStringLiteral("Could not find any stream information in media at: %1");
+    if (m_demuxer.largestPicture() > m_largestPicture)
+        return tooLarge();
     if (!m_demuxer.chooseVideoStream())
         return QStringLiteral("Could not find a video stream in %1");
-    if (!m_decoder.open(m_demuxer.stream(), m_demuxer.decoder()))
+    if (!m_decoder.open(m_demuxer.stream(), m_demuxer.decoder(), mostPixels(m_largestPicture)))
         return QStringLiteral("Could not open codec for stream in: %1");
     if (!m_decoder.allocatePicture())
         return QStringLiteral("Could not allocate original frame in %1");
@@ -83,10 +117,22 @@ QString HRClip::tryOpen(const QString &path)
     // A file that ends behind its header has no picture format, and perhaps no size either.
     const AVPixelFormat format = m_decoder.format();
     if (format != AV_PIX_FMT_NONE && !m_converter.allocate(size))
-        return QStringLiteral("Could not allocate rgb frame in %1");
+        return tooLarge();
     if (!m_converter.prepare(size, format))
         return QStringLiteral("Could not get a swscale context for %1");
     return QString();
+}
+
+HRVideoFrame HRClip::convertPicture()
+{
+    const AVFrame *picture = m_decoder.picture();
+    HRVideoFrame converted;
+    if (qint64(picture->width) * picture->height <= m_largestPicture)
+        converted = m_converter.convert(picture);
+    else
+        m_failure = tooLarge();
+    m_decoder.dropPicture();
+    return converted;
 }
 
 void HRClip::feedDecoder()
@@ -95,8 +141,10 @@ void HRClip::feedDecoder()
         m_decoder.sendEnd();
         return;
     }
-    m_decoder.send(m_packet.get());
+    const bool taken = m_decoder.send(m_packet.get());
     av_packet_unref(m_packet.get());
+    if (!taken && (m_decoder.pixels() == 0 || m_decoder.pixels() > m_largestPicture))
+        m_failure = tooLarge();
 }
 
 } // namespace Hintreels

@@ -3,7 +3,7 @@
 
 #include "video/HRClipSize_p.h"
 
-#include "video/HRMediaDemuxer_p.h"
+#include "video/HRClip_p.h"
 
 #include <QElapsedTimer>
 
@@ -11,7 +11,8 @@ namespace Hintreels {
 
 namespace {
 
-constexpr qint64 longestLook = 100; // ms; longer than that a reader sees the popup wait
+constexpr qint64 longestLook
+    = 100; // ms; longer than that a reader sees that the clip has no place yet
 
 /// As far as it is known by now.
 QSize pictureSize(HRMediaDemuxer *demuxer)
@@ -24,16 +25,18 @@ QSize pictureSize(HRMediaDemuxer *demuxer)
 
 } // namespace
 
-QSize clipSize(const QString &path)
+QSize clipSize(const QString &path, const std::function<bool()> &shouldStop)
 {
     QElapsedTimer time;
     time.start();
-    HRMediaDemuxer demuxer([&time] { return time.hasExpired(longestLook); });
+    HRMediaDemuxer demuxer(
+        [&] { return time.hasExpired(longestLook) || (shouldStop && shouldStop()); });
     if (!demuxer.open(path))
         return {};
     const QSize size = pictureSize(&demuxer);
     // Streams that were made for broadcasting have no header: their first pictures tell.
-    return size.isEmpty() && demuxer.findStreams() ? pictureSize(&demuxer) : size;
+    return size.isEmpty() && demuxer.findStreams(standardLargestPicture) ? pictureSize(&demuxer)
+                                                                         : size;
 }
 
 } // namespace Hintreels

@@ -6,12 +6,16 @@
 #include <QSize>
 #include <QString>
 
+#include <functional>
+
 namespace Hintreels {
 
 /// The size of a clip's pictures in pixels; empty for a file that cannot be opened as a clip.
 ///
 /// Reads no further than the header, or the first pictures where that gives no size, and for a
-/// tenth of a second at most, so that a popup may ask while it is being laid out.
-QSize clipSize(const QString &path);
+/// tenth of a second at most. Any thread.
+/// @param shouldStop asked now and then on the calling thread; true ends the look with an empty
+/// size
+QSize clipSize(const QString &path, const std::function<bool()> &shouldStop = {});
 
 } // namespace Hintreels

@@ -9,6 +9,8 @@
 
 namespace Hintreels {
 
+constexpr qint64 standardLargestPicture = 64'000'000; // pixels
+
 /// What is known of a clip when it is open.
 struct HRClipFacts
 {
@@ -26,10 +28,14 @@ public:
     explicit HRClip(HRMediaDemuxer::ShouldStop shouldStop);
 
     /// Opens the file at @p path in place of what was open.
+    /// @param largestPicture in pixels: a file with a larger one is refused, and a stream that
+    /// changes to one ends there
     /// @return null, or else what failed, with %1 for the path; then nothing is open
-    QString open(const QString &path);
+    QString open(const QString &path, qint64 largestPicture = standardLargestPicture);
     void close();
     bool isOpen() const { return m_demuxer.isOpen(); }
+    /// What ended the pictures before their time, with %1 for the path; null where nothing did.
+    QString failure() const { return m_failure; }
 
     /// While it is open.
     HRClipFacts facts() const;
@@ -39,13 +45,19 @@ public:
     HRVideoFrame readPicture();
     /// While it is open: goes to @p seconds, as near as the format allows.
     void seek(double seconds, bool backward);
+    /// While it is open: goes to the start. Pictures that the decoder holds still come first,
+    /// unless the last packet was read.
+    void restart();
     /// While it is open: goes to the first byte.
     void rewind();
 
 private:
     QString tryOpen(const QString &path);
+    HRVideoFrame convertPicture();
     void feedDecoder();
 
+    qint64 m_largestPicture = standardLargestPicture; // pixels
+    QString m_failure;
     HRMediaDemuxer::ShouldStop m_shouldStop;
     HRMediaDemuxer m_demuxer;
     HRMediaDecoder m_decoder;

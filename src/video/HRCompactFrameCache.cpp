@@ -50,22 +50,16 @@ const QRgb *pixels(const QImage &image, const QPoint &point)
     return reinterpret_cast<const QRgb *>(image.constScanLine(point.y())) + point.x();
 }
 
-/// Marks the tiles in which row @p y of two images of the same size differs.
-void markChanges(const QImage &a, const QImage &b, int y, std::vector<bool> *changed)
+/// Marks the tiles, from number @p first on, in which two stretches of a row differ.
+void markChanges(const QRgb *a, const QRgb *b, int width, int first, std::vector<bool> *changed)
 {
-    const int width = a.width();
-    const QRgb *rowA = pixels(a, { 0, y });
-    const QRgb *rowB = pixels(b, { 0, y });
     // Most rows of a screen recording are alike from end to end.
-    if (std::memcmp(rowA, rowB, size_t(width) * sizeof(QRgb)) == 0)
+    if (std::memcmp(a, b, size_t(width) * sizeof(QRgb)) == 0)
         return;
-    const TileGrid grid(a.size());
-    const int first = y / tileSide * grid.columns();
-    for (int column = 0; column < grid.columns(); ++column) {
-        const int x = column * tileSide;
+    for (int x = 0, tile = first; x < width; x += tileSide, ++tile) {
         const size_t bytes = size_t(qMin(tileSide, width - x)) * sizeof(QRgb);
-        if (!(*changed)[first + column] && std::memcmp(rowA + x, rowB + x, bytes) != 0)
-            (*changed)[first + column] = true;
+        if (!(*changed)[tile] && std::memcmp(a + x, b + x, bytes) != 0)
+            (*changed)[tile] = true;
     }
 }
 
@@ -113,7 +107,6 @@ void HRCompactFrameCache::addFrame(const HRVideoFrame &frame)
     if (!store(frame, &picture))
         return;
     m_pictures.push_back(std::move(picture));
-    m_lastAdded = frame;
 }
 
 HRVideoFrame HRCompactFrameCache::frame(size_t index)
@@ -158,31 +151,72 @@ bool HRCompactFrameCache::storeTiles(const QImage &image, const std::vector<bool
     picture->store.reset(new (std::nothrow) QRgb[pixelCount]);
     if (!picture->store)
         return false;
-    const TileGrid grid(image.size());
     auto tiles = std::make_shared<TileMap>(lastMap());
     QRgb *end = picture->store.get();
-    for (int i = 0; i < grid.count(); ++i) {
-        if (!changed[i])
-            continue;
-        const QRect tile = grid.tile(i);
-        (*tiles)[i] = { end, tile.width() };
-        end = copyTileOut(image, tile, end);
-    }
+    for (int row = 0; row < int(tiles->size()); ++row)
+        end = storeRow(image, changed, row, end, &(*tiles)[row]);
     picture->tiles = std::move(tiles);
     return true;
+}
+
+/// Puts a row of tiles of its own in place of one in which tiles changed.
+/// @return the end of what is stored
+QRgb *HRCompactFrameCache::storeRow(const QImage &image, const std::vector<bool> &changed, int row,
+    QRgb *store, std::shared_ptr<const TileRow> *tiles)
+{
+    const TileGrid grid(image.size());
+    const int first = row * grid.columns();
+    std::shared_ptr<TileRow> own;
+    for (int column = 0; column < grid.columns(); ++column) {
+        if (!changed[first + column])
+            continue;
+        if (!own)
+            own = std::make_shared<TileRow>(**tiles);
+        const QRect tile = grid.tile(first + column);
+        (*own)[column] = { store, tile.width() };
+        store = copyTileOut(image, tile, store);
+    }
+    if (own)
+        *tiles = std::move(own);
+    return store;
 }
 
 /// One flag a tile: whether it differs from the picture added last, or that has no such tile.
 std::vector<bool> HRCompactFrameCache::changedTiles(const QImage &image) const
 {
     const int count = TileGrid(image.size()).count();
-    if (image.size() != m_lastAdded.size() || image.format() != m_lastAdded.format()
-        || image.depth() != 32)
+    if (m_pictures.empty() || image.size() != m_pictures.back().size
+        || image.format() != m_pictures.back().format || image.depth() != 32)
         return std::vector<bool>(count, true);
+    const Picture &last = m_pictures.back();
     std::vector<bool> changed(count, false);
-    for (int y = 0; y < image.height(); ++y)
-        markChanges(image, m_lastAdded, y, &changed);
+    if (!last.tiles) {
+        for (int y = 0; y < image.height(); ++y)
+            markChanges(pixels(image, { 0, y }), pixels(last.whole, { 0, y }), image.width(),
+                y / tileSide * TileGrid(last.size).columns(), &changed);
+        return changed;
+    }
+    for (int row = 0; row < int(last.tiles->size()); ++row)
+        markRow(*(*last.tiles)[row], image, row, &changed);
     return changed;
+}
+
+/// Marks the tiles of a row that differ from those of the picture added last, which is put together
+/// for that nowhere: it would take as much memory as the picture itself.
+void HRCompactFrameCache::markRow(
+    const TileRow &tiles, const QImage &image, int row, std::vector<bool> *changed)
+{
+    const TileGrid grid(image.size());
+    const int first = row * grid.columns();
+    for (int i = 0; i < grid.columns();) {
+        const int run = runOfTiles(tiles, i);
+        const QRect area = grid.tile(first + i) | grid.tile(first + i + run - 1);
+        for (int y = 0; y < area.height(); ++y) {
+            markChanges(pixels(image, { area.left(), area.top() + y }),
+                tiles[i].pixels + qint64(y) * tiles[i].stride, area.width(), first + i, changed);
+        }
+        i += run;
+    }
 }
 
 /// Where the tiles of the picture added last lie.
@@ -193,11 +227,14 @@ HRCompactFrameCache::TileMap HRCompactFrameCache::lastMap() const
         return *last.tiles;
     const TileGrid grid(last.size);
     const int stride = last.whole.bytesPerLine() / int(sizeof(QRgb));
-    TileMap tiles;
-    tiles.reserve(grid.count());
-    for (int i = 0; i < grid.count(); ++i)
-        tiles.push_back({ pixels(last.whole, grid.tile(i).topLeft()), stride });
-    return tiles;
+    TileMap map;
+    for (int first = 0; first < grid.count(); first += grid.columns()) {
+        TileRow row;
+        for (int i = first; i < first + grid.columns(); ++i)
+            row.push_back({ pixels(last.whole, grid.tile(i).topLeft()), stride });
+        map.push_back(std::make_shared<const TileRow>(std::move(row)));
+    }
+    return map;
 }
 
 HRVideoFrame HRCompactFrameCache::assemble(const Picture &picture)
@@ -205,24 +242,36 @@ HRVideoFrame HRCompactFrameCache::assemble(const Picture &picture)
     Buffer buffer = takeBuffer(picture);
     if (buffer.frame.isNull())
         return HRVideoFrame();
-    const TileGrid grid(picture.size);
-    const TileMap &tiles = *picture.tiles;
-    auto *target = reinterpret_cast<QRgb *>(buffer.frame.bits());
-    const int targetStride = buffer.frame.bytesPerLine() / int(sizeof(QRgb));
-    for (int i = 0; i < grid.count();) {
-        if (buffer.tiles && (*buffer.tiles)[i].pixels == tiles[i].pixels) {
-            ++i;
-            continue;
-        }
-        const int run = runOfTiles(tiles, i, grid.columns());
-        const QRect area = grid.tile(i) | grid.tile(i + run - 1);
-        copyIn(tiles[i].pixels, tiles[i].stride, area, target, targetStride);
-        i += run;
+    for (int row = 0; row < int(picture.tiles->size()); ++row) {
+        const TileRow *wanted = (*picture.tiles)[row].get();
+        const TileRow *present = buffer.tiles ? (*buffer.tiles)[row].get() : nullptr;
+        if (wanted != present)
+            assembleRow(*wanted, present, row, &buffer.frame);
     }
     buffer.tiles = picture.tiles;
     m_buffers[0] = m_buffers[1];
     m_buffers[1] = buffer;
     return buffer.frame;
+}
+
+/// @param present the tiles that @p target has in this row; null where it has none
+void HRCompactFrameCache::assembleRow(
+    const TileRow &tiles, const TileRow *present, int row, HRVideoFrame *target)
+{
+    const TileGrid grid(target->size());
+    auto *targetPixels = reinterpret_cast<QRgb *>(target->bits());
+    const int targetStride = target->bytesPerLine() / int(sizeof(QRgb));
+    const int first = row * grid.columns();
+    for (int i = 0; i < grid.columns();) {
+        if (present && (*present)[i].pixels == tiles[i].pixels) {
+            ++i;
+            continue;
+        }
+        const int run = runOfTiles(tiles, i);
+        const QRect area = grid.tile(first + i) | grid.tile(first + i + run - 1);
+        copyIn(tiles[i].pixels, tiles[i].stride, area, targetPixels, targetStride);
+        i += run;
+    }
 }
 
 /// What to write a picture to: the one before the last that was put together, if nobody holds it
@@ -240,10 +289,10 @@ HRCompactFrameCache::Buffer HRCompactFrameCache::takeBuffer(const Picture &pictu
     return buffer;
 }
 
-/// The number of tiles from @p first on that lie side by side in a whole picture, as in the map's.
-int HRCompactFrameCache::runOfTiles(const TileMap &tiles, int first, int columns)
+/// The number of tiles from @p first on that lie side by side in a whole picture, as in the row.
+int HRCompactFrameCache::runOfTiles(const TileRow &tiles, int first)
 {
-    const int end = first - first % columns + columns;
+    const int end = int(tiles.size());
     int next = first + 1;
     while (next < end && tiles[next].pixels == tiles[next - 1].pixels + tileSide
         && tiles[next].stride == tiles[first].stride)

@@ -36,7 +36,8 @@ private:
         const QRgb *pixels;
         int stride; // pixels from row to row
     };
-    using TileMap = std::vector<Tile>; // row by row
+    using TileRow = std::vector<Tile>;
+    using TileMap = std::vector<std::shared_ptr<const TileRow>>; // rows that are alike are shared
 
     struct Picture
     {
@@ -62,10 +63,15 @@ private:
     TileMap lastMap() const;
     HRVideoFrame assemble(const Picture &picture);
     Buffer takeBuffer(const Picture &picture);
-    static int runOfTiles(const TileMap &tiles, int first, int columns);
+    static QRgb *storeRow(const QImage &image, const std::vector<bool> &changed, int row,
+        QRgb *store, std::shared_ptr<const TileRow> *tiles);
+    static void assembleRow(
+        const TileRow &tiles, const TileRow *present, int row, HRVideoFrame *target);
+    static void markRow(
+        const TileRow &tiles, const QImage &image, int row, std::vector<bool> *changed);
+    static int runOfTiles(const TileRow &tiles, int first);
 
     std::vector<Picture> m_pictures;
-    QImage m_lastAdded;
     HRVideoFrame m_lastRead;
     size_t m_lastReadIndex = 0;
     Buffer m_buffers[2]; // of the last pictures that were put together, the older first

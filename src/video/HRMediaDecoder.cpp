@@ -7,11 +7,13 @@
 
 namespace Hintreels {
 
-bool HRMediaDecoder::open(const AVStream *stream, const AVCodec *decoder)
+bool HRMediaDecoder::open(const AVStream *stream, const AVCodec *decoder, qint64 mostPixels)
 {
     m_decoder.reset(avcodec_alloc_context3(decoder));
-    return m_decoder && avcodec_parameters_to_context(m_decoder.get(), stream->codecpar) >= 0
-        && avcodec_open2(m_decoder.get(), decoder, nullptr) >= 0;
+    if (!m_decoder || avcodec_parameters_to_context(m_decoder.get(), stream->codecpar) < 0)
+        return false;
+    m_decoder->max_pixels = mostPixels;
+    return avcodec_open2(m_decoder.get(), decoder, nullptr) >= 0;
 }
 
 bool HRMediaDecoder::allocatePicture()
@@ -30,25 +32,28 @@ HRMediaDecoder::Result HRMediaDecoder::receive()
     return result == AVERROR_EOF ? allDecoded : pictureBroken;
 }
 
-void HRMediaDecoder::send(const AVPacket *packet)
+bool HRMediaDecoder::send(const AVPacket *packet)
 {
-    avcodec_send_packet(m_decoder.get(), packet);
+    return avcodec_send_packet(m_decoder.get(), packet) >= 0;
 }
 
 void HRMediaDecoder::sendEnd()
 {
     avcodec_send_packet(m_decoder.get(), nullptr);
+    m_draining = true;
 }
 
 void HRMediaDecoder::flush()
 {
     avcodec_flush_buffers(m_decoder.get());
+    m_draining = false;
 }
 
 void HRMediaDecoder::close()
 {
     m_picture.reset();
     m_decoder.reset();
+    m_draining = false;
 }
 
 double HRMediaDecoder::timeBase() const

@@ -3,11 +3,12 @@
 
 #include "video/HRMediaDemuxer_p.h"
 
-#include <QFileInfo>
+#include "video/HRMediaFile_p.h"
 
-extern "C" {
-#include <libavutil/opt.h>
-}
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <vector>
 
 namespace Hintreels {
 
@@ -22,12 +23,28 @@ constexpr char singleFileFormats[]
       "m4v,h261,h263,h264,hevc,av1,obu,ivf,vc1,vc1test,cavsvideo,avs2,avs3,dirac,dnxhd,mjpeg,"
       "mjpeg_2000,mpjpeg,gif,apng,flic,yuv4mpegpipe,nut,mxf,gxf,dv,nsv,nuv,rm,wtv,pva,roq,smk,bink,"
       "swf,filmstrip,qcp,wav,w64,aiff,au,caf,flac,mp3,aac,ac3,eac3,dts,tta,wv,ape,amr,amrnb,amrwb,"
-      "mpc,mpc8,tak,voc,oma,spdif,truehd,mlp";
+      "mpc,mpc8,tak,voc,oma,spdif,truehd,mlp,bmp_pipe,cri_pipe,dds_pipe,dpx_pipe,exr_pipe,"
+      "gem_pipe,gif_pipe,hdr_pipe,j2k_pipe,jpeg_pipe,jpegls_pipe,jpegxl_pipe,pam_pipe,pbm_pipe,"
+      "pcx_pipe,pfm_pipe,pgm_pipe,pgmyuv_pipe,pgx_pipe,phm_pipe,photocd_pipe,pictor_pipe,png_pipe,"
+      "ppm_pipe,psd_pipe,qdraw_pipe,qoi_pipe,sgi_pipe,sunrast_pipe,tiff_pipe,vbn_pipe,webp_pipe,"
+      "xbm_pipe,xpm_pipe,xwd_pipe";
 
-// Formats without packets of their own are read until a picture is complete: in a file of zeros
-// without end, and what is collected is then gone through at once, deaf to being asked to stop. No
-// picture of a clip takes as much as this.
-constexpr qint64 longestRead = 64'000'000; // bytes
+// What is read for one picture is then gone through at once, deaf to being asked to stop. No
+// picture of a clip takes as much as this. Formats that are a bare stream have no packets and are
+// read until a parser finds a picture complete, in a file of zeros to its end; looking for one
+// takes longer than decoding it.
+constexpr qint64 longestPacket = 64'000'000; // bytes
+constexpr qint64 longestSearch = 16'000'000; // bytes
+
+/// FFmpeg knows a larger JPEG by its name alone, as one of image2's. That reader opens other files
+/// for a name with a pattern in it, in any of the path's directories, and planes beside a file
+/// called x.Y.
+bool isPlainPictureName(const QString &path)
+{
+    static const QRegularExpression plain(QStringLiteral("^[^%*?{]*\\.(jpe?g|png|webp|bmp|tiff?)$"),
+        QRegularExpression::CaseInsensitiveOption);
+    return plain.match(path).hasMatch();
+}
 
 } // namespace
 
@@ -44,29 +61,33 @@ HRMediaDemuxer::HRMediaDemuxer(ShouldStop shouldStop)
 bool HRMediaDemuxer::open(const QString &path)
 {
     close();
-    // A pipe would block until somebody writes to it, and so do files of the kernel, which are
-    // regular and have no size.
-    const QFileInfo file(path);
-    if (!file.isFile() || file.size() == 0)
-        return false;
-    AVFormatContext *input = avformat_alloc_context();
-    if (!input)
-        return false;
-    input->interrupt_callback = { &HRMediaDemuxer::interrupt, this };
-    av_opt_set(input, "format_whitelist", singleFileFormats, 0);
-    av_opt_set(input, "protocol_whitelist", "file", 0);
-    // The protocol stands in front, so that a path such as "http:x.mp4" stays a path. On failure
-    // the call frees the context and nulls the pointer.
-    const QByteArray url = "file:" + path.toUtf8();
-    const int result = avformat_open_input(&input, url.constData(), nullptr, nullptr);
-    m_input.reset(input);
+    QByteArray formats = singleFileFormats;
+    if (isPlainPictureName(path))
+        formats += ",image2";
+    m_input = openMediaFile(path, formats, { &HRMediaDemuxer::interrupt, this });
+    return isOpen();
+}
+
+bool HRMediaDemuxer::findStreams(qint64 mostPixels)
+{
+    startReading();
+    std::vector<AVDictionary *> options(m_input->nb_streams, nullptr);
+    for (AVDictionary *&option : options)
+        av_dict_set_int(&option, "max_pixels", mostPixels, 0);
+    const int result = avformat_find_stream_info(m_input.get(), options.data());
+    for (AVDictionary *&option : options)
+        av_dict_free(&option);
     return result >= 0;
 }
 
-bool HRMediaDemuxer::findStreams()
+qint64 HRMediaDemuxer::largestPicture() const
 {
-    startReading();
-    return avformat_find_stream_info(m_input.get(), nullptr) >= 0;
+    qint64 largest = 0;
+    for (unsigned i = 0; i < m_input->nb_streams; ++i) {
+        const AVCodecParameters *stream = m_input->streams[i]->codecpar;
+        largest = std::max(largest, qint64(stream->width) * stream->height);
+    }
+    return largest;
 }
 
 bool HRMediaDemuxer::chooseVideoStream()
@@ -124,7 +145,11 @@ void HRMediaDemuxer::startReading()
 
 bool HRMediaDemuxer::readsTooMuch() const
 {
-    return m_input && m_input->pb->bytes_read - m_readBefore > longestRead;
+    if (!m_input)
+        return false;
+    const bool isBareStream = m_input->iformat->flags & AVFMT_NOTIMESTAMPS;
+    const qint64 longest = isBareStream ? longestSearch : longestPacket;
+    return m_input->pb->bytes_read - m_readBefore > longest;
 }
 
 int HRMediaDemuxer::interrupt(void *opaque)

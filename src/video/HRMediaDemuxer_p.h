@@ -27,8 +27,12 @@ public:
 
     // Opening, in this order; each is false on failure.
     bool open(const QString &path);
-    bool findStreams();
+    /// @param mostPixels of a picture that is decoded to find out about its stream
+    bool findStreams(qint64 mostPixels);
     bool chooseVideoStream();
+
+    /// While it is open: the pixels of the largest picture that any stream is known to have by now.
+    qint64 largestPicture() const;
 
     /// False at the end of the file, on an error and when asked to stop.
     bool readPacket(AVPacket *packet);

@@ -5,14 +5,14 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 namespace Hintreels {
 
 namespace {
 
 constexpr double dayLength = 86400000.0; // ms
-constexpr double millisecondsPerSecond = 1000.0;
+constexpr double nanosecondsPerSecond = 1e9;
+constexpr double longestDelay = 86400.0 * 24; // seconds; as good as for ever
 
 double elapsedMilliseconds(const QDateTime &last, const QDateTime &now)
 {
@@ -25,7 +25,7 @@ double elapsedMilliseconds(const QDateTime &last, const QDateTime &now)
 
 } // namespace
 
-int HRPacing::delay() const
+std::chrono::nanoseconds HRPacing::delay() const
 {
     const double period = 1.0 / frameRate;
     const double behind = double(position - displayed) * period;
@@ -33,10 +33,11 @@ int HRPacing::delay() const
     // be measured at all makes up for the pictures that were not fetched.
     const double elapsed = elapsedMilliseconds(last, now) * 1000.0;
     const double wait = behind - std::min(elapsed, behind);
-    const double milliseconds = std::max(wait, period) * millisecondsPerSecond;
-    if (!std::isfinite(milliseconds) || milliseconds <= 0.0)
-        return 0;
-    return int(std::min(milliseconds, double(std::numeric_limits<int>::max())));
+    const double seconds = std::max(wait, period);
+    if (!std::isfinite(seconds) || seconds <= 0.0)
+        return std::chrono::nanoseconds(0);
+    return std::chrono::nanoseconds(
+        std::llround(std::min(seconds, longestDelay) * nanosecondsPerSecond));
 }
 
 } // namespace Hintreels

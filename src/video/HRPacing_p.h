@@ -6,6 +6,9 @@
 #include <QDateTime>
 #include <QtGlobal>
 
+#include <chrono>
+#include <optional>
+
 namespace Hintreels {
 
 /// How long to wait after a picture was shown while playing.
@@ -17,9 +20,32 @@ struct HRPacing
     QDateTime last; ///< when the position last moved on; invalid before that
     QDateTime now;
 
-    /// Milliseconds, 0 where the rate says nothing: one period as a rule, or else what the
+    /// 0 where the rate says nothing: one period as a rule, to the nanosecond, or else what the
     /// pictures take that nobody has fetched, as far as that time has not passed.
-    int delay() const;
+    std::chrono::nanoseconds delay() const;
+};
+
+/// When the next picture of a clip that plays is due.
+///
+/// Delays are counted from when a picture was due, not from when the thread woke up for it: what is
+/// late once is made up, and nothing adds up over a clip.
+class HRDueTime
+{
+public:
+    using Time = std::chrono::steady_clock::time_point;
+
+    /// Moves on by @p delay, after a picture that waited for the time before, or else came @p now.
+    Time next(Time now, std::chrono::nanoseconds delay)
+    {
+        m_due = m_due.value_or(now) + delay;
+        return *m_due;
+    }
+
+    /// The next picture comes when it comes, and waits for nothing.
+    void forget() { m_due.reset(); }
+
+private:
+    std::optional<Time> m_due;
 };
 
 } // namespace Hintreels

@@ -5,6 +5,8 @@
 
 #include <QtEndian>
 
+#include <algorithm>
+
 namespace Hintreels {
 
 namespace {
@@ -65,9 +67,11 @@ HRVideoFrame HRPictureConverter::convert(const AVFrame *picture)
     HRVideoFrame target(m_size.width(), m_size.height(), QImage::Format_RGB32, 0);
     if (target.isNull())
         return target;
-    const bool converted
-        = m_direct ? convertDirectly(picture, &target) : convertByRgb24(picture, &target);
-    return converted ? target : HRVideoFrame();
+    if (isCopied(picture))
+        copy(picture, &target);
+    else if (!(m_direct ? convertDirectly(picture, &target) : convertByRgb24(picture, &target)))
+        return HRVideoFrame();
+    return target;
 }
 
 void HRPictureConverter::close()
@@ -78,6 +82,14 @@ void HRPictureConverter::close()
     m_sourceSize = QSize();
 }
 
+// What a GIF gives: the pixels are ours but for their alpha.
+bool HRPictureConverter::isCopied(const AVFrame *picture) const
+{
+    const bool has32Bits
+        = picture->format == AV_PIX_FMT_RGB32 || picture->format == AV_PIX_FMT_0RGB32;
+    return has32Bits && m_sourceSize == m_size;
+}
+
 // Measured for 8-bit 4:2:0 of even height, and held by a test over formats and sizes. The others
 // differ by up to 255: the scaler rounds and filters colour by other code for packed RGB24.
 bool HRPictureConverter::isDirect(const QSize &size, AVPixelFormat format) const
@@ -85,6 +97,17 @@ bool HRPictureConverter::isDirect(const QSize &size, AVPixelFormat format) const
     const bool planar420 = format == AV_PIX_FMT_YUV420P || format == AV_PIX_FMT_YUVJ420P;
     return planar420 && size == m_size && size.height() % 2 == 0
         && size.width() % directWidthStep == 0;
+}
+
+void HRPictureConverter::copy(const AVFrame *picture, HRVideoFrame *target)
+{
+    for (int y = 0; y < m_size.height(); ++y) {
+        const auto *source
+            = reinterpret_cast<const QRgb *>(picture->data[0] + qint64(y) * picture->linesize[0]);
+        std::transform(source, source + m_size.width(),
+            reinterpret_cast<QRgb *>(target->scanLine(y)),
+            [](QRgb pixel) { return pixel | 0xff000000u; });
+    }
 }
 
 bool HRPictureConverter::convertDirectly(const AVFrame *picture, HRVideoFrame *target)

@@ -33,7 +33,9 @@ public:
     void close();
 
 private:
+    bool isCopied(const AVFrame *picture) const;
     bool isDirect(const QSize &size, AVPixelFormat format) const;
+    void copy(const AVFrame *picture, HRVideoFrame *target);
     bool convertDirectly(const AVFrame *picture, HRVideoFrame *target);
     bool convertByRgb24(const AVFrame *picture, HRVideoFrame *target);
 

@@ -31,4 +31,17 @@ void HRVideoActionQueue::clear()
     dropped.swap(m_changes);
 }
 
+void HRVideoActionQueue::wait(std::chrono::milliseconds longest)
+{
+    // A change that is appended in between is not missed: it rings after it is in the queue.
+    if (isEmpty())
+        m_wakeup.waitFor(longest);
+}
+
+bool HRVideoActionQueue::isEmpty()
+{
+    const HRMutexLocker lock(m_mutex);
+    return m_changes.empty();
+}
+
 } // namespace Hintreels

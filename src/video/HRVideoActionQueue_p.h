@@ -27,10 +27,13 @@ public:
 
     /// Ends the present or the next wait.
     void wake() { m_wakeup.ring(); }
-    /// Returns when a change was appended since the last wait, after @p longest at the latest.
-    void wait(std::chrono::milliseconds longest) { m_wakeup.waitFor(longest); }
+    /// Returns at once while there are changes, else when one is appended, after @p longest at the
+    /// latest.
+    void wait(std::chrono::milliseconds longest);
 
 private:
+    bool isEmpty();
+
     HRMutex m_mutex;
     std::deque<std::unique_ptr<HRVideoSourceChange>> m_changes; // guarded by m_mutex
     HRWakeup m_wakeup;

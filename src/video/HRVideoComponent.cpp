@@ -3,6 +3,9 @@
 
 #include "video/HRVideoComponent.h"
 
+#include "context/HRSetting_p.h"
+#include "gates/HRMediaKind_p.h"
+#include "manager/HRManager.h"
 #include "ui/HRView.h"
 #include "video/HRVideoController.h"
 #include "video/HRVideoSourceFFMPEG.h"
@@ -12,6 +15,17 @@
 #include <QUrl>
 
 namespace Hintreels {
+
+namespace {
+
+/// In megapixels.
+int largestPicture(const HRManager *manager)
+{
+    const int standard = HRVideoSourceFFMPEG::standardLargestPicture;
+    return manager ? setting(manager->context(), largestPictureKey, standard) : standard;
+}
+
+} // namespace
 
 HRVideoComponent::HRVideoComponent(QQuickItem *parent)
     : QQuickPaintedItem(parent)
@@ -31,6 +45,7 @@ HRVideoComponent::HRVideoComponent(QQuickItem *parent)
     connect(m_controller, &HRVideoController::loadProgressChanged, this,
         &HRVideoComponent::loadProgressChanged);
     connect(m_videoSource, &HRVideoSource::sourceChanged, this, &HRVideoComponent::sourceTaken);
+    followWindow(window()); // the base has put the item there before it was one of this class
     m_controller->start(QThread::InheritPriority);
     m_videoSource->start(QThread::InheritPriority);
 }
@@ -62,7 +77,10 @@ void HRVideoComponent::setSource(const QString &source)
         return;
     m_source = source;
     const QString path = view->findResource(source);
-    if (QFileInfo(path).isFile() && m_controller->setSource(QUrl::fromLocalFile(path)))
+    m_videoSource->setLargestPicture(largestPicture(view->manager()));
+    const bool isClip = QFileInfo(path).isFile()
+        && view->mayOpen(QStringLiteral("source"), path, HRFileUse::clip);
+    if (isClip && m_controller->setSource(QUrl::fromLocalFile(path)))
         ++m_awaitedSources;
     m_frame = HRVideoFrame();
     update();
@@ -145,6 +163,11 @@ double HRVideoComponent::loadProgress() const
     return m_controller->loadProgress();
 }
 
+void HRVideoComponent::setDecodingPaused(bool paused)
+{
+    m_videoSource->setDecodingPaused(paused);
+}
+
 void HRVideoComponent::paint(QPainter *painter)
 {
     if (!m_frame.isNull())
@@ -200,6 +223,19 @@ void HRVideoComponent::controllerPositionChanged()
     m_progressSeen = m_controller->progress();
     Q_EMIT positionChanged();
     Q_EMIT progressChanged();
+}
+
+void HRVideoComponent::itemChange(ItemChange change, const ItemChangeData &value)
+{
+    if (change == ItemSceneChange)
+        followWindow(value.window);
+    QQuickPaintedItem::itemChange(change, value);
+}
+
+void HRVideoComponent::followWindow(QQuickWindow *window)
+{
+    const auto *view = qobject_cast<HRView *>(window);
+    setDecodingPaused(view && view->isDecodingPaused());
 }
 
 void HRVideoComponent::sourceTaken()

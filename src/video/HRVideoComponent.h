@@ -35,8 +35,9 @@ class HINTREELS_EXPORT HRVideoComponent : public QQuickPaintedItem
     Q_PROPERTY(double loadProgress READ loadProgress NOTIFY loadProgressChanged)
 
 public:
-    /// QML does not resolve enumerators that begin with a small letter: use the numbers there.
-    enum VideoState
+    /// QML does not resolve enumerators that begin with a small letter: use the numbers there. It
+    /// may set any number; others than these do nothing.
+    enum VideoState : int
     {
         resetState = 0, ///< setting it does what the end of decoding does; never read
         pausedState = 1,
@@ -83,6 +84,10 @@ public:
     /// the clip plays, positionChanged() follows each picture.
     Q_INVOKABLE double pictureTime() const { return m_frame.pts(); }
 
+    /// Leaves the clip's further pictures undecoded until it is called with false; what is decoded
+    /// already plays. The view does so while the popup around it is hidden.
+    void setDecodingPaused(bool paused);
+
     void paint(QPainter *painter) override;
 
 Q_SIGNALS:
@@ -107,7 +112,11 @@ public Q_SLOTS:
     void rewindToStart();
     void controllerPositionChanged();
 
+protected:
+    void itemChange(ItemChange change, const ItemChangeData &value) override;
+
 private:
+    void followWindow(QQuickWindow *window);
     void sourceTaken();
 
     HRVideoSourceFFMPEG *m_videoSource;

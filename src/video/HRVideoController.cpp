@@ -50,9 +50,10 @@ struct HRVideoControllerPrivate
     bool shouldQuit = false;
     bool needFrame = true;
     bool scrubbing = false;
+    bool moved = false; // by hand, since the last picture
     QDateTime lastFrameDisplayTime;
     HRVideoController::State state = HRVideoController::controllerPaused;
-    std::chrono::steady_clock::time_point due; // of the next picture; the controller's thread only
+    HRDueTime due; // the controller's thread only
     // Rung by every request, and by the source at the first picture of a clip.
     std::shared_ptr<HRWakeup> wakeup = std::make_shared<HRWakeup>();
 };
@@ -103,7 +104,7 @@ HRVideoFrame HRVideoControllerPrivate::frame(quint64 index) const
 
 bool HRVideoControllerPrivate::isSleepOverLocked() const
 {
-    return shouldQuit || needFrame || state != HRVideoController::controllerPlaying;
+    return shouldQuit || moved;
 }
 
 HRVideoController::HRVideoController(HRVideoSource *source, QObject *parent)
@@ -169,6 +170,7 @@ void HRVideoController::setPosition(size_t index)
     {
         const HRMutexLocker lock(d->controllerMutex);
         d->goToLocked(index);
+        d->moved = true;
     }
     Q_EMIT positionChanged();
     d->wakeup->ring();
@@ -351,6 +353,7 @@ void HRVideoController::run()
             presentFrame();
             continue;
         }
+        d->due.forget();
         if (step == Private::showStill)
             Q_EMIT displayFrame();
         if (step == Private::announceEnd)
@@ -364,8 +367,11 @@ void HRVideoController::presentFrame()
     HRPacing pacing;
     bool advances = false;
     bool playing = false;
+    HRDueTime::Time came;
     {
         const HRMutexLocker lock(d->controllerMutex);
+        came = std::chrono::steady_clock::now();
+        d->moved = false;
         playing = d->state == controllerPlaying;
         const quint64 count = d->frameCount();
         pacing.displayed = d->displayedIndex;
@@ -382,33 +388,30 @@ void HRVideoController::presentFrame()
     if (advances)
         Q_EMIT positionChanged();
     if (playing)
-        pace(&pacing, advances);
+        pace(&pacing, advances, came);
 }
 
-void HRVideoController::pace(HRPacing *pacing, bool advanced)
+void HRVideoController::pace(
+    HRPacing *pacing, bool advanced, std::chrono::steady_clock::time_point came)
 {
     pacing->frameRate = d->source->frameRate();
     pacing->last = lastFrameDisplayTime();
     pacing->now = QDateTime::currentDateTime();
     if (advanced)
         setLastFrameDisplayTime(pacing->now);
-    sleepUntilNextFrame(pacing->delay());
+    sleepUntil(d->due.next(came, pacing->delay()));
 }
 
-void HRVideoController::sleepUntilNextFrame(int milliseconds)
+/// Only the wish to quit and a position moved by hand end the sleep early, or else whoever asks for
+/// this and that would push a clip on; but a clip with one picture in a quarter of an hour obeys.
+void HRVideoController::sleepUntil(std::chrono::steady_clock::time_point due)
 {
-    using Clock = std::chrono::steady_clock;
-    const std::chrono::milliseconds delay(milliseconds);
-    const Clock::time_point now = Clock::now();
-    // Counted from when this picture was due, so that small delays do not add up over a clip.
-    const bool isNearlyDue = d->due <= now && now - d->due < delay;
-    d->due = (isNearlyDue ? d->due : now) + delay;
-    // A request ends the sleep early, or a clip with one picture in a quarter of an hour would
-    // neither stop nor move until then.
-    while (d->wakeup->waitUntil(d->due)) {
+    while (d->wakeup->waitUntil(due)) {
         const HRMutexLocker lock(d->controllerMutex);
-        if (d->isSleepOverLocked())
-            return;
+        if (!d->isSleepOverLocked())
+            continue;
+        d->due.forget();
+        return;
     }
 }
 

@@ -10,6 +10,7 @@
 #include <QThread>
 #include <QUrl>
 
+#include <chrono>
 #include <memory>
 
 namespace Hintreels {
@@ -115,8 +116,8 @@ protected:
 
 private:
     void presentFrame();
-    void pace(HRPacing *pacing, bool advanced);
-    void sleepUntilNextFrame(int milliseconds);
+    void pace(HRPacing *pacing, bool advanced, std::chrono::steady_clock::time_point came);
+    void sleepUntil(std::chrono::steady_clock::time_point due);
 
     std::unique_ptr<HRVideoControllerPrivate> d;
 };

@@ -35,9 +35,4 @@ size_t HRVideoFrameCache::length()
     return d->frames.size();
 }
 
-QString HRVideoFrameCache::name() const
-{
-    return d->name;
-}
-
 } // namespace Hintreels

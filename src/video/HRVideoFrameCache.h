@@ -35,8 +35,6 @@ public:
     /// The number of pictures.
     virtual size_t length();
 
-    QString name() const;
-
 private:
     std::unique_ptr<HRVideoFrameCachePrivate> d;
 };

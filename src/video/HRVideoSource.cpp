@@ -109,7 +109,7 @@ void HRVideoSource::setShouldQuit()
         const HRMutexLocker lock(d->stateMutex);
         d->shouldQuit = true;
     }
-    d->changes.wake();
+    wake();
 }
 
 void HRVideoSource::quit()
@@ -214,6 +214,11 @@ void HRVideoSource::processActionQueue()
 void HRVideoSource::rest()
 {
     d->changes.wait(longestRest);
+}
+
+void HRVideoSource::wake()
+{
+    d->changes.wake();
 }
 
 void HRVideoSource::setReader(const std::shared_ptr<HRWakeup> &reader)

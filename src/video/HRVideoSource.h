@@ -126,8 +126,11 @@ Q_SIGNALS:
 protected:
     /// Applies the oldest change that was asked for, if any.
     void processActionQueue();
-    /// Returns as soon as a change or an end is asked for, after 100 ms at the latest.
+    /// Returns as soon as a change or an end is asked for, after 100 ms at the latest; at once
+    /// while changes are pending.
     void rest();
+    /// Ends the present or the next rest. From any thread.
+    void wake();
 
 private:
     friend class HRVideoController; // rests until the first picture of a clip arrives

@@ -4,6 +4,7 @@
 #include "video/HRVideoSourceFFMPEG.h"
 
 #include "video/HRCompactFrameCache_p.h"
+#include "video/HRMediaFile_p.h"
 #include "video/HRVideoSourceFFMPEG_p.h"
 
 #include <QDebug>
@@ -20,13 +21,8 @@ namespace {
 constexpr double closedWidth = 200.0;
 constexpr double closedHeight = 150.0;
 
+constexpr qint64 megapixel = 1'000'000; // pixels
 constexpr double microseconds = 1000000.0; // in a second
-
-void silenceFFmpegOnce()
-{
-    static const bool silenced = (av_log_set_level(AV_LOG_QUIET), true);
-    Q_UNUSED(silenced)
-}
 
 } // namespace
 
@@ -67,7 +63,7 @@ HRVideoSourceFFMPEG::HRVideoSourceFFMPEG(QObject *parent)
     , d(new HRVideoSourceFFMPEGPrivate(this))
 {
     setObjectName(QStringLiteral("FFMPEG"));
-    silenceFFmpegOnce();
+    silenceFFmpeg();
 }
 
 HRVideoSourceFFMPEG::~HRVideoSourceFFMPEG()
@@ -135,6 +131,17 @@ double HRVideoSourceFFMPEG::frameHeight() const
     return status.open ? status.facts.size.height() : closedHeight;
 }
 
+void HRVideoSourceFFMPEG::setLargestPicture(int megapixels)
+{
+    d->largestPicture = megapixels;
+}
+
+void HRVideoSourceFFMPEG::setDecodingPaused(bool paused)
+{
+    d->decodingPaused = paused;
+    wake();
+}
+
 size_t HRVideoSourceFFMPEG::position()
 {
     return 0;
@@ -163,7 +170,9 @@ void HRVideoSourceFFMPEG::run()
             seekToStart();
             break;
         case decodeAction:
-            if (!decodeNextFrame())
+            if (d->decodingPaused)
+                rest();
+            else if (!decodeNextFrame())
                 setAction(idleAction);
             break;
         case idleAction:
@@ -200,7 +209,8 @@ bool HRVideoSourceFFMPEG::openMedia()
     const QString path = source().toLocalFile();
     const HRMutexLocker lock(d->decoderMutex);
     d->release();
-    const QString failure = d->clip.open(path);
+    d->path = path;
+    const QString failure = d->clip.open(path, d->largestPicture * megapixel);
     if (failure.isNull()) {
         d->publishFacts();
         return true;
@@ -220,6 +230,8 @@ void HRVideoSourceFFMPEG::releaseMedia()
 bool HRVideoSourceFFMPEG::decodeNextFrame()
 {
     HRVideoFrame picture;
+    QString failure;
+    QString path;
     {
         const HRMutexLocker lock(d->decoderMutex);
         if (!d->clip.isOpen()) {
@@ -228,6 +240,8 @@ bool HRVideoSourceFFMPEG::decodeNextFrame()
         }
         picture = d->clip.readPicture();
         if (picture.isNull()) {
+            failure = d->clip.failure();
+            path = d->path;
             d->clip.rewind();
             d->release();
         } else {
@@ -239,10 +253,21 @@ bool HRVideoSourceFFMPEG::decodeNextFrame()
         pushFrame(picture);
         return true;
     }
-    if (!shouldQuit())
+    if (!shouldQuit()) {
         notifyStreamEnded();
+        reportEnd(failure, path);
+    }
     idle();
     return false;
+}
+
+void HRVideoSourceFFMPEG::reportEnd(const QString &failure, const QString &path)
+{
+    if (!failure.isNull())
+        qDebug().noquote() << failure.arg(path);
+    else if (loadedFrameCount() == 0)
+        qDebug().noquote()
+            << QStringLiteral("Could not decode any picture in media at: %1").arg(path);
 }
 
 // Whoever finds nothing to decode asks for it, and so does the loop; actionChanged() tells of each.
@@ -256,7 +281,7 @@ void HRVideoSourceFFMPEG::seekToStart()
 {
     const HRMutexLocker lock(d->decoderMutex);
     if (d->clip.isOpen())
-        d->clip.seek(0.0, false);
+        d->clip.restart();
     else
         setAction(idleAction);
 }

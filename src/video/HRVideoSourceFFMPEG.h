@@ -40,6 +40,15 @@ public:
     /// In pixels; 150 while no media is open. Never waits for a picture being decoded.
     double frameHeight() const override;
 
+    static constexpr int standardLargestPicture = 64; // megapixels
+    /// Clips that are opened from now on are refused, or end, where a picture has more than this.
+    /// From any thread.
+    void setLargestPicture(int megapixels);
+
+    /// While paused, requests are carried out and clips are opened, but no picture is decoded. From
+    /// any thread; a picture that is being decoded still comes.
+    void setDecodingPaused(bool paused);
+
     /// Always 0.
     virtual size_t position();
     /// How far decoding is, from 0 to 1 by the clip's duration; 0 where that is not known.
@@ -56,6 +65,7 @@ private:
     bool decodeNextFrame();
     void idle();
     void seekToStart();
+    void reportEnd(const QString &failure, const QString &path);
 
     std::unique_ptr<HRVideoSourceFFMPEGPrivate> d;
 };

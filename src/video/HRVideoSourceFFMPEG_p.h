@@ -8,6 +8,8 @@
 #include "video/HRVideoClock_p.h"
 #include "video/HRVideoSourceFFMPEG.h"
 
+#include <atomic>
+
 namespace Hintreels {
 
 /// What the source tells others of its clip.
@@ -28,9 +30,12 @@ struct HRVideoSourceFFMPEGPrivate
     // shortly.
     HRMutex decoderMutex;
     HRClip clip; // guarded by decoderMutex
+    QString path; // of that clip; guarded by decoderMutex
     HRVideoClock clock; // guarded by decoderMutex
     HRMutex statusMutex;
     HRClipStatus status; // guarded by statusMutex
+    std::atomic<bool> decodingPaused{ false };
+    std::atomic<int> largestPicture{ HRVideoSourceFFMPEG::standardLargestPicture }; // megapixels
 
     HRClipStatus currentStatus();
     /// While the clip is open.

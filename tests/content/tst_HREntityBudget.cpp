@@ -34,7 +34,9 @@ private Q_SLOTS:
     void covers_takesManyWaysToTheSameEntity();
     void spend_endsAtTheLimit();
     void spend_passesOverUnknownNames();
-    void declare_endsAtThousand();
+    void declare_endsAt4096();
+    void declare_endsSooner_whenValuesAreLong_data();
+    void declare_endsSooner_whenValuesAreLong();
 };
 
 void tst_HREntityBudget::covers_upToTheLimit_data()
@@ -152,13 +154,35 @@ void tst_HREntityBudget::spend_passesOverUnknownNames()
     QVERIFY(budget.spend("unknown"));
 }
 
-void tst_HREntityBudget::declare_endsAtThousand()
+void tst_HREntityBudget::declare_endsAt4096()
 {
     HREntityBudget budget(10);
-    for (int i = 0; i < 1000; ++i)
+    for (int i = 0; i < 4096; ++i)
         QVERIFY(budget.declare(QString::number(i), QString()));
     QVERIFY(budget.declare("7", QString()));
     QVERIFY(!budget.declare("one more", QString()));
+}
+
+void tst_HREntityBudget::declare_endsSooner_whenValuesAreLong_data()
+{
+    QTest::addColumn<int>("documentSize");
+    QTest::addColumn<int>("valueSize");
+    QTest::addColumn<int>("entities");
+    QTest::newRow("short values") << 600000 << 128 << 4096;
+    QTest::newRow("long values") << 4200000 << 1024 << 2025;
+    QTest::newRow("a thousand, however long") << 16500000 << 16384 << 1003;
+}
+
+void tst_HREntityBudget::declare_endsSooner_whenValuesAreLong()
+{
+    QFETCH(int, documentSize);
+    QFETCH(int, valueSize);
+    HREntityBudget budget(documentSize);
+    const QString value(valueSize, 'x');
+    int entities = 0;
+    while (budget.declare(QString::number(entities), value))
+        ++entities;
+    QTEST(entities, "entities");
 }
 
 QTEST_GUILESS_MAIN(tst_HREntityBudget)

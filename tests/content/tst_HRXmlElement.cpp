@@ -8,6 +8,7 @@
 #include <QQmlExpression>
 #include <QtTest>
 
+#include <limits>
 #include <memory>
 
 using namespace Hintreels;
@@ -93,6 +94,8 @@ private Q_SLOTS:
     void deletion_takesWideTree();
     void search_takesDeepTree();
     void toXml_takesDeepTree();
+    void toXml_indentsByTenThousandAtMost_data();
+    void toXml_indentsByTenThousandAtMost();
     void qml_readsElements();
 };
 
@@ -478,6 +481,38 @@ void tst_HRXmlElement::toXml_takesDeepTree()
     QCOMPARE(xml.count("<a>"), 199999);
     QCOMPARE(xml.count("<a/>"), 1);
     QCOMPARE(xml.count("</a>"), 199999);
+}
+
+void tst_HRXmlElement::toXml_indentsByTenThousandAtMost_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<int>("indent");
+    QTest::addColumn<int>("childIndent");
+    const int largest = std::numeric_limits<int>::max();
+    QTest::newRow("within") << 9998 << 9998 << 10000;
+    QTest::newRow("child beyond") << 9999 << 9999 << 10000;
+    QTest::newRow("beyond") << 10001 << 10000 << 10000;
+    QTest::newRow("beyond a string's length") << largest - 10 << 10000 << 10000;
+    QTest::newRow("largest") << largest << 10000 << 10000;
+    QTest::newRow("smallest") << std::numeric_limits<int>::min() << 0 << 0;
+}
+
+void tst_HRXmlElement::toXml_indentsByTenThousandAtMost()
+{
+    QFETCH(int, index);
+    QFETCH(int, indent);
+    QFETCH(int, childIndent);
+    HRXmlElement root;
+    root.setTagName("a");
+    newElement("b", &root);
+    QQmlEngine engine;
+    engine.rootContext()->setContextProperty("root", &root);
+
+    QQmlExpression expression(engine.rootContext(), nullptr, QString("root.toXml(%1)").arg(index));
+    const QString xml = expression.evaluate().toString();
+
+    const QString margin(indent, ' ');
+    QVERIFY(xml == margin + "<a>\n" + QString(childIndent, ' ') + "<b/>\n" + margin + "</a>");
 }
 
 void tst_HRXmlElement::qml_readsElements()

@@ -142,6 +142,8 @@ void tst_HRContext::keys_haveFixedNumbers_data()
     QTest::newRow("fallbackKey") << int(fallbackKeyKey) << 23;
     QTest::newRow("keyDataFile") << int(keyDataFileKey) << 30;
     QTest::newRow("scale") << int(scaleKey) << 38;
+    QTest::newRow("reducedMotion") << int(reducedMotionKey) << 39;
+    QTest::newRow("forbidSoftwareRenderer") << int(forbidSoftwareRendererKey) << 10003;
 }
 
 void tst_HRContext::keys_haveFixedNumbers()

@@ -42,7 +42,7 @@ struct Fixture
 
     void add(const QString &path)
     {
-        records.addFirst({ path, 1, QFile::encodeName(path) });
+        records.addFirst({ path, 1 });
         record = &*records.begin();
     }
 

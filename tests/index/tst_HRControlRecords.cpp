@@ -22,7 +22,7 @@ QStringList described(HRControlRecords &records)
 {
     QStringList all;
     for (const HRControlRecord &record : records)
-        all.append(record.path + ' ' + QString::number(record.depth));
+        all.append(record.path() + ' ' + QString::number(record.depth));
     return all;
 }
 
@@ -31,19 +31,19 @@ QStringList described(HRControlRecords &records)
 void tst_HRControlRecords::records_areTriedInOrder()
 {
     HRControlRecords records;
-    records.addFirst({ "/a", 1, {} });
-    records.addLast({ "/b", 1, {} });
-    records.addFirst({ "/c", 1, {} });
+    records.addFirst({ "/a", 1 });
+    records.addLast({ "/b", 1 });
+    records.addFirst({ "/c", 1 });
     QCOMPARE(described(records), QStringList({ "/c 1", "/a 1", "/b 1" }));
 }
 
 void tst_HRControlRecords::records_areKeptOnce_forPathAndDepth()
 {
     HRControlRecords records;
-    QVERIFY(records.addFirst({ "/a", 1, {} }));
-    QVERIFY(!records.addFirst({ "/a", 1, {} }));
-    QVERIFY(!records.addLast({ "/a", 1, {} }));
-    QVERIFY(records.addLast({ "/a", 2, {} }));
+    QVERIFY(records.addFirst({ "/a", 1 }));
+    QVERIFY(!records.addFirst({ "/a", 1 }));
+    QVERIFY(!records.addLast({ "/a", 1 }));
+    QVERIFY(records.addLast({ "/a", 2 }));
     QCOMPARE(described(records), QStringList({ "/a 1", "/a 2" }));
 }
 

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void levels_areCounted();
     void levels_countFromTheLink_whenItLeadsBackToThePackage();
     void levels_areCounted_whenThePackageIsNamedByALink();
+    void levels_areCounted_whenThePackageIsTheRoot();
     void levels_areRemembered_forOneDirectoryAndPackage();
 };
 
@@ -82,6 +83,16 @@ void tst_HRDirectoryDepth::levels_areCounted_whenThePackageIsNamedByALink()
     const QString link = packages.path() + "/link";
     QVERIFY(QFile::link(packages.path() + "/A.hintreels", link));
     QCOMPARE(levelsBelowPackage(link + "/Control/x.xml", link).value_or(Outside), 2);
+}
+
+void tst_HRDirectoryDepth::levels_areCounted_whenThePackageIsTheRoot()
+{
+    const TestPackages packages;
+    const QString file = packages.write("x.xml", "");
+    const int levels = file.count('/');
+    for (const bool isCanonical : { false, true })
+        QCOMPARE(HRDirectoryDepth().levels(file, "/", isCanonical).value_or(Outside), levels);
+    QCOMPARE(HRDirectoryDepth().levels("/x.xml", "/", true).value_or(Outside), 1);
 }
 
 void tst_HRDirectoryDepth::levels_areRemembered_forOneDirectoryAndPackage()

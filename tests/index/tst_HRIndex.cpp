@@ -51,6 +51,8 @@ private Q_SLOTS:
     void componentPaths_ofAPackage();
     void componentPaths_ofAnElement();
     void packageSuffix_isASetting();
+    void mapControlFile_seesADirectoryThatIsMadeLater();
+    void mapControlFile_seesASuffix_whenSettingsAreAssigned();
 };
 
 namespace {
@@ -472,6 +474,30 @@ void tst_HRIndex::packageSuffix_isASetting()
     QCOMPARE(fixture.index.packageNameForLocation(file), QString());
     fixture.context.set(packageSuffixKey, "tips");
     QCOMPARE(fixture.index.packageNameForLocation(file), QString("A"));
+}
+
+void tst_HRIndex::mapControlFile_seesADirectoryThatIsMadeLater()
+{
+    Fixture fixture;
+    const QString package = fixture.packagePath("A");
+    fixture.index.mapControlFile(QString(), package);
+    QVERIFY(fixture.index.componentPathsForPackageNamed("A").isEmpty());
+    fixture.packages.write("A.hintreels/x.xml", "");
+    fixture.index.mapControlFile(QString(), package);
+    QCOMPARE(fixture.index.componentPathsForPackageNamed("A"), QStringList(package));
+}
+
+void tst_HRIndex::mapControlFile_seesASuffix_whenSettingsAreAssigned()
+{
+    Fixture fixture;
+    fixture.packages.write("A.tips/x.xml", "");
+    const QString package = fixture.packages.path() + "/A.tips";
+    fixture.index.mapControlFile(QString(), package);
+    HRContext settings;
+    settings.set(packageSuffixKey, "tips");
+    fixture.context = settings;
+    fixture.index.mapControlFile(QString(), package);
+    QCOMPARE(fixture.index.componentPathsForPackageNamed("A"), QStringList(package));
 }
 
 QTEST_GUILESS_MAIN(tst_HRIndex)

@@ -19,7 +19,7 @@ QStringList namesIn(const QString &directory)
     const HRDirectoryListing listing(directory + '/', ".xml");
     QStringList names;
     for (const HRListedFile &file : listing.files())
-        names += QFileInfo(file.path).fileName();
+        names += file.name;
     return names;
 }
 

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
+#include "index/SqliteIndexFixture.h"
+
 #include "content/HRXmlElement.h"
-#include "context/HRContext.h"
 #include "index/HRSQLiteIndex.h"
-#include "support/MessageGuard.h"
 #include "support/TestPackage.h"
 
 #include <QDir>
@@ -43,9 +43,6 @@ private Q_SLOTS:
     void open_makesADatabaseAnew_thatAKilledUpdateLeft();
     void open_leavesAFileAlone_thatIsNoDatabase();
     void open_givesUpSoon_whenTheDatabaseIsLocked();
-    void update_leavesTheDatabase_whenItIsLocked_data();
-    void update_leavesTheDatabase_whenItIsLocked();
-    void update_leavesTheDatabase_whenItDoesNotTakeAnEntry();
     void open_clearsOrKeeps_asTheSettingSays_data();
     void open_clearsOrKeeps_asTheSettingSays();
     void schema_isFixed();
@@ -64,6 +61,8 @@ private Q_SLOTS:
     void indexControlFile_keepsTheFirstDepth();
     void indexControlFile_endsTheCallersUpdate();
     void indexControlFile_seesRowsOfAnotherConnection();
+    void indexControlFile_seesThatRowsAreDeleted_onItsOwnConnection();
+    void store_seesThatRowsAreDeleted_onItsOwnConnection();
     void store_outsideAnUpdate_remembersTheFileInMemory();
     void store_bindsValues();
     void store_reportsAMissingTable();
@@ -77,89 +76,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-const QString Connection = "__Hintreels_Index__";
-
-struct Fixture
-{
-    explicit Fixture(bool open = true)
-    {
-        QDir().mkpath(databaseDirectory());
-        context.set(persistentDirectoryKey, databaseDirectory());
-        context.set(applicationNameKey, "Test");
-        if (open && !index.open())
-            qFatal("the index does not open");
-    }
-    ~Fixture() { index.close(); }
-
-    QString databaseDirectory() const { return packages.path() + "/db"; }
-    QString databaseFile() const { return databaseDirectory() + "/Zentora_Test_HRI.sqlite"; }
-
-    QString packagePath(const QString &package) const
-    {
-        return packages.path() + '/' + package + ".hintreels";
-    }
-
-    QString add(const QString &package, const QString &name, const QByteArray &entries,
-        const QByteArray &rootAttributes = "locale='en_US'")
-    {
-        const QString file = packages.writeControl(package, name, entries, rootAttributes);
-        index.indexControlFile(file, packagePath(package));
-        return file;
-    }
-
-    QString found(const QString &key, const QString &locale = "en_US")
-    {
-        HRXmlElement *root = nullptr;
-        HRXmlElement *entry = index.retrieve(key, QLocale(locale), directory, depth, root);
-        if (!entry)
-            return QString();
-        const std::unique_ptr<HRXmlElement> tree(root);
-        return entry->attribute("n");
-    }
-
-    QStringList rows(const QString &select)
-    {
-        QSqlQuery query(QSqlDatabase::database(Connection));
-        if (!query.exec(select))
-            qFatal("%s fails", qPrintable(select));
-        QStringList rows;
-        while (query.next())
-            rows.append(query.value(0).toString());
-        return rows;
-    }
-
-    MessageGuard messages;
-    TestPackages packages;
-    HRContext context;
-    HRSQLiteIndex index{ &context, {} };
-    QString directory;
-    int depth = -1;
-};
-
-/// Another program's connection to a database file.
-struct OtherConnection
-{
-    explicit OtherConnection(const QString &file)
-        : database(QSqlDatabase::addDatabase("QSQLITE", "other"))
-    {
-        database.setDatabaseName(file);
-        if (!database.open())
-            qFatal("cannot open %s", qPrintable(file));
-    }
-    ~OtherConnection()
-    {
-        database = QSqlDatabase();
-        QSqlDatabase::removeDatabase("other");
-    }
-    void execute(const QString &statement)
-    {
-        if (!QSqlQuery(database).exec(statement))
-            qFatal("%s fails", qPrintable(statement));
-    }
-
-    QSqlDatabase database;
-};
 
 QByteArray entriesNamed(int file)
 {
@@ -225,7 +141,7 @@ void tst_HRSQLiteIndex::open_choosesTheFile()
     QFETCH(QString, application);
     QFETCH(QString, name);
     QFETCH(QString, file);
-    Fixture fixture(false);
+    SqliteIndexFixture fixture(false);
     if (!organization.isNull())
         fixture.context.set(organizationNameKey, organization);
     fixture.context.set(applicationNameKey, application);
@@ -247,7 +163,7 @@ void tst_HRSQLiteIndex::open_usesTheTemporaryDirectory_whenThereIsNoOther_data()
 void tst_HRSQLiteIndex::open_usesTheTemporaryDirectory_whenThereIsNoOther()
 {
     QFETCH(QString, directory);
-    Fixture fixture(false);
+    SqliteIndexFixture fixture(false);
     fixture.context.set(persistentDirectoryKey, directory);
     fixture.context.set(indexFileNameKey, "hr-test.sqlite");
     const QByteArray before = qgetenv("TMPDIR");
@@ -261,7 +177,7 @@ void tst_HRSQLiteIndex::open_usesTheTemporaryDirectory_whenThereIsNoOther()
 
 void tst_HRSQLiteIndex::open_fails_withoutApplicationName()
 {
-    Fixture fixture(false);
+    SqliteIndexFixture fixture(false);
     fixture.context.set(applicationNameKey, "");
     QVERIFY(!fixture.index.open());
     QVERIFY(fixture.messages.take(
@@ -270,7 +186,7 @@ void tst_HRSQLiteIndex::open_fails_withoutApplicationName()
 
 void tst_HRSQLiteIndex::open_fails_withoutDirectory()
 {
-    Fixture fixture(false);
+    SqliteIndexFixture fixture(false);
     fixture.context.set(persistentDirectoryKey, "");
     const QByteArray before = qgetenv("TMPDIR");
     qputenv("TMPDIR", "/nowhere/at/all");
@@ -292,7 +208,7 @@ void tst_HRSQLiteIndex::open_refusesFilesThatOthersCouldHaveMade_data()
 void tst_HRSQLiteIndex::open_refusesFilesThatOthersCouldHaveMade()
 {
     QFETCH(QString, trap);
-    Fixture fixture(false);
+    SqliteIndexFixture fixture(false);
     const QString file = fixture.databaseFile();
     const QString target = fixture.packages.write("target", "");
     if (trap == "link")
@@ -314,7 +230,7 @@ void tst_HRSQLiteIndex::open_refusesFilesThatOthersCouldHaveMade()
     QCOMPARE(fixture.messages.takeMessages().constLast(), CouldNotOpen);
     QCOMPARE(QFileInfo(target).size(), qint64(0));
     QVERIFY(!QFileInfo::exists(target + "2"));
-    QVERIFY(!QSqlDatabase::contains(Connection));
+    QVERIFY(!QSqlDatabase::contains(fixture.connection()));
 }
 
 void tst_HRSQLiteIndex::open_refusesForeignSchemas_data()
@@ -335,7 +251,7 @@ void tst_HRSQLiteIndex::open_refusesForeignSchemas_data()
 void tst_HRSQLiteIndex::open_refusesForeignSchemas()
 {
     QFETCH(QStringList, statements);
-    Fixture fixture(false);
+    SqliteIndexFixture fixture(false);
     for (const QString &statement : statements)
         OtherConnection(fixture.databaseFile()).execute(statement);
     QVERIFY(!fixture.index.open());
@@ -348,7 +264,7 @@ void tst_HRSQLiteIndex::open_refusesForeignSchemas()
 
 void tst_HRSQLiteIndex::open_makesAPrivateFile()
 {
-    Fixture fixture;
+    SqliteIndexFixture fixture;
     const auto all = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther
         | QFile::WriteOther | QFile::ExeOther;
     QCOMPARE(QFile::permissions(fixture.databaseFile()) & all, QFile::Permissions());
@@ -370,7 +286,7 @@ void tst_HRSQLiteIndex::open_makesADamagedDatabaseAnew()
 {
     QFETCH(bool, clear);
     QFETCH(int, firstDamaged);
-    Fixture fixture;
+    SqliteIndexFixture fixture;
     fixture.context.set(removeIndexOnCloseKey, false);
     fixture.context.set(clearIndexKey, clear);
     for (int i = 0; i < 20; ++i)
@@ -390,7 +306,7 @@ void tst_HRSQLiteIndex::open_makesADamagedDatabaseAnew()
 
 void tst_HRSQLiteIndex::open_makesADatabaseAnew_thatAKilledUpdateLeft()
 {
-    Fixture fixture;
+    SqliteIndexFixture fixture;
     fixture.context.set(removeIndexOnCloseKey, false);
     fixture.context.set(clearIndexKey, false);
     for (int i = 0; i < 20; ++i)
@@ -421,7 +337,7 @@ void tst_HRSQLiteIndex::open_makesADatabaseAnew_thatAKilledUpdateLeft()
 
 void tst_HRSQLiteIndex::open_leavesAFileAlone_thatIsNoDatabase()
 {
-    Fixture fixture(false);
+    SqliteIndexFixture fixture(false);
     const QByteArray letter("Dear diary, today I wrote no database at all. ");
     fixture.packages.write("db/Zentora_Test_HRI.sqlite", letter.repeated(100));
     QVERIFY(!fixture.index.open());
@@ -432,7 +348,7 @@ void tst_HRSQLiteIndex::open_leavesAFileAlone_thatIsNoDatabase()
 
 void tst_HRSQLiteIndex::open_givesUpSoon_whenTheDatabaseIsLocked()
 {
-    Fixture fixture;
+    SqliteIndexFixture fixture;
     fixture.context.set(removeIndexOnCloseKey, false);
     fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/>");
     fixture.index.close();
@@ -443,51 +359,11 @@ void tst_HRSQLiteIndex::open_givesUpSoon_whenTheDatabaseIsLocked()
         timer.start();
         QVERIFY(!fixture.index.open());
         QVERIFY2(timer.elapsed() < 4000, qPrintable(QString::number(timer.elapsed())));
-        QVERIFY(!QSqlDatabase::contains(Connection));
+        QVERIFY(!QSqlDatabase::contains(fixture.connection()));
     }
     fixture.add("A", "a.xml", "<hintreel key='pen' n='2'/>");
     QCOMPARE(fixture.found("pen"), QString("2"));
     fixture.messages.takeMessages();
-}
-
-void tst_HRSQLiteIndex::update_leavesTheDatabase_whenItIsLocked_data()
-{
-    QTest::addColumn<QStringList>("lock");
-    QTest::newRow("reader and writer") << QStringList("BEGIN EXCLUSIVE");
-    QTest::newRow("writer") << QStringList("BEGIN IMMEDIATE");
-    QTest::newRow("reader") << QStringList{ "BEGIN", "SELECT hrkey FROM hintreels" };
-}
-
-void tst_HRSQLiteIndex::update_leavesTheDatabase_whenItIsLocked()
-{
-    QFETCH(QStringList, lock);
-    Fixture fixture;
-    fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/>");
-    fixture.add("A", "b.xml", "<hintreel key='line' n='2'/><hintreel key='ink' n='2'/>");
-    OtherConnection other(fixture.databaseFile());
-    for (const QString &statement : lock)
-        other.execute(statement);
-    fixture.add("A", "c.xml", "<hintreel key='fill' n='3'/>");
-    // Nothing is left that could wait for the lock again.
-    QVERIFY(!QSqlDatabase::contains(Connection));
-    fixture.add("A", "d.xml", "<hintreel key='zoom' n='4'/>");
-    QCOMPARE(fixture.index.keys(), QStringList({ "pen", "line", "ink", "fill", "zoom" }));
-    QCOMPARE(fixture.found("pen"), QString("1"));
-    QCOMPARE(fixture.found("ink"), QString("2"));
-    QCOMPARE(fixture.found("fill"), QString("3"));
-    QCOMPARE(fixture.found("zoom"), QString("4"));
-    QCOMPARE(fixture.messages.takeMessages().filter("database is locked").size(), 1);
-}
-
-void tst_HRSQLiteIndex::update_leavesTheDatabase_whenItDoesNotTakeAnEntry()
-{
-    Fixture fixture;
-    fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/>");
-    OtherConnection(fixture.databaseFile()).execute("DROP TABLE hintreels");
-    fixture.add("A", "b.xml", "<hintreel key='line' n='2'/>");
-    QCOMPARE(fixture.found("pen"), QString("1"));
-    QCOMPARE(fixture.found("line"), QString("2"));
-    QCOMPARE(fixture.messages.takeMessages().filter("Could not insert item:").size(), 1);
 }
 
 void tst_HRSQLiteIndex::open_clearsOrKeeps_asTheSettingSays_data()
@@ -502,7 +378,7 @@ void tst_HRSQLiteIndex::open_clearsOrKeeps_asTheSettingSays_data()
 void tst_HRSQLiteIndex::open_clearsOrKeeps_asTheSettingSays()
 {
     QFETCH(QVariant, clear);
-    Fixture fixture;
+    SqliteIndexFixture fixture;
     fixture.context.set(removeIndexOnCloseKey, false);
     if (clear.isValid())
         fixture.context.set(clearIndexKey, clear);
@@ -515,7 +391,7 @@ void tst_HRSQLiteIndex::open_clearsOrKeeps_asTheSettingSays()
 
 void tst_HRSQLiteIndex::schema_isFixed()
 {
-    Fixture fixture;
+    SqliteIndexFixture fixture;
     const QStringList expected{
         "CREATE TABLE packages( pkey INTEGER PRIMARY KEY AUTOINCREMENT, ppath TEXT, depth INTEGER "
         ")",
@@ -533,7 +409,7 @@ void tst_HRSQLiteIndex::schema_isFixed()
 
 void tst_HRSQLiteIndex::closedIndex_leavesTheHostsDatabaseAlone()
 {
-    Fixture fixture(false);
+    SqliteIndexFixture fixture(false);
     {
         QSqlDatabase host = QSqlDatabase::addDatabase("QSQLITE");
         host.setDatabaseName(":memory:");
@@ -565,7 +441,7 @@ void tst_HRSQLiteIndex::closedIndex_leavesTheHostsDatabaseAlone()
 
 void tst_HRSQLiteIndex::closedIndex_servesFromMemory()
 {
-    Fixture fixture(false);
+    SqliteIndexFixture fixture(false);
     fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/>");
     fixture.add("A", "b.xml", "<hintreel key='pen' n='2'/><hintreel key='line' n='2'/>");
     // In the order of indexing, unlike the index that keeps everything in memory.
@@ -576,7 +452,7 @@ void tst_HRSQLiteIndex::closedIndex_servesFromMemory()
 
 void tst_HRSQLiteIndex::retrieve_tellsWhereTheEntryLies()
 {
-    Fixture fixture;
+    SqliteIndexFixture fixture;
     fixture.messages.takeMessages();
     const QString file = fixture.add("A", "%1.xml", "<hintreel key='pen' n='1'/>");
     QCOMPARE(fixture.found("pen"), QString("1"));
@@ -589,7 +465,7 @@ void tst_HRSQLiteIndex::retrieve_tellsWhereTheEntryLies()
 
 void tst_HRSQLiteIndex::retrieve_servesTheFileIndexedLast()
 {
-    Fixture fixture;
+    SqliteIndexFixture fixture;
     fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/><hintreel key='line' n='1'/>");
     fixture.add("A", "b.xml", "<hintreel key='pen' n='2'/>");
     QCOMPARE(fixture.found("pen"), QString("2"));
@@ -599,7 +475,7 @@ void tst_HRSQLiteIndex::retrieve_servesTheFileIndexedLast()
 
 void tst_HRSQLiteIndex::retrieve_tellsPlace_whenTheFileHasLostTheKey()
 {
-    Fixture fixture;
+    SqliteIndexFixture fixture;
     fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/>");
     fixture.packages.writeControl("A", "a.xml", "", "locale='en_US'");
     QVERIFY(fixture.found("pen").isNull());
@@ -610,7 +486,7 @@ void tst_HRSQLiteIndex::retrieve_tellsPlace_whenTheFileHasLostTheKey()
 
 void tst_HRSQLiteIndex::retrieve_reportsAMissingTable()
 {
-    Fixture fixture;
+    SqliteIndexFixture fixture;
     fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/>");
     QCOMPARE(fixture.found("pen"), QString("1"));
     fixture.index.clear();
@@ -629,7 +505,7 @@ void tst_HRSQLiteIndex::retrieve_reportsAMissingTable()
 
 void tst_HRSQLiteIndex::fileWithoutLocale_servesCOnly()
 {
-    Fixture fixture;
+    SqliteIndexFixture fixture;
     fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/>", "");
     QVERIFY(fixture.found("pen").isNull());
     QCOMPARE(fixture.found("pen", "C"), QString("1"));
@@ -638,7 +514,7 @@ void tst_HRSQLiteIndex::fileWithoutLocale_servesCOnly()
 
 void tst_HRSQLiteIndex::keys_areListedOncePerLocale()
 {
-    Fixture fixture;
+    SqliteIndexFixture fixture;
     fixture.add("A", "a.xml", "<hintreel key='pen'/><hintreel key='pen'/><hintreel/>");
     fixture.add("A", "b.xml", "<hintreel key='pen'/>");
     fixture.add("A", "c.xml", "<hintreel key='pen'/>", "locale='de_DE'");
@@ -648,7 +524,7 @@ void tst_HRSQLiteIndex::keys_areListedOncePerLocale()
 
 void tst_HRSQLiteIndex::keys_ofAnEmptyDatabase_areNone()
 {
-    Fixture fixture;
+    SqliteIndexFixture fixture;
     const QString file = fixture.packages.writeControl("A", "a.xml", "<hintreel key='pen'/>");
     fixture.index.store(nullptr, QLocale(), file, 1);
     QCOMPARE(fixture.index.keys(), QStringList());
@@ -657,7 +533,7 @@ void tst_HRSQLiteIndex::keys_ofAnEmptyDatabase_areNone()
 
 void tst_HRSQLiteIndex::indexControlFile_storesEntriesUpToAnError()
 {
-    Fixture fixture;
+    SqliteIndexFixture fixture;
     const QString file = fixture.packages.write("A.hintreels/a.xml",
         "<hintreels locale='en_US'><hintreel key='pen'/><hintreel key='line'></hintreels>");
     fixture.index.indexControlFile(file, fixture.packagePath("A"));
@@ -683,7 +559,7 @@ void tst_HRSQLiteIndex::indexControlFile_passesOver()
 {
     QFETCH(QString, file);
     QFETCH(QString, package);
-    Fixture fixture;
+    SqliteIndexFixture fixture;
     fixture.packages.writeControl("A", "a.xml", "<hintreel key='pen'/>");
     fixture.packages.write("A.hintreels/other.xml", "<other key='a'><x key='pen'/></other>");
     fixture.packages.write("B.hintreels/b.xml", "");
@@ -695,7 +571,7 @@ void tst_HRSQLiteIndex::indexControlFile_passesOver()
 
 void tst_HRSQLiteIndex::indexControlFile_keepsTheFirstDepth()
 {
-    Fixture fixture;
+    SqliteIndexFixture fixture;
     const QString file = fixture.packages.write("A.hintreels/B.hintreels/a.xml",
         "<hintreels locale='en_US'><hintreel key='pen' n='1'/></hintreels>");
     fixture.index.indexControlFile(file, fixture.packagePath("A"));
@@ -709,7 +585,7 @@ void tst_HRSQLiteIndex::indexControlFile_keepsTheFirstDepth()
 
 void tst_HRSQLiteIndex::indexControlFile_endsTheCallersUpdate()
 {
-    Fixture fixture;
+    SqliteIndexFixture fixture;
     fixture.index.startUpdate();
     fixture.index.startUpdate();
     fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/>");
@@ -725,7 +601,7 @@ void tst_HRSQLiteIndex::indexControlFile_endsTheCallersUpdate()
 
 void tst_HRSQLiteIndex::indexControlFile_seesRowsOfAnotherConnection()
 {
-    Fixture fixture;
+    SqliteIndexFixture fixture;
     const QString file = fixture.add("A", "a.xml", "<hintreel key='pen'/>");
     OtherConnection other(fixture.databaseFile());
     other.execute("UPDATE packages SET pkey = 77");
@@ -736,9 +612,36 @@ void tst_HRSQLiteIndex::indexControlFile_seesRowsOfAnotherConnection()
     fixture.messages.takeMessages();
 }
 
+void tst_HRSQLiteIndex::indexControlFile_seesThatRowsAreDeleted_onItsOwnConnection()
+{
+    SqliteIndexFixture fixture;
+    const QString file = fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/>");
+    fixture.rows("DELETE FROM packages");
+    fixture.index.indexControlFile(file, fixture.packagePath("A"));
+    QCOMPARE(fixture.rows("SELECT ppath FROM packages"), QStringList(file));
+    QCOMPARE(fixture.found("pen"), QString("1"));
+    fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndex::store_seesThatRowsAreDeleted_onItsOwnConnection()
+{
+    SqliteIndexFixture fixture;
+    HRXmlElement entry;
+    entry.setAttribute("key", "pen");
+    fixture.index.startUpdate();
+    for (int i = 0; i < 2; ++i) {
+        QVERIFY(fixture.index.store(&entry, QLocale("en_US"), "/a.xml", 1));
+        fixture.rows("DELETE FROM packages");
+        QVERIFY(fixture.index.store(&entry, QLocale("en_US"), "/a.xml", 1));
+        QCOMPARE(fixture.rows("SELECT ppath FROM packages"), QStringList("/a.xml"));
+    }
+    fixture.index.endUpdate();
+    fixture.messages.takeMessages();
+}
+
 void tst_HRSQLiteIndex::store_outsideAnUpdate_remembersTheFileInMemory()
 {
-    Fixture fixture;
+    SqliteIndexFixture fixture;
     const QString file = fixture.packages.writeControl("A", "a.xml", "<hintreel key='pen' n='1'/>");
     HRXmlElement entry;
     entry.setAttribute("key", "pen");
@@ -751,7 +654,7 @@ void tst_HRSQLiteIndex::store_outsideAnUpdate_remembersTheFileInMemory()
 
 void tst_HRSQLiteIndex::store_bindsValues()
 {
-    Fixture fixture;
+    SqliteIndexFixture fixture;
     const QString key = "'); DROP TABLE hintreels; --";
     fixture.add("A", "it's %1.xml", "<hintreel key=\"" + key.toUtf8() + "\" n='1'/>");
     QCOMPARE(fixture.found(key), QString("1"));
@@ -761,7 +664,7 @@ void tst_HRSQLiteIndex::store_bindsValues()
 
 void tst_HRSQLiteIndex::store_reportsAMissingTable()
 {
-    Fixture fixture;
+    SqliteIndexFixture fixture;
     fixture.index.clear();
     fixture.messages.takeMessages();
     fixture.index.startUpdate();
@@ -780,7 +683,7 @@ void tst_HRSQLiteIndex::store_reportsAMissingTable()
 
 void tst_HRSQLiteIndex::packageMap_staysEmpty()
 {
-    Fixture fixture;
+    SqliteIndexFixture fixture;
     fixture.add("A", "a.xml", "<hintreel key='pen'/>");
     QVERIFY(fixture.index.componentPathsForPackageNamed("A").isEmpty());
     fixture.messages.takeMessages();
@@ -798,18 +701,18 @@ void tst_HRSQLiteIndex::close_removesTheFile_asTheSettingSays_data()
 void tst_HRSQLiteIndex::close_removesTheFile_asTheSettingSays()
 {
     QFETCH(QVariant, remove);
-    Fixture fixture;
+    SqliteIndexFixture fixture;
     if (remove.isValid())
         fixture.context.set(removeIndexOnCloseKey, remove);
     QVERIFY(fixture.index.close());
     QTEST(QFileInfo::exists(fixture.databaseFile()), "exists");
-    QVERIFY(!QSqlDatabase::contains(Connection));
+    QVERIFY(!QSqlDatabase::contains(fixture.connection()));
     fixture.messages.takeMessages();
 }
 
 void tst_HRSQLiteIndex::close_endsAnUpdate()
 {
-    Fixture fixture;
+    SqliteIndexFixture fixture;
     fixture.index.startUpdate();
     fixture.index.close();
     QVERIFY(fixture.index.open());
@@ -820,7 +723,7 @@ void tst_HRSQLiteIndex::close_endsAnUpdate()
 
 void tst_HRSQLiteIndex::remove_deletesTheFile_afterClosing()
 {
-    Fixture fixture;
+    SqliteIndexFixture fixture;
     fixture.context.set(removeIndexOnCloseKey, false);
     QVERIFY(fixture.index.close());
     QVERIFY(QFileInfo::exists(fixture.databaseFile()));
@@ -841,7 +744,7 @@ void tst_HRSQLiteIndex::overrides_mayCallTheirBase()
         int closes = 0;
         int removes = 0;
     };
-    Fixture fixture(false);
+    SqliteIndexFixture fixture(false);
     Override index(&fixture.context, {});
     QVERIFY(index.open());
     QVERIFY(index.close());
@@ -853,7 +756,7 @@ void tst_HRSQLiteIndex::overrides_mayCallTheirBase()
 
 void tst_HRSQLiteIndex::open_again_startsOver()
 {
-    Fixture fixture;
+    SqliteIndexFixture fixture;
     fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/>");
     QCOMPARE(fixture.found("pen"), QString("1"));
     QVERIFY(fixture.index.open());

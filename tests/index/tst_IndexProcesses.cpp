@@ -25,7 +25,8 @@
 using namespace Hintreels;
 
 /// Processes that fill one database: one alone until it is killed, or several at a time. They are
-/// this program itself, started with arguments.
+/// this program itself, started with arguments. HINTREELS_KILLS in the environment is the number of
+/// random kills for each index, half of them while another process starts.
 class tst_IndexProcesses : public QObject
 {
     Q_OBJECT
@@ -34,6 +35,8 @@ private Q_SLOTS:
     void initTestCase();
     void start_answersRightly_afterAKill_data();
     void start_answersRightly_afterAKill();
+    void start_answersRightly_whileAnotherIsKilled_data();
+    void start_answersRightly_whileAnotherIsKilled();
     void start_answersRightly_afterAKillAtAWrite_data();
     void start_answersRightly_afterAKillAtAWrite();
     void processes_answerRightly_onOneFile_data();
@@ -50,6 +53,13 @@ namespace {
 constexpr int Packages = 12;
 constexpr int FilesInPackage = 10;
 constexpr int KeysInFile = 20;
+
+int kills()
+{
+    constexpr int Enough = 60;
+    const int asked = qEnvironmentVariableIntValue("HINTREELS_KILLS");
+    return asked > 0 ? asked : Enough;
+}
 
 QString keyOf(int package, int file, int key)
 {
@@ -136,6 +146,13 @@ std::unique_ptr<QProcess> startProcess(const QStringList &arguments)
     return process;
 }
 
+/// Tells the process that waits for it that starts begin now.
+void announceStarts()
+{
+    std::puts("starting");
+    std::fflush(stdout);
+}
+
 /// Fills a database again and again.
 /// @param largestFile in bytes, or -1: the system kills the process at the write that exceeds it
 int fill(const QString &kind, const QString &dataPath, int starts, int largestFile)
@@ -145,8 +162,7 @@ int fill(const QString &kind, const QString &dataPath, int starts, int largestFi
     ::setrlimit(RLIMIT_CORE, &none);
     if (largestFile >= 0)
         ::setrlimit(RLIMIT_FSIZE, &largest);
-    std::puts("starting");
-    std::fflush(stdout);
+    announceStarts();
     for (int i = 0; i < starts; ++i)
         Start(kind, dataPath).index->clear();
     return 0;
@@ -156,6 +172,7 @@ int fill(const QString &kind, const QString &dataPath, int starts, int largestFi
 int check(const QString &kind, const QString &dataPath, int starts)
 {
     int wrong = 0;
+    announceStarts();
     for (int i = 0; i < starts; ++i) {
         Start start(kind, dataPath);
         wrong += isRight(start, dataPath) ? 0 : 1;
@@ -194,13 +211,41 @@ void tst_IndexProcesses::start_answersRightly_afterAKill()
     QFETCH(QString, kind);
     removeDatabase(m_packages.path());
     QRandomGenerator random(1);
-    for (int kill = 0; kill < 6; ++kill) {
+    for (int kill = 0; kill < kills() / 2; ++kill) {
         const auto process = startProcess({ "fill", kind, m_packages.path(), "100000", "-1" });
         QVERIFY(process->waitForReadyRead());
         QThread::usleep(random.bounded(30000));
         process->kill();
         QVERIFY(process->waitForFinished());
         startTwice(kind);
+    }
+}
+
+void tst_IndexProcesses::start_answersRightly_whileAnotherIsKilled_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::newRow("kept") << "kept";
+    QTest::newRow("package") << "package";
+}
+
+void tst_IndexProcesses::start_answersRightly_whileAnotherIsKilled()
+{
+    QFETCH(QString, kind);
+    removeDatabase(m_packages.path());
+    QRandomGenerator random(2);
+    for (int kill = 0; kill < kills() / 2; ++kill) {
+        const auto victim = startProcess({ "check", kind, m_packages.path(), "100000" });
+        QVERIFY(victim->waitForReadyRead());
+        const auto witness = startProcess({ "check", kind, m_packages.path(), "1" });
+        QVERIFY(witness->waitForReadyRead());
+        QThread::usleep(random.bounded(30000));
+        victim->kill();
+        QVERIFY(victim->waitForFinished());
+        QVERIFY(witness->waitForFinished());
+        QCOMPARE(witness->exitStatus(), QProcess::NormalExit);
+        QVERIFY2(witness->exitCode() == 0, witness->readAllStandardError().constData());
+        if (kill % 10 == 9)
+            startTwice(kind);
     }
 }
 

@@ -13,6 +13,8 @@
 #include <QMouseEvent>
 #include <QtTest>
 
+#include <memory>
+
 #include <limits>
 
 using namespace Hintreels;
@@ -84,6 +86,7 @@ private Q_SLOTS:
     void show_prefersLocaleThenFallback_data();
     void show_prefersLocaleThenFallback();
     void show_doesNothing_whenDisabled();
+    void show_needsNoOpenGL_whenUserHasChosenARenderer();
     void show_requiresExactModifiers_data();
     void show_requiresExactModifiers();
     void show_keepsContent_whenKeyIsShownAlready();
@@ -97,7 +100,11 @@ private Q_SLOTS:
     void show_freesElement_whenIndexGivesNoRoot();
     void show_keepsElement_whenIndexGivesItAgain();
     void tooltipPosition_addsOffset();
+    void tooltipPosition_endsAtTheLimitsOfNumbers_data();
+    void tooltipPosition_endsAtTheLimitsOfNumbers();
     void retrieve_fillsLocation();
+    void retrieve_handsOverWhatTheIndexWrote_onAMissToo();
+    void retrieve_assignsNothing_whenIndexDoesNot();
     void reserve_refusesOtherWidgets();
     void reserve_makesNewPopup();
     void hintreelAttribute_readsShownContentFirst();
@@ -295,6 +302,13 @@ void tst_HRManager::show_doesNothing_whenDisabled()
     QCOMPARE(f.host->takeMessages(messageInformation).size(), 1);
 }
 
+void tst_HRManager::show_needsNoOpenGL_whenUserHasChosenARenderer()
+{
+    QCOMPARE(qgetenv("QT_QUICK_BACKEND"), QByteArray("software"));
+    Fixture f({ { forbidSoftwareRendererKey, true } });
+    QVERIFY(f.show("pen"));
+}
+
 void tst_HRManager::show_requiresExactModifiers_data()
 {
     QTest::addColumn<int>("required");
@@ -434,11 +448,12 @@ void tst_HRManager::show_keepsElement_whenIndexGivesItAgain()
         {
             path = "/";
             depth = 1;
-            answer = root;
+            answer = root.get();
             return element;
         }
-        HRXmlElement *root = new HRXmlElement;
-        QPointer<HRXmlElement> element = new HRXmlElement(root);
+        // No `hintreels`, so that nobody takes it for the root of one hint.
+        std::unique_ptr<HRXmlElement> root = std::make_unique<HRXmlElement>();
+        QPointer<HRXmlElement> element = new HRXmlElement(root.get());
     };
 
     HRContext context;
@@ -464,10 +479,30 @@ void tst_HRManager::tooltipPosition_addsOffset()
     QCOMPARE(f.manager().tooltipPosition(QPoint(5, 7), nullptr), QPoint(40, 37));
     f.host->context().set(tooltipOffsetKey, QSize(-1, 2));
     QCOMPARE(f.manager().tooltipPosition(QPoint(5, 7), nullptr), QPoint(4, 9));
-    const int huge = std::numeric_limits<int>::max();
-    f.host->context().set(tooltipOffsetKey, QSize(huge, -huge));
-    const QPoint position = f.manager().tooltipPosition(QPoint(huge, -huge), nullptr);
-    QCOMPARE(position, QPoint(QWIDGETSIZE_MAX, -QWIDGETSIZE_MAX));
+}
+
+void tst_HRManager::tooltipPosition_endsAtTheLimitsOfNumbers_data()
+{
+    const int largest = std::numeric_limits<int>::max();
+    const int smallest = std::numeric_limits<int>::min();
+    QTest::addColumn<QPoint>("pointer");
+    QTest::addColumn<QSize>("offset");
+    QTest::addColumn<QPoint>("position");
+    QTest::newRow("beyond what widgets reach")
+        << QPoint(20000000, -20000000) << QSize(1, -1) << QPoint(20000001, -20000001);
+    QTest::newRow("largest") << QPoint(largest - 1, 0) << QSize(1, 1) << QPoint(largest, 1);
+    QTest::newRow("above") << QPoint(largest, 0) << QSize(1, 1) << QPoint(largest, 1);
+    QTest::newRow("below") << QPoint(0, smallest) << QSize(1, -1) << QPoint(1, smallest);
+    QTest::newRow("far away") << QPoint(largest, smallest) << QSize(largest, smallest)
+                              << QPoint(largest, smallest);
+}
+
+void tst_HRManager::tooltipPosition_endsAtTheLimitsOfNumbers()
+{
+    QFETCH(QPoint, pointer);
+    QFETCH(QSize, offset);
+    Fixture f({ { tooltipOffsetKey, offset } });
+    QTEST(f.manager().tooltipPosition(pointer, nullptr), "position");
 }
 
 void tst_HRManager::retrieve_fillsLocation()
@@ -483,7 +518,51 @@ void tst_HRManager::retrieve_fillsLocation()
     QCOMPARE(depth, 2);
     delete root;
     QVERIFY(!f.manager().retrieve("unknown", path, depth, root));
-    QVERIFY(!root);
+}
+
+void tst_HRManager::retrieve_handsOverWhatTheIndexWrote_onAMissToo()
+{
+    // Counts its questions in what it is handed, and answers none.
+    class Index : public HRIndex
+    {
+    public:
+        using HRIndex::HRIndex;
+        HRXmlElement *retrieve(const QString &, const QLocale &locale, QString &path, int &depth,
+            HRXmlElement *&root) override
+        {
+            path += locale.name() + ' ';
+            ++depth;
+            root = &element;
+            return nullptr;
+        }
+        HRXmlElement element;
+    };
+
+    HRContext context;
+    context.set(localeKey, "de_DE");
+    Index index(&context, {});
+    RecordingHost host(context, {}, &index);
+    QString path = "before ";
+    int depth = 5;
+    HRXmlElement *root = nullptr;
+    QVERIFY(!host.manager()->retrieve("pen", path, depth, root));
+    QCOMPARE(path, QString("before de_DE en_US "));
+    QCOMPARE(depth, 7);
+    QCOMPARE(root, &index.element);
+}
+
+void tst_HRManager::retrieve_assignsNothing_whenIndexDoesNot()
+{
+    HRContext context;
+    RecordingHost host(context, {});
+    HRXmlElement element;
+    QString path = "before";
+    int depth = 5;
+    HRXmlElement *root = &element;
+    QVERIFY(!host.manager()->retrieve("pen", path, depth, root));
+    QCOMPARE(path, QString("before"));
+    QCOMPARE(depth, 5);
+    QCOMPARE(root, &element);
 }
 
 void tst_HRManager::reserve_refusesOtherWidgets()

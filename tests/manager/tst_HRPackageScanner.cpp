@@ -57,6 +57,7 @@ private Q_SLOTS:
     void scanDataPaths_passesOverLinks();
     void scanPackage_isSilent_whenControlDirectoryIsMissing();
     void scanPackage_takesWhatADirectoryListingTakes();
+    void scanPackage_takesTheRootDirectory();
 };
 
 void tst_HRPackageScanner::scanDataPaths_indexesControlFilesOnly()
@@ -175,6 +176,17 @@ void tst_HRPackageScanner::scanPackage_takesWhatADirectoryListingTakes()
 
     QCOMPARE(f.index.calls, expected);
     QVERIFY(expected.size() >= 5);
+}
+
+void tst_HRPackageScanner::scanPackage_takesTheRootDirectory()
+{
+    const TestPackages packages;
+    packages.writeControl("A", "a.xml", "<hintreel key='pen'/>");
+    HRContext context;
+    context.set(controlDirectoryKey, packages.path().mid(1) + "/A.hintreels/Control");
+    HRIndex index(&context, {});
+    HRPackageScanner(context, index, [](const QString &) {}).scanPackage(QFileInfo("/"));
+    QCOMPARE(index.keys(), QStringList("pen"));
 }
 
 QTEST_APPLESS_MAIN(tst_HRPackageScanner)

@@ -85,6 +85,17 @@ struct Fixture
         host->context().set(messageLevelKey, int(messageInformation));
     }
 
+    // A detached popup is the reader's, and outlives the host.
+    ~Fixture()
+    {
+        host.reset();
+        const QWidgetList widgets = QApplication::topLevelWidgets();
+        for (QWidget *widget : widgets) {
+            if (qobject_cast<HRWidget *>(widget))
+                delete widget;
+        }
+    }
+
     HRWidget *popup() const { return host ? host->manager()->widget() : nullptr; }
     HRXmlElement *content() const
     {
@@ -92,9 +103,17 @@ struct Fixture
     }
     QString key() const { return content() ? content()->attribute("key") : QString(); }
 
+    /// Deletes the element alone; its root is left to who does.
+    void deleteContent()
+    {
+        orphan.reset(content()->parent());
+        delete content();
+    }
+
     TestPackages packages;
     HRContext context;
     std::unique_ptr<QWidget> target;
+    std::unique_ptr<QObject> orphan;
     std::unique_ptr<MeddlingHost> host;
 };
 
@@ -105,7 +124,7 @@ const QMap<QString, Deed> deeds{
     { "deletes the popup", [](Fixture &f) { delete f.popup(); } },
     { "deletes the view", [](Fixture &f) { delete f.popup()->view(); } },
     { "takes the view", [](Fixture &f) { f.popup()->setView(nullptr); } },
-    { "deletes the content", [](Fixture &f) { delete f.content(); } },
+    { "deletes the content", [](Fixture &f) { f.deleteContent(); } },
     { "deletes the content's tree", [](Fixture &f) { delete f.content()->parent(); } },
     { "deletes the target", [](Fixture &f) { f.target.reset(); } },
     { "shows another hint", [](Fixture &f) { f.host->show("ink", QPoint(10, 10), nullptr); } },
@@ -127,6 +146,7 @@ private Q_SLOTS:
     void show_survives_whatTheHostDoesMeanwhile();
     void show_answersByWhatIsSeen_whenHostMeddles_data();
     void show_answersByWhatIsSeen_whenHostMeddles();
+    void show_placesPopup_beforeItAsksForTheShortcut();
     void show_survives_whenHostDeletesPopup_overMissingFile_data();
     void show_survives_whenHostDeletesPopup_overMissingFile();
     void reserve_survives_whatTheHostDoesMeanwhile_data();
@@ -188,6 +208,18 @@ void tst_HRPopupPresenter::show_answersByWhatIsSeen_whenHostMeddles()
     f.host->deed = [&] { deeds.value(deed)(f); };
     QTEST(f.host->show("pen", QPoint(10, 10), f.target.get()), "answer");
     QCOMPARE(f.key(), key);
+}
+
+void tst_HRPopupPresenter::show_placesPopup_beforeItAsksForTheShortcut()
+{
+    Fixture f;
+    const QPoint position = f.popup()->pos();
+    f.host->when = askedForShortcut;
+    f.host->deed = [&] { f.host->context().set(tooltipOffsetKey, QSize(200, 200)); };
+    QVERIFY(f.host->show("pen", QPoint(10, 10), nullptr));
+    QCOMPARE(f.popup()->pos(), position);
+    QVERIFY(f.host->show("ink", QPoint(10, 10), nullptr));
+    QCOMPARE(f.popup()->pos(), QPoint(210, 210));
 }
 
 void tst_HRPopupPresenter::show_survives_whenHostDeletesPopup_overMissingFile_data()

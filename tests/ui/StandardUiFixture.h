@@ -100,13 +100,21 @@ struct StandardUiFixture
 
     Hintreels::HRView *view() const { return popup->view(); }
     QQuickItem *root() const { return view()->rootObject(); }
-    QQuickItem *item(const QString &name) const
+    QQuickItem *find(const QString &name) const
     {
         for (QQuickItem *candidate : itemsBelow(root())) {
             if (candidate->objectName() == name)
                 return candidate;
         }
-        qFatal("there is no item %s", qPrintable(name));
+        return nullptr;
+    }
+    bool hasItem(const QString &name) const { return find(name); }
+    QQuickItem *item(const QString &name) const
+    {
+        QQuickItem *found = find(name);
+        if (!found)
+            qFatal("there is no item %s", qPrintable(name));
+        return found;
     }
     QString text(const QString &name) const { return item(name)->property("text").toString(); }
 

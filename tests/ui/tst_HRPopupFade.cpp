@@ -23,7 +23,7 @@ struct Fixture
     Fixture() { window.setWindowOpacity(1.0); }
     void fadeTo(qreal opacity, int duration)
     {
-        fade.fadeTo(opacity, duration, [this] { ++ended; });
+        fade.fade(window.windowOpacity(), opacity, duration, [this] { ++ended; });
     }
 };
 
@@ -35,9 +35,9 @@ class tst_HRPopupFade : public QObject
 
 private Q_SLOTS:
     void animation_isChildOfWindow();
-    void fadeTo_reachesOpacityAndTells();
-    void fadeTo_startsFromCurrentOpacity();
-    void fadeTo_replacesRunningFade_whichTellsNobody();
+    void fade_reachesOpacityAndTells();
+    void fade_startsWhereItIsTold();
+    void fade_replacesRunningFade_whichTellsNobody();
     void stop_leavesOpacity_andTellsNobody();
     void isFadingOut_tellsDirection();
 };
@@ -51,7 +51,7 @@ void tst_HRPopupFade::animation_isChildOfWindow()
     QCOMPARE(animation->propertyName(), QByteArray("windowOpacity"));
 }
 
-void tst_HRPopupFade::fadeTo_reachesOpacityAndTells()
+void tst_HRPopupFade::fade_reachesOpacityAndTells()
 {
     Fixture f;
     f.fadeTo(0.0, shortFade);
@@ -61,21 +61,20 @@ void tst_HRPopupFade::fadeTo_reachesOpacityAndTells()
     QCOMPARE(f.window.windowOpacity(), 0.0);
 }
 
-void tst_HRPopupFade::fadeTo_startsFromCurrentOpacity()
+void tst_HRPopupFade::fade_startsWhereItIsTold()
 {
     Fixture f;
-    f.fadeTo(0.0, shortFade);
-    QTRY_COMPARE(f.ended, 1);
-    f.window.setWindowOpacity(0.6);
-    f.fadeTo(0.0, longFade);
-    QCOMPARE(qRound(f.window.windowOpacity() * 10), 6);
+    f.fade.fade(0.1, 1.0, longFade, [] {});
+    const auto *animation = f.window.findChild<QPropertyAnimation *>();
+    QCOMPARE(animation->startValue().toReal(), 0.1);
+    QCOMPARE(qRound(f.window.windowOpacity() * 10), 1);
 }
 
-void tst_HRPopupFade::fadeTo_replacesRunningFade_whichTellsNobody()
+void tst_HRPopupFade::fade_replacesRunningFade_whichTellsNobody()
 {
     Fixture f;
     int firstEnded = 0;
-    f.fade.fadeTo(0.5, longFade, [&] { ++firstEnded; });
+    f.fade.fade(1.0, 0.5, longFade, [&] { ++firstEnded; });
     f.fadeTo(1.0, shortFade);
     QTRY_COMPARE(f.ended, 1);
     QCOMPARE(firstEnded, 0);

@@ -3,6 +3,7 @@
 
 #include "ui/HRPopupGeometry_p.h"
 
+#include <QWidget>
 #include <QtTest>
 
 #include <limits>
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void movedInside_correctsEachEdge();
     void mostCoveredScreen_choosesByArea_data();
     void mostCoveredScreen_choosesByArea();
+    void withinReach_boundsEachCoordinate();
     void isNear_includesTheMarginsEdge_data();
     void isNear_includesTheMarginsEdge();
     void isNear_isEverywhere_whenMarginIsHuge();
@@ -89,6 +91,16 @@ void tst_HRPopupGeometry::mostCoveredScreen_choosesByArea()
     QFETCH(QVector<QRect>, screens);
     QFETCH(QRect, area);
     QTEST(mostCoveredScreen(area, screens), "index");
+}
+
+void tst_HRPopupGeometry::withinReach_boundsEachCoordinate()
+{
+    const int largest = std::numeric_limits<int>::max();
+    const int smallest = std::numeric_limits<int>::min();
+    const int reach = QWIDGETSIZE_MAX;
+    QCOMPARE(withinReach(QPoint(reach, -reach)), QPoint(reach, -reach));
+    QCOMPARE(withinReach(QPoint(-7, reach + 1)), QPoint(-7, reach));
+    QCOMPARE(withinReach(QPoint(largest, smallest)), QPoint(reach, -reach));
 }
 
 void tst_HRPopupGeometry::isNear_includesTheMarginsEdge_data()

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
+#include "manager/HRManager.h"
 #include "support/RecordingHost.h"
 #include "ui/HRView.h"
 
@@ -9,15 +10,67 @@
 
 using namespace Hintreels;
 
+namespace {
+
+struct Fixture
+{
+    explicit Fixture(const QVariant &isSoftwareForbidden)
+        : host(settings(isSoftwareForbidden), QStringList{ packages.path() })
+    {
+        packages.write("A.hintreels/ui/HintreelUI.qml", rectangleQml(120, 80));
+        packages.writeControl("A", "en.xml", "<hintreel key='pen'/><hintreel key='ink'/>");
+        host.manager()->loadDataPath({ packages.path() });
+    }
+
+    HRContext &settings(const QVariant &isSoftwareForbidden)
+    {
+        context.set(forbidSoftwareRendererKey, isSoftwareForbidden);
+        return context;
+    }
+
+    TestPackages packages;
+    HRContext context;
+    RecordingHost host;
+};
+
+} // namespace
+
 /// Runs without OpenGL and without a backend named in the environment, as on a bare machine.
 class tst_HRQuickRenderer : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    // First, since what is chosen once stays chosen.
+    void show_showsNothing_andSaysWhyOnce_whenSoftwareIsForbidden();
+    void show_showsHint_whenSoftwareIsAllowedAgain();
     void view_paints_whenThereIsNoOpenGL();
     void view_reportsRendererErrorsInsteadOfEndingTheHost();
 };
+
+void tst_HRQuickRenderer::show_showsNothing_andSaysWhyOnce_whenSoftwareIsForbidden()
+{
+    Fixture f(true);
+    QVERIFY(!f.host.show("pen", QPoint(10, 10), nullptr));
+    QVERIFY(!f.host.show("pen", QPoint(10, 10), nullptr));
+    QVERIFY(!f.host.manager()->widget());
+    QCOMPARE(f.host.takeMessages(messageWarning),
+        QStringList{
+            "No hints are shown: there is no OpenGL, and software rendering is forbidden" });
+    QCOMPARE(QQuickWindow::sceneGraphBackend(), QString());
+}
+
+void tst_HRQuickRenderer::show_showsHint_whenSoftwareIsAllowedAgain()
+{
+    Fixture f(true);
+    QVERIFY(!f.host.show("pen", QPoint(10, 10), nullptr));
+    f.host.context().set(forbidSoftwareRendererKey, false);
+    QVERIFY(f.host.show("pen", QPoint(10, 10), nullptr));
+    QCOMPARE(QQuickWindow::sceneGraphBackend(), QString("software"));
+    // From here on it is chosen for the whole process.
+    f.host.context().set(forbidSoftwareRendererKey, true);
+    QVERIFY(f.host.show("ink", QPoint(10, 10), nullptr));
+}
 
 void tst_HRQuickRenderer::view_paints_whenThereIsNoOpenGL()
 {

@@ -98,7 +98,7 @@ void tst_HRView::metaObject_hasMembersInOrder()
             "openExternalResource(QString)", "interpolate(QString)", "setOverrideCursor(QString)",
             "restoreOverrideCursor()", "translate(QString,QString)", "findResource(QString)",
             "getScaledSize(int)", "stayOpen", "reserved", "content", "documentationAvailable",
-            "resourceDirectory" }));
+            "resourceDirectory", "source" }));
 }
 
 void tst_HRView::window_isFramelessAndFollowsRoot()

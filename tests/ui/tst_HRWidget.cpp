@@ -12,6 +12,8 @@
 #include <QQuickItem>
 #include <QtTest>
 
+#include <limits>
+
 using namespace Hintreels;
 
 namespace {
@@ -97,6 +99,8 @@ private Q_SLOTS:
     void setView_givesFocusToNobody();
     void showWithContent_doesNothing_withoutContent();
     void showWithContent_showsContentAtPosition();
+    void showWithContent_staysOnScreen_whateverThePosition_data();
+    void showWithContent_staysOnScreen_whateverThePosition();
     void showWithContent_freesContentShownBefore();
     void showWithContent_keepsSameContent();
     void showWithContent_setsContextProperties();
@@ -107,6 +111,7 @@ private Q_SLOTS:
     void popup_matchesColorOfItsContent();
     void popup_staysOnScreen_whenContentGrows();
     void showAnimated_fadesIn();
+    void showAnimated_startsAtATenth();
     void hideAnimated_hidesAtOnce_withoutDuration();
     void hideAnimated_fadesOut();
     void hideAnimated_doesNothing_duringFade();
@@ -218,6 +223,28 @@ void tst_HRWidget::showWithContent_showsContentAtPosition()
     QCOMPARE(f.popup->windowOpacity(), 1.0);
     QCOMPARE(f.popup->referenceWidget(), &f.reference);
     QCOMPARE(f.popup->view()->packageRoot().path(), f.packages.path() + "/Tools.hintreels");
+}
+
+void tst_HRWidget::showWithContent_staysOnScreen_whateverThePosition_data()
+{
+    const int largest = std::numeric_limits<int>::max();
+    const int smallest = std::numeric_limits<int>::min();
+    QTest::addColumn<QPoint>("position");
+    QTest::newRow("far right and down") << QPoint(largest, largest);
+    QTest::newRow("far left and up") << QPoint(smallest, smallest);
+}
+
+void tst_HRWidget::showWithContent_staysOnScreen_whateverThePosition()
+{
+    QFETCH(QPoint, position);
+    Fixture f;
+    f.show();
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    for (const bool isVisible : { true, false }) {
+        f.popup->setVisible(isVisible);
+        f.popup->showWithContent(&f.reference, position, f.popup->view()->content(), QString());
+        QVERIFY(screen.contains(f.popup->frameGeometry()));
+    }
 }
 
 void tst_HRWidget::showWithContent_freesContentShownBefore()
@@ -334,6 +361,14 @@ void tst_HRWidget::showAnimated_fadesIn()
     QCOMPARE(f.popup->size(), f.around(200, 80));
     QTRY_COMPARE(f.popup->windowOpacity(), 1.0);
     QVERIFY(f.popup->isVisible());
+}
+
+void tst_HRWidget::showAnimated_startsAtATenth()
+{
+    Fixture f({ { showAnimationDurationKey, longTime } });
+    f.show();
+    QCOMPARE(f.animation()->startValue().toReal(), 0.1);
+    QCOMPARE(f.animation()->endValue().toReal(), 1.0);
 }
 
 void tst_HRWidget::hideAnimated_hidesAtOnce_withoutDuration()
@@ -673,6 +708,9 @@ void tst_HRWidget::popup_survives_whatOthersDelete()
         { "content", f.popup->view()->content() }, { "view", f.popup->view() },
         { "container", f.popup->layout()->itemAt(0)->widget() } };
 
+    // Who deletes an element alone keeps its root.
+    const std::unique_ptr<QObject> root(
+        deleted == "content" ? f.popup->view()->content()->parent() : nullptr);
     delete objects.value(deleted);
 
     f.popup->checkMousePosition(farAway);

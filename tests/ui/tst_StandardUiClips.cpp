@@ -51,6 +51,8 @@ private Q_SLOTS:
     void video_goesWhereItsLineIsPressed();
     void video_waitsForTheReader_whenMotionIsReduced();
     void video_rests_whenThePopupIsHidden();
+    void video_isTakenDown_whenThePopupStaysHidden();
+    void video_isMade_whenItComesIntoSight();
     void video_keepsItsAspect_whenItIsWide();
     void video_showsTheCaptionOfItsPicture();
     void video_isReachedByKeyboard_whenDetached();
@@ -145,6 +147,48 @@ void tst_StandardUiClips::video_rests_whenThePopupIsHidden()
     QTest::qWait(300);
 
     QCOMPARE(fixture.progress(), restingAt);
+}
+
+void tst_StandardUiClips::video_isTakenDown_whenThePopupStaysHidden()
+{
+    ClipFixture fixture({}, longClip());
+    fixture.show();
+    const QPointer<QQuickItem> first = fixture.clip();
+    QTRY_VERIFY(fixture.time() > 0.1);
+
+    fixture.popup->hide();
+    QTest::qWait(1000);
+    QVERIFY(first); // the reader may be back in a moment
+    QTRY_VERIFY(!first);
+    QCOMPARE(fixture.root()->size(), fixture.sizeAtOnce);
+
+    fixture.popup->show();
+    QTRY_VERIFY(fixture.hasItem("clip"));
+    QTRY_VERIFY(fixture.time() > 0.1);
+    QCOMPARE(fixture.troubles(), QStringList());
+}
+
+void tst_StandardUiClips::video_isMade_whenItComesIntoSight()
+{
+    StandardUiFixture fixture("<hintreel key=\"key\" title=\"Pen\"><text>"
+        + QByteArray("A paragraph among many.\n\n").repeated(100)
+        + "</text><video source=\"clip.mp4\"/></hintreel>");
+    TestClip().write(fixture.packages.path() + "/Test.hintreels/Resources/clip.mp4");
+    fixture.show();
+    const auto blocks = [&] { return fixture.item("blocks")->childItems(); };
+    QTRY_VERIFY(blocks()[1]->height() > 40); // it has its place
+    QTest::qWait(100);
+    QVERIFY(!fixture.hasItem("clip"));
+
+    QQuickItem *page = fixture.item("page");
+    page->setProperty("contentY", page->property("contentHeight").toReal() - page->height());
+    QTRY_VERIFY(fixture.hasItem("clip"));
+    QTRY_VERIFY(fixture.item("clip")->property("shown").toBool());
+
+    const QPointer<QQuickItem> clip = fixture.item("clip");
+    page->setProperty("contentY", 0);
+    QTest::qWait(100);
+    QVERIFY(clip);
 }
 
 void tst_StandardUiClips::video_keepsItsAspect_whenItIsWide()

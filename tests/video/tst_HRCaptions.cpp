@@ -16,6 +16,7 @@ private Q_SLOTS:
     void readCaptions_returnsTextWithItsTimes();
     void readCaptions_returnsPlainText_data();
     void readCaptions_returnsPlainText();
+    void readCaptions_isLinear_inFormatting();
     void readCaptions_returnsNothing_whenFileHasNone_data();
     void readCaptions_returnsNothing_whenFileHasNone();
     void readCaptions_returnsNothing_whenThereIsNoFile();
@@ -51,6 +52,7 @@ void tst_HRCaptions::readCaptions_returnsPlainText_data()
     QTest::newRow("bold and italic") << QByteArray("A <b>bold</b> <i>word</i>") << "A bold word";
     QTest::newRow("voice") << QByteArray("<v Ada>Hello</v>") << "Hello";
     QTest::newRow("entities") << QByteArray("1 &lt; 2 &amp; 3") << "1 < 2 & 3";
+    QTest::newRow("braces") << QByteArray("{a} and b}") << "{a} and b}";
     QTest::newRow("other scripts") << QByteArray("Größe, עט") << QString::fromUtf8("Größe, עט");
 }
 
@@ -66,6 +68,27 @@ void tst_HRCaptions::readCaptions_returnsPlainText()
 
     QCOMPARE(captions.size(), 1);
     QCOMPARE(captions[0].text, expected);
+}
+
+void tst_HRCaptions::readCaptions_isLinear_inFormatting()
+{
+    TestPackages files;
+    const auto timeFor = [&files](int words) {
+        const QString path = files.write("clip.vtt",
+            "WEBVTT\n\n00:00.000 --> 00:01.000\n" + QByteArray("<i>a</i>").repeated(words) + "\n");
+        QElapsedTimer time;
+        time.start();
+        const QString text = readCaptions(path).value(0).text;
+        return text.size() == words ? time.nsecsElapsed() : 0;
+    };
+    timeFor(100); // FFmpeg sets itself up
+
+    const qint64 few = timeFor(4'000);
+    const qint64 many = timeFor(64'000);
+
+    // 16 times as many; what is quadratic takes 256 times as long.
+    QVERIFY(few > 0 && many > 0);
+    QVERIFY2(many < 100 * few, qPrintable(QString("%1 ns, %2 ns").arg(few).arg(many)));
 }
 
 void tst_HRCaptions::readCaptions_returnsNothing_whenFileHasNone_data()

@@ -4,6 +4,7 @@
 #include "video/HRClip_p.h"
 
 #include "support/TestClip.h"
+#include "support/TestFile.h"
 
 #include <QElapsedTimer>
 #include <QTemporaryDir>
@@ -29,8 +30,14 @@ private Q_SLOTS:
     void readPicture_returnsNull_whenAskedToStop();
     void open_namesWhatFailed_data();
     void open_namesWhatFailed();
+    void open_refusesLargePictures_data();
+    void open_refusesLargePictures();
+    void readPicture_ends_whenAPictureIsTooLarge_data();
+    void readPicture_ends_whenAPictureIsTooLarge();
     void open_replacesWhatWasOpen();
     void seek_goesOnFromThere();
+    void restart_keepsWhatTheDecoderHolds();
+    void restart_startsAnew_whenTheDecoderIsDrained();
     void facts_describeTheClip();
     void damagedFiles_neitherCrashNorHang_data();
     void damagedFiles_neitherCrashNorHang();
@@ -69,22 +76,6 @@ std::vector<int> upTo(int count)
     std::vector<int> numbers(static_cast<size_t>(count));
     std::iota(numbers.begin(), numbers.end(), 0);
     return numbers;
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("cannot read %s", qPrintable(path));
-    return file.readAll();
-}
-
-QString writeFile(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("cannot write %s", qPrintable(path));
-    return path;
 }
 
 /// A drawing with edges and colours, so that no two rows and columns are alike.
@@ -216,6 +207,7 @@ void tst_HRClip::readPicture_equalsTheReference_data()
     QTest::newRow("odd height") << QByteArray("ffv1") << QByteArray("yuv420p") << QSize(64, 35);
     QTest::newRow("full range") << QByteArray("mjpeg") << QByteArray("yuvj420p") << QSize(64, 48);
     QTest::newRow("alpha") << QByteArray("ffv1") << QByteArray("yuva420p") << QSize(64, 48);
+    QTest::newRow("RGB with alpha") << QByteArray("ffv1") << QByteArray("bgra") << QSize(50, 33);
     QTest::newRow("RGB") << QByteArray("ffv1") << QByteArray("bgr0") << QSize(50, 33);
 }
 
@@ -317,6 +309,63 @@ void tst_HRClip::open_namesWhatFailed()
     QVERIFY(!clip.isOpen());
 }
 
+void tst_HRClip::open_refusesLargePictures_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("codec");
+    QTest::newRow("size in the header") << "large.mp4" << QByteArray("libx264");
+    QTest::newRow("size in the stream") << "large.h264" << QByteArray("libx264");
+    QTest::newRow("size in packets") << "large.ts" << QByteArray("mpeg2video");
+    QTest::newRow("streams in packets") << "large.flv" << QByteArray("libx264");
+    QTest::newRow("GIF") << "large.gif" << QByteArray("gif");
+    QTest::newRow("still picture") << "large.webp" << QByteArray("libwebp");
+}
+
+void tst_HRClip::open_refusesLargePictures()
+{
+    QFETCH(QString, name);
+    QFETCH(QByteArray, codec);
+    TestClip encoded;
+    encoded.size = QSize(320, 200);
+    encoded.codec = codec;
+    encoded.format = codec == "gif" ? "gray" : "yuv420p";
+    encoded.rate = 25;
+    encoded.options = "";
+    encoded.pictures = codec == "libwebp" ? 1 : 8;
+    const QString file = encoded.write(path(name));
+    HRClip clip(neverStop);
+    QCOMPARE(clip.open(file, 320 * 200), QString());
+    QCOMPARE(numbersOf(readAll(&clip)), upTo(encoded.pictures));
+    QVERIFY(clip.failure().isNull());
+    QCOMPARE(clip.open(file, 320 * 200 - 1), QString("Could not allocate rgb frame in %1"));
+    QVERIFY(!clip.isOpen());
+}
+
+void tst_HRClip::readPicture_ends_whenAPictureIsTooLarge_data()
+{
+    QTest::addColumn<QSize>("larger");
+    QTest::newRow("a little") << QSize(64, 64);
+    QTest::newRow("more than FFmpeg is told to decode") << QSize(2640, 1600);
+}
+
+void tst_HRClip::readPicture_ends_whenAPictureIsTooLarge()
+{
+    QFETCH(QSize, larger);
+    TestClip encoded;
+    const QByteArray small = contentOf(encoded.write(path("small.h264")));
+    encoded.size = larger;
+    const QByteArray large = contentOf(encoded.write(path("large.h264")));
+    HRClip clip(neverStop);
+    QCOMPARE(clip.open(writeFile(path("grows.h264"), small + large + small), 64 * 48), QString());
+    const std::vector<int> numbers = numbersOf(readAll(&clip));
+    // What the decoder still held is lost where it does not take the size.
+    QVERIFY2(numbers.size() >= 4, qPrintable(QString::number(numbers.size())));
+    QCOMPARE(numbers, upTo(int(std::min(numbers.size(), size_t(encoded.pictures)))));
+    QCOMPARE(clip.failure(), QString("Could not allocate rgb frame in %1"));
+    QCOMPARE(clip.open(path("small.h264"), 64 * 48), QString());
+    QVERIFY(clip.failure().isNull());
+}
+
 void tst_HRClip::open_replacesWhatWasOpen()
 {
     TestClip encoded;
@@ -348,6 +397,34 @@ void tst_HRClip::seek_goesOnFromThere()
     clip.seek(qInf(), false);
     clip.seek(qQNaN(), true);
     clip.seek(1e300, true);
+}
+
+void tst_HRClip::restart_keepsWhatTheDecoderHolds()
+{
+    TestClip encoded;
+    encoded.pictures = 20;
+    HRClip clip(neverStop);
+    QCOMPARE(clip.open(encoded.write(path("restart.mp4"))), QString());
+    for (int i = 0; i < 5; ++i)
+        QCOMPARE(TestClip::numberOf(clip.readPicture()), i);
+    clip.restart();
+    std::vector<int> numbers = numbersOf(readAll(&clip));
+    const auto again = std::find(numbers.begin(), numbers.end(), 0);
+    // B pictures: the decoder has read ahead of what it gave out.
+    QVERIFY(again != numbers.begin());
+    QCOMPARE(numbers.front(), 5);
+    QCOMPARE(std::vector<int>(again, numbers.end()), upTo(20));
+}
+
+void tst_HRClip::restart_startsAnew_whenTheDecoderIsDrained()
+{
+    TestClip encoded;
+    encoded.pictures = 20;
+    HRClip clip(neverStop);
+    QCOMPARE(clip.open(encoded.write(path("restart.mp4"))), QString());
+    QCOMPARE(numbersOf(readAll(&clip)), upTo(20));
+    clip.restart();
+    QCOMPARE(numbersOf(readAll(&clip)), upTo(20));
 }
 
 void tst_HRClip::facts_describeTheClip()

@@ -7,6 +7,8 @@
 
 #include <QtTest>
 
+#include <future>
+
 using namespace Hintreels;
 
 class tst_HRClipSize : public QObject
@@ -18,6 +20,9 @@ private Q_SLOTS:
     void clipSize_isThatOfItsPictures();
     void clipSize_isEmpty_whenItIsNoClip_data();
     void clipSize_isEmpty_whenItIsNoClip();
+    void clipSize_isEmpty_whenAskedToStop_data();
+    void clipSize_isEmpty_whenAskedToStop();
+    void clipSize_isTheSame_onManyThreads();
 };
 
 void tst_HRClipSize::clipSize_isThatOfItsPictures_data()
@@ -57,6 +62,37 @@ void tst_HRClipSize::clipSize_isEmpty_whenItIsNoClip()
     QVERIFY(clipSize(files.write("clip.mp4", content)).isEmpty());
     QVERIFY(clipSize(files.path()).isEmpty());
     QVERIFY(clipSize("Resources").isEmpty());
+}
+
+void tst_HRClipSize::clipSize_isEmpty_whenAskedToStop_data()
+{
+    QTest::addColumn<QString>("name");
+
+    QTest::newRow("with a header") << "clip.mp4";
+    QTest::newRow("without a header") << "clip.ts";
+}
+
+void tst_HRClipSize::clipSize_isEmpty_whenAskedToStop()
+{
+    QFETCH(QString, name);
+    TestPackages files;
+    const QString path = TestClip().write(files.path() + "/" + name);
+
+    QVERIFY(clipSize(path, [] { return true; }).isEmpty());
+    QCOMPARE(clipSize(path, [] { return false; }), TestClip().size);
+}
+
+void tst_HRClipSize::clipSize_isTheSame_onManyThreads()
+{
+    TestPackages files;
+    TestClip clip;
+    clip.size = QSize(90, 50);
+    const QString path = clip.write(files.path() + "/clip.ts");
+    std::vector<std::future<QSize>> sizes;
+    for (int i = 0; i < 16; ++i)
+        sizes.push_back(std::async(std::launch::async, [path] { return clipSize(path); }));
+    for (std::future<QSize> &size : sizes)
+        QCOMPARE(size.get(), QSize(90, 50));
 }
 
 QTEST_APPLESS_MAIN(tst_HRClipSize)

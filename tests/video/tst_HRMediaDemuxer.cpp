@@ -170,7 +170,7 @@ void tst_HRMediaDemuxer::open_takesTheNameAsAPath()
     for (const QString &path : { name, m_directory.filePath(name) }) {
         HRMediaDemuxer demuxer(neverStop);
         QVERIFY(demuxer.open(path));
-        QVERIFY(demuxer.findStreams());
+        QVERIFY(demuxer.findStreams(64'000'000));
         QVERIFY(demuxer.chooseVideoStream());
     }
     QVERIFY(QDir::setCurrent(QDir::rootPath()));
@@ -179,7 +179,8 @@ void tst_HRMediaDemuxer::open_takesTheNameAsAPath()
 void tst_HRMediaDemuxer::open_endsEarly_whenAskedToStop()
 {
     HRMediaDemuxer demuxer([] { return true; });
-    QVERIFY(!demuxer.open(m_clip) || !demuxer.findStreams() || packetCount(&demuxer) == 0);
+    QVERIFY(
+        !demuxer.open(m_clip) || !demuxer.findStreams(64'000'000) || packetCount(&demuxer) == 0);
 }
 
 void tst_HRMediaDemuxer::readPacket_givesUp_whereNoPictureEnds()
@@ -197,7 +198,7 @@ void tst_HRMediaDemuxer::readPacket_givesUp_whereNoPictureEnds()
 
     HRMediaDemuxer demuxer(neverStop);
     QVERIFY(demuxer.open(file.fileName()));
-    QVERIFY(demuxer.findStreams());
+    QVERIFY(demuxer.findStreams(64'000'000));
     QVERIFY(demuxer.chooseVideoStream());
     QCOMPARE(packetCount(&demuxer), clip.pictures);
 }
@@ -213,7 +214,7 @@ void tst_HRMediaDemuxer::readPacket_goesOn_afterMuchWasRead()
     QVERIFY(QFileInfo(path).size() > 70'000'000);
     HRMediaDemuxer demuxer(neverStop);
     QVERIFY(demuxer.open(path));
-    QVERIFY(demuxer.findStreams());
+    QVERIFY(demuxer.findStreams(64'000'000));
     QVERIFY(demuxer.chooseVideoStream());
     QCOMPARE(packetCount(&demuxer), raw.pictures);
 }
@@ -222,7 +223,7 @@ void tst_HRMediaDemuxer::chooseVideoStream_refusesSoundAlone()
 {
     HRMediaDemuxer demuxer(neverStop);
     QVERIFY(demuxer.open(write("sound.wav", sound())));
-    QVERIFY(demuxer.findStreams());
+    QVERIFY(demuxer.findStreams(64'000'000));
     QVERIFY(!demuxer.chooseVideoStream());
 }
 
@@ -230,7 +231,7 @@ void tst_HRMediaDemuxer::readPacket_deliversTheChosenStreamToItsEnd()
 {
     HRMediaDemuxer demuxer(neverStop);
     QVERIFY(demuxer.open(m_clip));
-    QVERIFY(demuxer.findStreams());
+    QVERIFY(demuxer.findStreams(64'000'000));
     QVERIFY(demuxer.chooseVideoStream());
     QCOMPARE(packetCount(&demuxer), TestClip().pictures);
 }
@@ -239,7 +240,7 @@ void tst_HRMediaDemuxer::seek_startsAnew()
 {
     HRMediaDemuxer demuxer(neverStop);
     QVERIFY(demuxer.open(m_clip));
-    QVERIFY(demuxer.findStreams());
+    QVERIFY(demuxer.findStreams(64'000'000));
     QVERIFY(demuxer.chooseVideoStream());
     packetCount(&demuxer);
     demuxer.seek(0, AVSEEK_FLAG_BACKWARD);
@@ -263,7 +264,7 @@ void tst_HRMediaDemuxer::facts_comeFromTheStreamOrTheFile()
     clip.pictures = 10;
     HRMediaDemuxer demuxer(neverStop);
     QVERIFY(demuxer.open(clip.write(m_directory.filePath(name))));
-    QVERIFY(demuxer.findStreams());
+    QVERIFY(demuxer.findStreams(64'000'000));
     QVERIFY(demuxer.chooseVideoStream());
     QTEST(demuxer.duration(), "duration");
     QCOMPARE(demuxer.frameRate(), 20.0);

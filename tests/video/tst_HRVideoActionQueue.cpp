@@ -3,6 +3,7 @@
 
 #include "video/HRVideoActionQueue_p.h"
 
+#include <QElapsedTimer>
 #include <QtTest>
 
 #include <thread>
@@ -19,6 +20,7 @@ private Q_SLOTS:
     void takeFirst_returnsTheOldest();
     void clear_dropsAll();
     void append_endsTheWait();
+    void wait_returnsAtOnce_whileChangesArePending();
     void append_losesNothing_fromManyThreads();
 };
 
@@ -63,6 +65,19 @@ void tst_HRVideoActionQueue::append_endsTheWait()
     queue.wait(std::chrono::hours(1));
     other.join();
     QVERIFY(queue.takeFirst());
+}
+
+void tst_HRVideoActionQueue::wait_returnsAtOnce_whileChangesArePending()
+{
+    HRVideoActionQueue queue;
+    for (int i = 0; i < 3; ++i)
+        queue.append(change(HRVideoSource::closeAction));
+    QElapsedTimer timer;
+    timer.start();
+    do
+        queue.wait(std::chrono::seconds(1));
+    while (queue.takeFirst());
+    QVERIFY2(timer.elapsed() < 900, qPrintable(QString::number(timer.elapsed())));
 }
 
 void tst_HRVideoActionQueue::append_losesNothing_fromManyThreads()

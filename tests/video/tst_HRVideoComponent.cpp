@@ -4,6 +4,7 @@
 #include "video/HRVideoComponent.h"
 
 #include "support/MessageGuard.h"
+#include "support/RecordingHost.h"
 #include "support/SignalCounter.h"
 #include "support/TestClip.h"
 #include "ui/HRQmlTypes_p.h"
@@ -12,12 +13,15 @@
 #include <QElapsedTimer>
 #include <QPainter>
 #include <QQmlComponent>
+#include <QQmlContext>
 #include <QQmlEngine>
+#include <QQmlExpression>
 #include <QQuickItem>
 #include <QTemporaryDir>
 #include <QtTest>
 
 #include <random>
+#include <type_traits>
 
 using namespace Hintreels;
 
@@ -33,10 +37,13 @@ private Q_SLOTS:
     void source_clearsThePictureOnly_whenNothingIsFound();
     void source_isEmpty_pausesAndClears();
     void source_emitsNothing();
+    void source_isRefused_aboveTheSettingForPictures_data();
+    void source_isRefused_aboveTheSettingForPictures();
     void clipBefore_neverFlashes();
     void play_showsAllAndPauses();
     void play_restartsAtTheEnd();
     void state_mapsToTheController();
+    void state_holdsAnyNumber_thatQmlSets();
     void resetState_leavesPlaybackAlone_whileScrubbing();
     void rewindToStart_pausesAndAnnounces();
     void progress_scrubs();
@@ -61,8 +68,8 @@ namespace {
 /// A view whose content has one resource: the file that every source then is.
 struct Stage
 {
-    explicit Stage(const QString &file = QString())
-        : view(nullptr, nullptr)
+    explicit Stage(const QString &file = QString(), HRManager *manager = nullptr)
+        : view(manager, nullptr)
     {
         auto *content = new HRXmlElement;
         content->setAttribute("resources", file);
@@ -197,6 +204,35 @@ void tst_HRVideoComponent::source_emitsNothing()
     QCOMPARE(spy.count(), 0);
 }
 
+void tst_HRVideoComponent::source_isRefused_aboveTheSettingForPictures_data()
+{
+    QTest::addColumn<QVariant>("megapixels");
+    QTest::addColumn<bool>("shown");
+    QTest::newRow("absent") << QVariant() << true;
+    QTest::newRow("smaller") << QVariant(1) << false;
+    QTest::newRow("larger") << QVariant(2) << true;
+    QTest::newRow("of another type") << QVariant("1") << true;
+}
+
+void tst_HRVideoComponent::source_isRefused_aboveTheSettingForPictures()
+{
+    QFETCH(QVariant, megapixels);
+    QFETCH(bool, shown);
+    const QString file = clip("megapixels.mp4", 0, 2, QSize(1600, 1000));
+    HRContext context;
+    if (megapixels.isValid())
+        context.set(largestPictureKey, megapixels);
+    RecordingHost host(context, {});
+    MessageGuard messages;
+    Stage stage(file, host.manager());
+    stage.setFile(file);
+    QStringList seen;
+    QTRY_VERIFY(stage.number() == 0 || !(seen += messages.takeMessages()).isEmpty());
+    QCOMPARE(stage.number() == 0, shown);
+    const QStringList refusal{ "Could not allocate rgb frame in " + file };
+    QCOMPARE(seen, shown ? QStringList() : refusal);
+}
+
 void tst_HRVideoComponent::clipBefore_neverFlashes()
 {
     Stage stage;
@@ -262,6 +298,20 @@ void tst_HRVideoComponent::state_mapsToTheController()
     stage.item->setState(HRVideoComponent::playingState);
     stage.item->setState(HRVideoComponent::resetState);
     QCOMPARE(stage.item->state(), HRVideoComponent::pausedState);
+}
+
+void tst_HRVideoComponent::state_holdsAnyNumber_thatQmlSets()
+{
+    QVERIFY((std::is_same_v<std::underlying_type_t<HRVideoComponent::VideoState>, int>));
+    HRVideoComponent item;
+    QQmlEngine engine;
+    engine.rootContext()->setContextProperty("clip", &item);
+    for (const QString number : { "99", "-1", "2147483647" }) {
+        QQmlExpression expression(engine.rootContext(), nullptr, "clip.state = " + number);
+        expression.evaluate();
+        QVERIFY2(!expression.hasError(), qPrintable(expression.error().toString()));
+        QCOMPARE(item.state(), HRVideoComponent::pausedState);
+    }
 }
 
 void tst_HRVideoComponent::resetState_leavesPlaybackAlone_whileScrubbing()

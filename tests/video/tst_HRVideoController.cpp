@@ -10,9 +10,12 @@
 #include <QElapsedTimer>
 #include <QtTest>
 
+#include <functional>
 #include <limits>
 
 using namespace Hintreels;
+
+Q_DECLARE_METATYPE(std::function<void(Hintreels::HRVideoController *)>)
 
 class tst_HRVideoController : public QObject
 {
@@ -40,6 +43,9 @@ private Q_SLOTS:
     void thread_showsThePictureAtTheNewPosition_whilePaused();
     void thread_playsEveryPictureAndPauses();
     void thread_playsAtTheClipsRate();
+    void thread_neverRunsAhead_whateverIsAsked_data();
+    void thread_neverRunsAhead_whateverIsAsked();
+    void thread_waitsForTheWholeBacklog_afterAPause();
     void thread_pauses_whenItCatchesUpWithTheDecoder();
     void thread_stops_inAnInstant_data();
     void thread_stops_inAnInstant();
@@ -76,6 +82,41 @@ struct Playback
     SignalCounter display;
     SignalCounter state;
     SignalCounter position;
+};
+
+/// The moments, in milliseconds, at which a controller moved on while playing.
+class Advances : public QObject
+{
+public:
+    explicit Advances(HRVideoController *controller)
+    {
+        m_timer.start();
+        // In the controller's thread; play() and its like announce from the test's.
+        connect(
+            controller, &HRVideoController::positionChanged, this,
+            [this, controller] {
+                if (QThread::currentThread() == controller)
+                    m_moments.push_back(double(m_timer.nsecsElapsed()) / 1e6);
+            },
+            Qt::DirectConnection);
+    }
+
+    // When the controller has quit.
+    size_t count() const { return m_moments.size(); }
+    double gap(size_t index) const { return m_moments.at(index) - m_moments.at(index - 1); }
+
+    /// By how much any came before its turn, with @p period between two; below 0 where none did.
+    double aheadOf(double period) const
+    {
+        double ahead = -period;
+        for (size_t i = 1; i < count(); ++i)
+            ahead = std::max(ahead, double(i) * period - (m_moments[i] - m_moments[0]));
+        return ahead;
+    }
+
+private:
+    QElapsedTimer m_timer;
+    std::vector<double> m_moments;
 };
 
 constexpr size_t wrapped = std::numeric_limits<size_t>::max();
@@ -329,6 +370,64 @@ void tst_HRVideoController::thread_playsAtTheClipsRate()
     playback.controller->start();
     QTRY_COMPARE(playback.controller->state(), HRVideoController::controllerPaused);
     QVERIFY2(timer.elapsed() >= 11 * 20 - 2, qPrintable(QString("%1 ms").arg(timer.elapsed())));
+}
+
+void tst_HRVideoController::thread_neverRunsAhead_whateverIsAsked_data()
+{
+    using Ask = std::function<void(HRVideoController *)>;
+    QTest::addColumn<Ask>("ask");
+    QTest::newRow("a picture") << Ask([](HRVideoController *it) { it->setNeedFrame(true); });
+    QTest::newRow("loaded") << Ask([](HRVideoController *it) { it->sourceLoaded(); });
+    QTest::newRow("ended, scrubbing") << Ask([](HRVideoController *it) { it->streamEnded(); });
+    QTest::newRow("play") << Ask([](HRVideoController *it) { it->play(); });
+    QTest::newRow("pause and play") << Ask([](HRVideoController *it) {
+        if (it->state() == HRVideoController::controllerPlaying)
+            it->pause();
+        else
+            it->play();
+    });
+}
+
+void tst_HRVideoController::thread_neverRunsAhead_whateverIsAsked()
+{
+    QFETCH(std::function<void(HRVideoController *)>, ask);
+    Playback playback(30);
+    const Advances advances(playback.controller);
+    playback.controller->setScrubbing(true);
+    playback.controller->play();
+    playback.controller->start();
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < 400) {
+        ask(playback.controller);
+        QTest::qWait(5);
+    }
+    playback.controller->quit();
+    QVERIFY(advances.count() >= 4);
+    QVERIFY2(advances.aheadOf(20) < 1.0, qPrintable(QString::number(advances.aheadOf(20))));
+}
+
+void tst_HRVideoController::thread_waitsForTheWholeBacklog_afterAPause()
+{
+    Playback playback(30);
+    playback.source.rate = 10.0;
+    const Advances advances(playback.controller);
+    playback.controller->play();
+    playback.controller->start();
+    QTRY_COMPARE(playback.controller->position(), size_t(2)); // of which none was fetched
+    QElapsedTimer timer;
+    timer.start();
+    playback.controller->pause();
+    QTRY_VERIFY(timer.elapsed() > 120); // the next picture would have been due
+    playback.display.clear();
+    playback.controller->setNeedFrame(true);
+    QTRY_VERIFY(playback.display.count() > 0); // it rests
+    // The last picture is said to be still to come, so no time has passed since.
+    playback.controller->setLastFrameDisplayTime(QDateTime::currentDateTime().addDays(1));
+    playback.controller->play();
+    QTRY_COMPARE(playback.controller->position(), size_t(4));
+    playback.controller->quit();
+    QVERIFY2(advances.gap(3) >= 199.0, qPrintable(QString::number(advances.gap(3))));
 }
 
 void tst_HRVideoController::thread_pauses_whenItCatchesUpWithTheDecoder()

@@ -38,6 +38,7 @@ private Q_SLOTS:
     void quit_isSilent_whenNeverStarted();
     void quit_wakesARestingThread();
     void requests_wakeARestingThread();
+    void thread_doesNotRest_whileChangesArePending();
     void requests_surviveHammering();
     void signals_keepTheirOrder();
 };
@@ -46,6 +47,31 @@ namespace {
 
 const QUrl urlA("file:///a.mp4");
 const QUrl urlB("file:///b.mp4");
+
+/// Counts what its thread does until the twentieth source is taken.
+class RestCounter : public FakeSource
+{
+public:
+    ~RestCounter() override { quit(); }
+
+    std::atomic<int> passes{ 0 };
+    std::atomic<int> restsWithChanges{ 0 };
+
+protected:
+    void run() override
+    {
+        while (!shouldQuit()) {
+            const bool isLast = source() == QUrl("file:///19");
+            passes += isLast ? 0 : 1;
+            processActionQueue();
+            QElapsedTimer timer;
+            timer.start();
+            rest();
+            const bool rested = timer.elapsed() >= 50; // of 100 ms
+            restsWithChanges += rested && source() != QUrl("file:///19") ? 1 : 0;
+        }
+    }
+};
 
 } // namespace
 
@@ -260,6 +286,19 @@ void tst_HRVideoSource::requests_wakeARestingThread()
     }
     // A thread that looks every 100 ms takes 50 for each on the average.
     QVERIFY2(total < 20 * 20, qPrintable(QString("%1 ms").arg(total)));
+}
+
+void tst_HRVideoSource::thread_doesNotRest_whileChangesArePending()
+{
+    RestCounter source;
+    for (int i = 0; i < 20; ++i)
+        source.setSource(QUrl(QString("file:///%1").arg(i)));
+    source.start();
+    QTRY_COMPARE(source.source(), QUrl("file:///19"));
+    QCOMPARE(source.restsWithChanges.load(), 0);
+    // One change a pass.
+    QCOMPARE(source.passes.load(), 20);
+    source.quit();
 }
 
 void tst_HRVideoSource::requests_surviveHammering()

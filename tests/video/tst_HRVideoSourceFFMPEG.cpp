@@ -6,6 +6,7 @@
 #include "support/MessageGuard.h"
 #include "support/SignalCounter.h"
 #include "support/TestClip.h"
+#include "support/TestFile.h"
 
 #include <QDateTime>
 #include <QElapsedTimer>
@@ -30,6 +31,9 @@ private Q_SLOTS:
     void thread_tellsEachAction();
     void failure_leavesOneMessageAndIdles_data();
     void failure_leavesOneMessageAndIdles();
+    void clipWithoutPictures_isTold_afterItsEnd();
+    void clipThatGrowsTooLarge_isTold_afterItsEnd();
+    void clipWithoutPictures_isNotTold_whenAskedToStop();
     void emptySource_closesInSilence();
     void closeAction_closesTheClip();
     void quitAction_endsTheThread();
@@ -66,6 +70,14 @@ struct Decoding
     SignalCounter loaded;
     SignalCounter ended;
 };
+
+/// A GIF of one pixel, compressed by codes of an impossible length.
+QString unreadableClip(const QString &path)
+{
+    return writeFile(path,
+        QByteArray::fromHex("47494638396101000100800000000000ffffff"
+                            "2c0000000001000100000f024401003b"));
+}
 
 /// A source that the test drives itself, without the thread.
 class DrivenSource : public HRVideoSourceFFMPEG
@@ -227,6 +239,56 @@ void tst_HRVideoSourceFFMPEG::failure_leavesOneMessageAndIdles()
     // The next good clip plays.
     QVERIFY(decoding.source.setSource(m_clip));
     QTRY_COMPARE(decoding.ended.count(), 1);
+}
+
+void tst_HRVideoSourceFFMPEG::clipWithoutPictures_isTold_afterItsEnd()
+{
+    const QString file = unreadableClip(path("unreadable.gif"));
+    MessageGuard messages;
+    Decoding decoding;
+    QStringList seenAtTheEnd{ "nothing" };
+    connect(
+        &decoding.source, &HRVideoSource::streamEnded, this,
+        [&] { seenAtTheEnd = messages.takeMessages(); }, Qt::DirectConnection);
+    QVERIFY(decoding.source.setSource(QUrl::fromLocalFile(file)));
+    QTRY_COMPARE(decoding.ended.count(), 1);
+    QStringList seen;
+    QTRY_VERIFY(!(seen += messages.takeMessages()).isEmpty());
+    QCOMPARE(seen, QStringList{ "Could not decode any picture in media at: " + file });
+    QCOMPARE(seenAtTheEnd, QStringList());
+    QCOMPARE(decoding.loaded.count(), 1);
+    QCOMPARE(decoding.source.totalFrameCount(), size_t(0));
+}
+
+void tst_HRVideoSourceFFMPEG::clipThatGrowsTooLarge_isTold_afterItsEnd()
+{
+    TestClip encoded;
+    QByteArray content = contentOf(encoded.write(path("small.h264")));
+    encoded.size = QSize(1600, 1000);
+    content += contentOf(encoded.write(path("large.h264")));
+    const QString file = writeFile(path("grows.h264"), content);
+    MessageGuard messages;
+    Decoding decoding;
+    decoding.source.setLargestPicture(1);
+    QVERIFY(decoding.source.setSource(QUrl::fromLocalFile(file)));
+    QTRY_COMPARE(decoding.ended.count(), 1);
+    QStringList seen;
+    QTRY_VERIFY(!(seen += messages.takeMessages()).isEmpty());
+    QCOMPARE(seen, QStringList{ "Could not allocate rgb frame in " + file });
+    QVERIFY(decoding.source.totalFrameCount() > 0);
+}
+
+void tst_HRVideoSourceFFMPEG::clipWithoutPictures_isNotTold_whenAskedToStop()
+{
+    const QString file = unreadableClip(path("unreadable.gif"));
+    MessageGuard messages;
+    Decoding decoding;
+    connect(
+        &decoding.source, &HRVideoSource::sourceLoaded, this,
+        [&] { decoding.source.setShouldQuit(); }, Qt::DirectConnection);
+    QVERIFY(decoding.source.setSource(QUrl::fromLocalFile(file)));
+    QVERIFY(decoding.source.wait(5000));
+    QCOMPARE(decoding.ended.count(), 0);
 }
 
 void tst_HRVideoSourceFFMPEG::emptySource_closesInSilence()

@@ -5,6 +5,7 @@
 #include "ui/StandardUiFixture.h"
 #include "x11/RealInput.h"
 
+#include <QPointer>
 #include <QPushButton>
 
 #include <algorithm>
@@ -85,9 +86,12 @@ struct ClipHost : StandardUiFixture
         return RealInput::screenshot().copy(area);
     }
 
-    /// Number of the picture that the screen shows, seen beside button and line.
+    /// Number of the picture that the screen shows, seen beside button and line; -1 before the clip
+    /// is made, which happens when it comes into sight.
     int picture() const
     {
+        if (!hasItem("clip"))
+            return -1;
         const QRect area(pointOf("clip", 0.25, 0.25), QSize(8, 8));
         return TestClip::numberOf(RealInput::screenshot().copy(area));
     }
@@ -227,8 +231,9 @@ void tst_x11_clip::clip_rests_whileItsPopupIsHidden()
 
     RealInput::movePointer(farAway);
     QTRY_VERIFY_WITH_TIMEOUT(!host.popup->isVisible(), longTime);
-    const QQuickItem *clip = host.item("clip");
-    const auto progress = [clip] { return clip->property("progress").toDouble(); };
+    // A clip goes two seconds after its popup.
+    const QPointer<const QQuickItem> clip = host.item("clip");
+    const auto progress = [clip] { return clip ? clip->property("progress").toDouble() : 0.0; };
     // A picture that was due before the popup went may still be on its way.
     const auto rests = [&progress] {
         const double seen = progress();

@@ -2,10 +2,22 @@
 // SPDX-License-Identifier: MIT
 
 // The blocks of the content in their order. A block that shows nothing takes no room.
+//
+// As many as the popup can show are there at once; the others follow bit by bit, below what the
+// reader sees, so that not even the longest hint holds up the host.
 import QtQuick 2.15
+import QtQuick.Window 2.15
 
 Column {
     id: list
+
+    // What the reader sees of the list: from here, so far.
+    property real sightTop: 0
+    property real sightHeight: 0
+    property int made: 0
+    readonly property bool onScreen: Window.window !== null && Window.window.visible
+    // Until a while after the popup has hidden: readers come back to where they just were.
+    property bool awake: false
 
     readonly property var componentOfBlock: ({
         "text": "TextBlock.qml",
@@ -16,19 +28,78 @@ Column {
         "video": "VideoBlock.qml"
     })
 
+    function makeNext() {
+        const slot = slots.itemAt(made++)
+        slot.make()
+        return slot.height + spacing
+    }
+
+    function makeFirst(height) {
+        made = 0
+        while (made < slots.count && height > 0)
+            height -= makeNext()
+        forceLayout()
+    }
+
     spacing: 3 * look.step
+    onOnScreenChanged: awake = awake || onScreen
 
     Repeater {
+        id: slots
         model: hint.blocks
 
         Loader {
+            id: slot
+
             readonly property var block: modelData
+            readonly property bool inSight:
+                height > 0 && y < list.sightTop + list.sightHeight && y + height > list.sightTop
+            property bool seen: false
+
+            // With its width from the start, a block has its height before the first frame.
+            function make() {
+                if (status === Loader.Null)
+                    setSource(list.componentOfBlock[block.block], {
+                        "block": block, "width": list.width
+                    })
+            }
+
+            // Where the blocks above have only now got their heights, this one is still too high up.
+            function see() {
+                list.forceLayout()
+                seen = seen || inSight
+            }
 
             width: list.width
-            // With its width from the start, a block has its height before the first frame.
-            onBlockChanged: setSource(list.componentOfBlock[block.block], {
-                "block": block, "width": list.width
-            })
+            onInSightChanged: Qt.callLater(see)
         }
+    }
+
+    Timer {
+        interval: 1
+        repeat: true
+        running: list.made < slots.count
+        onTriggered: {
+            const end = Date.now() + 8 // ms, half of what a picture is on the screen
+            do {
+                list.makeNext()
+            } while (list.made < slots.count && Date.now() < end)
+        }
+    }
+
+    Timer {
+        interval: 2000
+        running: list.awake && !list.onScreen
+        onTriggered: {
+            list.awake = false
+            leftover.restart()
+        }
+    }
+
+    // Clips go a moment after their loaders have let go of them.
+    Timer {
+        id: leftover
+        interval: 200
+        onTriggered: hintreelReader.returnMemory()
     }
 }

@@ -35,7 +35,7 @@ Rectangle {
         id: label
         anchors.centerIn: parent
         width: Math.min(implicitWidth, caption.parent.width - 8 * look.step)
-        text: words.content(caption.text)
+        text: hintreelReader.caption(words.content(caption.text))
         color: "#ffffff"
         font.pixelSize: look.smallSize
         textFormat: Text.PlainText

@@ -23,7 +23,7 @@ QtObject {
             return
         if (hintreelView.stayOpen)
             hintreelView.stayOpen = false
-        values = hintreelReader.read(element)
+        values = hintreelReader.read(element, words.content)
         // An equal list would leave all blocks as they are: a clip at its end, texts in the
         // language of before.
         blocks = []

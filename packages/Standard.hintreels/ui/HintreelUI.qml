@@ -16,7 +16,7 @@ Rectangle {
     // The popup takes its size at once; columns on their own lay themselves out a frame later.
     function layOut() {
         title.forceLayout()
-        blocks.forceLayout()
+        blocks.makeFirst(tallest)
         column.forceLayout()
     }
 
@@ -57,6 +57,8 @@ Rectangle {
                 id: blocks
                 objectName: "blocks"
                 width: parent.width
+                sightTop: page.contentY - column.y - y
+                sightHeight: page.height
             }
 
             LinkRow {
@@ -64,7 +66,7 @@ Rectangle {
                 anchors.left: parent.left
                 availableWidth: parent.width
                 visible: hint.documentation
-                text: words.documentation
+                text: words.documentation + hintreelReader.shownTarget(hint.documentation, "")
                 onTriggered: hintreelView.openExternalResource(hint.documentation)
             }
         }

@@ -17,7 +17,7 @@ Item {
         anchors.left: parent.left
         y: row.beside ? Math.max(0, Math.round((caps.height - contentHeight / lineCount) / 2)) : 0
         width: row.beside ? parent.width - caps.width - 4 * look.step : parent.width
-        text: words.content(row.block.text)
+        text: row.block.text
         color: look.text
         font.pixelSize: look.bodySize
         horizontalAlignment: Text.AlignLeft
@@ -30,7 +30,7 @@ Item {
         anchors.right: row.beside ? parent.right : undefined
         anchors.left: row.beside ? undefined : parent.left
         y: row.beside || !text.text ? 0 : text.height + look.step
-        shortcut: words.content(row.block.press)
+        shortcut: row.block.press
         availableWidth: row.width
     }
 }

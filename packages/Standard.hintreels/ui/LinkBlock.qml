@@ -12,7 +12,7 @@ Item {
         id: row
         anchors.left: parent.left
         availableWidth: parent.width
-        text: words.content(block.text || block.to)
+        text: block.text + hintreelReader.shownTarget(block.to, block.text)
         onTriggered: hintreelView.openExternalResource(block.to)
     }
 }

@@ -35,6 +35,7 @@ QtObject {
     readonly property int padding: 4 * step
     readonly property int radius: scaled(6)
     readonly property int width: scaled(hostFontSize * 28)
+    readonly property int highestPicture: 2 * width
 
     readonly property real hostFontSize: Math.max(12, probe.fontInfo.pixelSize)
     readonly property Text probe: Text {}
@@ -42,6 +43,12 @@ QtObject {
 
     function scaled(size) {
         return hintreelView.getScaledSize(Math.round(size))
+    }
+
+    // How wide a picture or clip is shown: as it wants, but in the width that there is.
+    function widthOf(size, wanted, room) {
+        const width = scaled(Number(wanted) > 0 ? wanted : size.width || 0)
+        return Math.min(width, room, size.height ? highestPicture * size.width / size.height : 0)
     }
 
     // Opaque on purpose: a contrast can only be told of a colour that hides what is beneath.

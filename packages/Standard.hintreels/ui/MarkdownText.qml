@@ -10,13 +10,15 @@ TextEdit {
     property string markdown
     property color background: look.background
     readonly property color linkColor: hintreelReader.readable(look.palette.highlight, background)
-    property var links: []
+    property int mostLinks: 100
+    property var shown: ({ "links": [], "pictures": [] })
     property string linkUnderPointer
 
     function refill() {
-        links = hintreelReader.showMarkdown(textDocument, markdown, {
-            "link": linkColor, "codeBackground": look.code, "spacing": 2 * look.step
-        })
+        shown = hintreelReader.showMarkdown(textDocument, markdown, {
+            "link": linkColor, "codeBackground": look.code, "spacing": 2 * look.step,
+            "room": Qt.size(width, look.highestPicture), "links": mostLinks
+        }, hintreelView.findResource)
     }
 
     color: hintreelReader.readable(look.text, background)
@@ -42,6 +44,13 @@ TextEdit {
             : edit.selectByMouse ? Qt.IBeamCursor : Qt.ArrowCursor
     }
 
+    // Pictures that were not measured yet have no place in the text.
+    Connections {
+        target: hintreelReader
+        enabled: edit.markdown.includes("![")
+        function onMeasuredChanged() { Qt.callLater(edit.refill) }
+    }
+
     // Once, when all colours of a new palette are there.
     Connections {
         target: look
@@ -50,26 +59,20 @@ TextEdit {
     }
 
     Repeater {
-        model: edit.links
+        model: edit.shown.pictures
 
-        Item {
-            readonly property rect first: edit.positionToRectangle(modelData.start, edit.width)
-            readonly property rect last: edit.positionToRectangle(modelData.end, edit.width)
-            readonly property bool oneLine: first.y === last.y
+        TextPicture {
+            text: edit
+            place: modelData
+        }
+    }
 
-            x: oneLine ? Math.min(first.x, last.x) : 0
-            y: first.y
-            width: oneLine ? Math.abs(last.x - first.x) : edit.width
-            height: last.y + last.height - first.y
-            activeFocusOnTab: hintreelView.reserved
-            Accessible.role: Accessible.Link
-            Accessible.name: modelData.text
-            Accessible.focusable: hintreelView.reserved
-            Accessible.onPressAction: hintreelView.openExternalResource(modelData.href)
-            Keys.onReturnPressed: hintreelView.openExternalResource(modelData.href)
-            Keys.onEnterPressed: hintreelView.openExternalResource(modelData.href)
+    Repeater {
+        model: edit.shown.links
 
-            FocusRing {}
+        TextLink {
+            text: edit
+            place: modelData
         }
     }
 }

@@ -46,6 +46,7 @@ Rectangle {
         y: title.y + title.height + look.step / 2
         width: note.width - 8 * look.step
         background: note.color
-        markdown: words.content(note.block.text)
+        markdown: note.block.text
+        mostLinks: note.block.links === undefined ? 100 : note.block.links
     }
 }

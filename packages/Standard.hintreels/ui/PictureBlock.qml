@@ -3,14 +3,14 @@
 
 // A picture with a caption, both away where the picture cannot be shown.
 import QtQuick 2.15
+import QtQuick.Window 2.15
 
 Column {
     id: figure
 
     property var block
-    readonly property var file: hintreelReader.picture(hintreelView.findResource(block.source))
-    readonly property real wantedWidth:
-        look.scaled(Number(block.width) > 0 ? block.width : file.width || 0)
+    readonly property string path: hintreelView.findResource(block.source)
+    readonly property var file: hintreelReader.measured, hintreelReader.picture(path)
     readonly property bool shown: file.url !== undefined && picture.status !== Image.Error
 
     visible: shown
@@ -20,24 +20,19 @@ Column {
     Image {
         id: picture
         anchors.horizontalCenter: parent.horizontalCenter
-        width: Math.min(figure.wantedWidth, figure.width)
+        width: look.widthOf(figure.file, figure.block.width, figure.width)
         height: figure.file.url ? Math.ceil(width * figure.file.height / figure.file.width) : 0
-        source: figure.file.url || ""
-        sourceSize.width: width
+        source: slot.seen && figure.file.url || ""
+        sourceSize.width: Math.ceil(width * Screen.devicePixelRatio)
+        asynchronous: true
         Accessible.role: Accessible.Graphic
-        Accessible.name: words.content(figure.block.alt)
+        Accessible.name: figure.block.alt || ""
 
         RoundedCorners {}
     }
 
-    Text {
+    Caption {
         width: figure.width
-        visible: text
-        text: words.content(figure.block.text)
-        color: look.secondaryText
-        font.pixelSize: look.smallSize
-        textFormat: Text.PlainText
-        wrapMode: Text.Wrap
-        horizontalAlignment: Text.AlignHCenter
+        text: figure.block.text
     }
 }

@@ -4,5 +4,6 @@
 MarkdownText {
     property var block
 
-    markdown: words.content(block.text)
+    markdown: block.text
+    mostLinks: block.links === undefined ? 100 : block.links
 }

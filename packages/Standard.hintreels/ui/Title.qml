@@ -9,7 +9,7 @@ Column {
 
     // Space that stays free at the end of the first line.
     property real reserve: 0
-    readonly property string titleText: words.content(hint.values.title)
+    readonly property string titleText: hint.values.title || ""
     readonly property string shortcut: hint.values.shortcut || ""
     readonly property real lineWidth: width - reserve
     readonly property real lineHeight: title.contentHeight / title.lineCount
@@ -61,7 +61,7 @@ Column {
         objectName: "summary"
         width: heading.width
         visible: text
-        text: words.content(hint.values.summary)
+        text: hint.values.summary || ""
         color: look.secondaryText
         font.pixelSize: look.bodySize
         horizontalAlignment: Text.AlignLeft

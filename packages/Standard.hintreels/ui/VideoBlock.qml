@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
-// A clip with its controls, captions and a text below; away where it cannot be opened.
+// A clip with a text below; away where it cannot be opened.
+//
+// Only its header is read until it comes into sight, and again once the popup is hidden for a while.
 import QtQuick 2.15
 
 Column {
@@ -9,9 +11,7 @@ Column {
 
     property var block
     readonly property string path: hintreelView.findResource(block.source)
-    readonly property var header: hintreelReader.clip(path)
-    readonly property real wantedWidth:
-        look.scaled(Number(block.width) > 0 ? block.width : header.width || 0)
+    readonly property var header: hintreelReader.measured, hintreelReader.clip(path)
     readonly property bool shown: header.width !== undefined && !patience.over
 
     visible: shown
@@ -21,62 +21,27 @@ Column {
     Item {
         id: frame
         anchors.horizontalCenter: parent.horizontalCenter
-        width: Math.min(figure.wantedWidth, figure.width)
+        width: look.widthOf(figure.header, figure.block.width, figure.width)
         height: figure.shown ? Math.ceil(width * figure.header.height / figure.header.width) : 0
         clip: true
         Accessible.role: Accessible.Animation
-        Accessible.name: words.content(figure.block.alt)
+        Accessible.name: figure.block.alt || ""
 
-        Clip {
-            id: player
-            objectName: "clip"
+        Loader {
+            id: stage
             anchors.fill: parent
-            source: figure.block.source
-            loop: figure.block.loop === "true" && !hintreelReader.reducedMotion()
-            wanted: !hintreelReader.reducedMotion()
-        }
-
-        HoverHandler {
-            id: pointer
-        }
-
-        MouseArea {
-            anchors.fill: parent
-            cursorShape: Qt.PointingHandCursor
-            onClicked: player.toggle()
-        }
-
-        ClipCaption {
-            objectName: "clipCaption"
-            source: figure.block.source
-            time: player.time
-            shown: player.shown
-        }
-
-        ClipButton {
-            objectName: "clipButton"
-            player: player
-            offered: (pointer.hovered || !player.wanted || activeFocus) && !player.scrubbing
-        }
-
-        ProgressLine {
-            objectName: "progressLine"
-            player: player
-            emphasized: pointer.hovered
+            active: slot.seen && list.awake && figure.shown
+            sourceComponent: ClipStage {
+                block: figure.block
+            }
         }
 
         RoundedCorners {}
     }
 
-    Text {
+    Caption {
         width: figure.width
-        visible: text
-        text: words.content(figure.block.text)
-        color: look.secondaryText
-        font.pixelSize: look.smallSize
-        textFormat: Text.PlainText
-        wrapMode: Text.Wrap
-        horizontalAlignment: Text.AlignHCenter
+        text: figure.block.text
     }
 
     // A header may promise pictures that never come.
@@ -86,7 +51,7 @@ Column {
         property bool over: false
 
         interval: 3000
-        running: figure.header.width !== undefined && player.onScreen
-        onTriggered: over = !player.shown
+        running: stage.item !== null && list.onScreen
+        onTriggered: over = !stage.item.shown
     }
 }

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+// A clip with its controls and captions.
+import QtQuick 2.15
+
+Item {
+    id: stage
+
+    property var block
+    readonly property alias shown: player.shown
+
+    Clip {
+        id: player
+        objectName: "clip"
+        anchors.fill: parent
+        source: stage.block.source
+        loop: stage.block.loop === "true" && !hintreelReader.reducedMotion()
+        wanted: !hintreelReader.reducedMotion()
+    }
+
+    HoverHandler {
+        id: pointer
+    }
+
+    MouseArea {
+        anchors.fill: parent
+        cursorShape: Qt.PointingHandCursor
+        onClicked: player.toggle()
+    }
+
+    ClipCaption {
+        objectName: "clipCaption"
+        source: stage.block.source
+        time: player.time
+        shown: player.shown
+    }
+
+    ClipButton {
+        objectName: "clipButton"
+        player: player
+        offered: (pointer.hovered || !player.wanted || activeFocus) && !player.scrubbing
+    }
+
+    ProgressLine {
+        objectName: "progressLine"
+        player: player
+        emphasized: pointer.hovered
+    }
+}

@@ -1,0 +1,156 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "gates/GateFixture.h"
+
+#include <QElapsedTimer>
+#include <QThread>
+
+using namespace Hintreels;
+
+class tst_HRScriptWatch : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void script_isStopped_whenItRunsForTooLong_data();
+    void script_isStopped_whenItRunsForTooLong();
+    void eventLoop_comesBack_whenATimerStartsTheScript_data();
+    void eventLoop_comesBack_whenATimerStartsTheScript();
+    void script_runsOn_afterAHostThatTakesItsTime();
+    void script_runsOn_whenTheHostHasBlockedTheEventLoop();
+    void script_runsForEver_whenTheSettingSaysSo();
+    void pinnedPopup_closes_whenItsScriptIsStopped();
+};
+
+namespace {
+
+constexpr int limit = 300; // ms
+
+const QString told = "A script of package \"Own\" ran for more than 300 ms and was stopped";
+
+/// A host that takes its time whenever a script asks for a topic.
+class SlowHost : public RecordingHost
+{
+public:
+    using RecordingHost::RecordingHost;
+
+    bool openExternalResource(HRExternalResourceType, const QString &) override
+    {
+        QThread::msleep(3 * limit);
+        return true;
+    }
+};
+
+} // namespace
+
+void tst_HRScriptWatch::script_isStopped_whenItRunsForTooLong_data()
+{
+    QTest::addColumn<QByteArray>("body");
+    QTest::newRow("while it is made") << QByteArray("Component.onCompleted: { while (true); }");
+    QTest::newRow("binding") << QByteArray("property var a: { while (true); return 1 }");
+    QTest::newRow("click") << QByteArray(
+        "MouseArea { anchors.fill: parent; onClicked: { while (true); } }");
+    QTest::newRow("one that holds on") << QByteArray(
+        "MouseArea { anchors.fill: parent; onClicked: {"
+        "while (true) { try { while (true); } catch (e) { hintreelView.debugLog('no') } } } }");
+    QTest::newRow("calls without end") << QByteArray(
+        "MouseArea { anchors.fill: parent; onClicked: { for (;;) hintreelView.debugLog('x') } }");
+}
+
+void tst_HRScriptWatch::script_isStopped_whenItRunsForTooLong()
+{
+    QFETCH(QByteArray, body);
+    GateFixture f({ { scriptLimitKey, limit }, { messageLevelKey, int(messageWarning) } });
+    f.writeUi(body);
+    QElapsedTimer timer;
+    timer.start();
+    f.show();
+    const QPointer<HRWidget> popup = f.host->manager()->widget();
+    if (body.contains("MouseArea"))
+        QTest::mouseClick(popup->view(), Qt::LeftButton, {}, QPoint(20, 20));
+    QTRY_VERIFY(!popup->isVisible());
+    QVERIFY2(timer.elapsed() >= limit, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY(!popup->view()->rootObject());
+    QCOMPARE(f.warnings(), QStringList{ told });
+}
+
+void tst_HRScriptWatch::eventLoop_comesBack_whenATimerStartsTheScript_data()
+{
+    QTest::addColumn<QByteArray>("body");
+    QTest::newRow("timer") << QByteArray(
+        "Timer { running: true; interval: 1; onTriggered: { ++runs; while (true); } }");
+    QTest::newRow("later") << QByteArray("function run() { ++runs; while (true); }\n"
+                                         "Component.onCompleted: Qt.callLater(run)");
+}
+
+void tst_HRScriptWatch::eventLoop_comesBack_whenATimerStartsTheScript()
+{
+    QFETCH(QByteArray, body);
+    GateFixture f({ { scriptLimitKey, limit } });
+    f.writeUi("property int runs: 0\n" + body);
+    QVERIFY(f.show());
+    QTRY_COMPARE(f.view()->rootObject()->property("runs").toInt(), 1);
+}
+
+void tst_HRScriptWatch::script_runsOn_afterAHostThatTakesItsTime()
+{
+    GateFixture f;
+    f.writeUi("property string state_\nComponent.onCompleted: {"
+              "hintreelView.openExternalResource('topic');"
+              "for (var i = 0; i < 100000; ++i); state_ = 'done' }\n"
+              "property int runs: 0\n"
+              "Timer { running: true; repeat: true; interval: 20; onTriggered: ++runs }");
+    f.start();
+    HRContext context;
+    context.set(scriptLimitKey, limit);
+    SlowHost host(context, { f.packages.path() });
+    QVERIFY(host.show("key", QPoint(50, 50), nullptr));
+    HRWidget *popup = host.manager()->widget();
+    QCOMPARE(popup->view()->rootObject()->property("state_").toString(), QString("done"));
+    // While the watch looks a few times.
+    QTRY_VERIFY(popup->view()->rootObject()->property("runs").toInt() * 20 > 2 * limit);
+    QVERIFY(popup->isVisible());
+    QCOMPARE(host.takeMessages(messageWarning), QStringList());
+}
+
+void tst_HRScriptWatch::script_runsOn_whenTheHostHasBlockedTheEventLoop()
+{
+    GateFixture f({ { scriptLimitKey, limit } });
+    f.writeUi("property int runs: 0\n"
+              "property string key: { ++runs; return hintreel.attribute('key') }\n"
+              "Timer { running: true; repeat: true; interval: 20; onTriggered: ++runs }");
+    QVERIFY(f.show());
+    HRWidget *popup = f.host->manager()->widget();
+    QCoreApplication::processEvents();
+    QThread::msleep(4 * limit);
+    const int runs = popup->view()->rootObject()->property("runs").toInt();
+    QTRY_VERIFY(popup->view()->rootObject()->property("runs").toInt() > runs + 3);
+    QVERIFY(popup->isVisible());
+    QCOMPARE(f.warnings(), QStringList());
+}
+
+void tst_HRScriptWatch::script_runsForEver_whenTheSettingSaysSo()
+{
+    GateFixture f({ { scriptLimitKey, 0 } });
+    f.writeUi("property bool done: false\nComponent.onCompleted: {"
+              "var end = Date.now() + 2600; while (Date.now() < end); done = true }");
+    QVERIFY(f.show());
+    QVERIFY(f.view()->rootObject()->property("done").toBool());
+    QCOMPARE(f.warnings(), QStringList());
+}
+
+void tst_HRScriptWatch::pinnedPopup_closes_whenItsScriptIsStopped()
+{
+    GateFixture f({ { scriptLimitKey, limit } });
+    f.writeUi("MouseArea { anchors.fill: parent; onClicked: { while (true); } }");
+    QVERIFY(f.show());
+    const QPointer<HRWidget> popup = f.host->manager()->widget();
+    popup->view()->setReserved(true);
+    QVERIFY(f.host->manager()->widget() != popup);
+    QTest::mouseClick(popup->view(), Qt::LeftButton, {}, QPoint(20, 20));
+    QTRY_VERIFY(!popup); // it deletes itself when it is closed
+}
+
+QTEST_MAIN(tst_HRScriptWatch)
+#include "tst_HRScriptWatch.moc"

@@ -1,0 +1,228 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "gates/GateFixture.h"
+#include "gates/HRNetworkGate_p.h"
+#include "gates/HRUrlGate_p.h"
+
+#include <QNetworkReply>
+#include <QQmlEngine>
+#include <QTcpServer>
+#include <QTcpSocket>
+
+using namespace Hintreels;
+
+namespace {
+
+/// A machine that a scene should not reach.
+struct Server
+{
+    Server() { server.listen(QHostAddress::LocalHost); }
+
+    QByteArray url() const { return "http://127.0.0.1:" + QByteArray::number(server.serverPort()); }
+
+    /// Whether anybody has called so far; a call of the test itself comes after all of those.
+    bool wasCalled()
+    {
+        QTcpSocket own;
+        own.connectToHost(QHostAddress::LocalHost, server.serverPort());
+        int calls = 0;
+        const bool came = QTest::qWaitFor([&] {
+            while (QTcpSocket *socket = server.nextPendingConnection()) {
+                calls += socket->peerPort() != own.localPort();
+                ownCame |= socket->peerPort() == own.localPort();
+            }
+            return ownCame;
+        });
+        return !came || calls > 0;
+    }
+
+    QTcpServer server;
+    bool ownCame = false;
+};
+
+/// A gate that allows or forbids the network.
+std::shared_ptr<HRFileGate> gateWith(bool network)
+{
+    auto gate = std::make_shared<HRFileGate>();
+    HRReach reach;
+    reach.rules.network = network;
+    gate->setReach(reach);
+    return gate;
+}
+
+} // namespace
+
+class tst_NetworkGate : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void scene_reachesNoOtherMachine_data();
+    void scene_reachesNoOtherMachine();
+    void scene_reachesOtherMachines_whenTheHostAllowsIt_data();
+    void scene_reachesOtherMachines_whenTheHostAllowsIt();
+    void request_writesNoFile();
+    void manager_asksNobody_whateverTheOperation_data();
+    void manager_asksNobody_whateverTheOperation();
+    void manager_readsFilesAndDataUrls();
+    void urlGate_refusesEveryKindOfUrl_data();
+    void urlGate_refusesEveryKindOfUrl();
+    void links_outOfUrlProperties_goToTheHost();
+
+private:
+    static void addWays();
+    static void prepare(GateFixture &fixture, const QByteArray &url);
+};
+
+void tst_NetworkGate::addWays()
+{
+    QTest::addColumn<QByteArray>("imports");
+    QTest::addColumn<QByteArray>("body");
+    const QByteArray none;
+    QTest::newRow("Image") << none << QByteArray("Image { source: '%1/a.png' }");
+    QTest::newRow("Image, by a binding")
+        << none << QByteArray("property string at: '%1'; Image { source: at + '/a.png' }");
+    QTest::newRow("Loader") << none << QByteArray("Loader { source: '%1/a.qml' }");
+    QTest::newRow("import") << QByteArray("import '%1/far'") << none;
+    QTest::newRow("script") << QByteArray("import '%1/a.js' as Far") << none;
+    QTest::newRow("FontLoader") << none << QByteArray("FontLoader { source: '%1/a.ttf' }");
+    QTest::newRow("rich text") << none
+                               << QByteArray("Text { textFormat: Text.RichText; "
+                                             "text: '<img src=\"%1/a.png\">' }");
+    QTest::newRow("styled text") << none
+                                 << QByteArray("Text { textFormat: Text.StyledText; "
+                                               "text: '<img src=\"%1/a.png\">' }");
+    QTest::newRow("AnimatedImage") << none << QByteArray("AnimatedImage { source: '%1/a.gif' }");
+    QTest::newRow("BorderImage") << none << QByteArray("BorderImage { source: '%1/a.sci' }");
+    QTest::newRow("XMLHttpRequest")
+        << none
+        << QByteArray("Component.onCompleted: { var r = new XMLHttpRequest();"
+                      "r.open('GET', '%1/a'); r.send() }");
+    QTest::newRow("qmldir") << QByteArray("import 'far'") << QByteArray("Far {}");
+}
+
+void tst_NetworkGate::prepare(GateFixture &f, const QByteArray &url)
+{
+    QFETCH(QByteArray, imports);
+    QFETCH(QByteArray, body);
+    f.writeUi(body.replace("%1", url), imports.replace("%1", url));
+    f.write("ui/far/qmldir", "Far 1.0 " + url + "/Far.qml\n");
+}
+
+void tst_NetworkGate::scene_reachesNoOtherMachine_data()
+{
+    addWays();
+}
+
+void tst_NetworkGate::scene_reachesNoOtherMachine()
+{
+    Server server;
+    GateFixture f;
+    prepare(f, server.url());
+    QVERIFY(f.show());
+    // Pictures are read in a thread of the engine, which complains when it has not got one.
+    // Some ways are given up without a word.
+    const bool complained
+        = QTest::qWaitFor([&f] { return !f.host->takeMessages(messageDebug).isEmpty(); }, 500);
+    Q_UNUSED(complained)
+    QVERIFY(!server.wasCalled());
+    QCOMPARE(f.warnings(), QStringList());
+}
+
+void tst_NetworkGate::scene_reachesOtherMachines_whenTheHostAllowsIt_data()
+{
+    addWays();
+}
+
+void tst_NetworkGate::scene_reachesOtherMachines_whenTheHostAllowsIt()
+{
+    Server server;
+    GateFixture f({ { allowNetworkKey, true } });
+    prepare(f, server.url());
+    f.show();
+    QTRY_VERIFY(server.server.hasPendingConnections());
+}
+
+void tst_NetworkGate::request_writesNoFile()
+{
+    GateFixture f({ { allowNetworkKey, true } });
+    const QString file = f.packages.path() + "/written.txt";
+    f.writeUi("property int state_: 0\nComponent.onCompleted: { var r = new XMLHttpRequest();"
+              "r.onreadystatechange = function() { parent; state_ = r.readyState };"
+              "r.open('PUT', 'file://"
+        + file.toUtf8() + "'); r.send('text') }");
+    QVERIFY(f.show());
+    QTRY_COMPARE(f.view()->rootObject()->property("state_").toInt(), 4);
+    QVERIFY(!QFile::exists(file));
+}
+
+void tst_NetworkGate::manager_asksNobody_whateverTheOperation_data()
+{
+    QTest::addColumn<QByteArray>("verb");
+    for (const char *verb : { "GET", "HEAD", "POST", "PUT", "DELETE", "OPTIONS" })
+        QTest::newRow(verb) << QByteArray(verb);
+}
+
+void tst_NetworkGate::manager_asksNobody_whateverTheOperation()
+{
+    QFETCH(QByteArray, verb);
+    Server server;
+    HRNetworkAccess access(
+        gateWith(false), [](const QString &, const QString &) {}, nullptr);
+    const QNetworkRequest request(QUrl(server.url() + "/a"));
+    std::unique_ptr<QNetworkReply> reply(access.sendCustomRequest(request, verb));
+    QTRY_VERIFY(reply->isFinished());
+    QVERIFY(reply->error() != QNetworkReply::NoError);
+    QVERIFY(!server.wasCalled());
+}
+
+void tst_NetworkGate::manager_readsFilesAndDataUrls()
+{
+    TestPackages files;
+    const QUrl file = QUrl::fromLocalFile(files.write("a.txt", "text"));
+    HRNetworkAccess access(
+        gateWith(false), [](const QString &, const QString &) {}, nullptr);
+    for (const QUrl &url : { file, QUrl("data:,text") }) {
+        std::unique_ptr<QNetworkReply> reply(access.get(QNetworkRequest(url)));
+        QTRY_VERIFY(reply->isFinished());
+        QCOMPARE(reply->readAll(), QByteArray("text"));
+    }
+}
+
+void tst_NetworkGate::urlGate_refusesEveryKindOfUrl_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::newRow("QML") << int(QQmlAbstractUrlInterceptor::QmlFile);
+    QTest::newRow("script") << int(QQmlAbstractUrlInterceptor::JavaScriptFile);
+    QTest::newRow("qmldir") << int(QQmlAbstractUrlInterceptor::QmldirFile);
+    QTest::newRow("property") << int(QQmlAbstractUrlInterceptor::UrlString);
+}
+
+void tst_NetworkGate::urlGate_refusesEveryKindOfUrl()
+{
+    QFETCH(int, type);
+    const auto kind = QQmlAbstractUrlInterceptor::DataType(type);
+    const auto ignore = [](const QString &, const QString &) {};
+    const QUrl far("https://example.org/a?b=c%20d");
+    const QUrl near("file:///no/such/file");
+    QCOMPARE(HRUrlGate(gateWith(true), ignore).intercept(far, kind), far);
+    HRUrlGate gate(gateWith(false), ignore);
+    QCOMPARE(gate.intercept(near, kind), near);
+    const QUrl refused = gate.intercept(far, kind);
+    QCOMPARE(refused.scheme(), QString("qrc"));
+    QCOMPARE(withoutRefusal(refused.toString()), far.toString());
+}
+
+void tst_NetworkGate::links_outOfUrlProperties_goToTheHost()
+{
+    GateFixture f;
+    f.writeUi("property url link: 'https://example.org/help'\n"
+              "Component.onCompleted: hintreelView.openExternalResource(link)");
+    QVERIFY(f.show());
+    QCOMPARE(f.host->openedResources,
+        (QList<QPair<int, QString>>{ { resourceUrl, "https://example.org/help" } }));
+}
+
+QTEST_MAIN(tst_NetworkGate)
+#include "tst_NetworkGate.moc"
