@@ -37,6 +37,10 @@ constexpr char HintreelsTable[]
 // The database can always be filled again, so speed counts for more than surviving a crash.
 constexpr const char *Pragmas[] = { "PRAGMA synchronous=OFF", "PRAGMA count_changes=OFF",
     "PRAGMA journal_mode=MEMORY", "PRAGMA temp_store=MEMORY" };
+// A process that is killed as it commits leaves half of its pages in the file. The next start that
+// clears the tables makes that good; others that have the file open, and starts that keep what
+// earlier runs stored, would answer from it.
+constexpr char JournalOnDisk[] = "PRAGMA journal_mode=DELETE";
 
 const QString Keys = QStringLiteral("SELECT hrkey FROM hintreels");
 const QString KeysAndLocales = QStringLiteral("SELECT hrkey, tlocale FROM hintreels");
@@ -130,6 +134,8 @@ bool HRSQLiteIndex::setup()
         return false;
     for (const char *pragma : Pragmas)
         QSqlQuery(d->database.handle()).exec(QLatin1String(pragma));
+    if (!setting(context(), clearIndexKey, true))
+        QSqlQuery(d->database.handle()).exec(QLatin1String(JournalOnDisk));
     return made && !d->database.isDamaged();
 }
 

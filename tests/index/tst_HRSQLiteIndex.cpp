@@ -46,6 +46,8 @@ private Q_SLOTS:
     void open_clearsOrKeeps_asTheSettingSays_data();
     void open_clearsOrKeeps_asTheSettingSays();
     void schema_isFixed();
+    void journal_isOnDisk_whereTheTablesAreKept_data();
+    void journal_isOnDisk_whereTheTablesAreKept();
     void closedIndex_leavesTheHostsDatabaseAlone();
     void closedIndex_servesFromMemory();
     void retrieve_tellsWhereTheEntryLies();
@@ -404,6 +406,24 @@ void tst_HRSQLiteIndex::schema_isFixed()
     QCOMPARE(fixture.rows("PRAGMA synchronous"), QStringList("0"));
     QCOMPARE(fixture.rows("PRAGMA journal_mode"), QStringList("memory"));
     QCOMPARE(fixture.rows("PRAGMA temp_store"), QStringList("2"));
+    fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndex::journal_isOnDisk_whereTheTablesAreKept_data()
+{
+    QTest::addColumn<bool>("clears");
+    QTest::addColumn<QString>("journal");
+    QTest::newRow("kept") << false << "delete";
+    QTest::newRow("cleared") << true << "memory";
+}
+
+void tst_HRSQLiteIndex::journal_isOnDisk_whereTheTablesAreKept()
+{
+    QFETCH(bool, clears);
+    SqliteIndexFixture fixture(false);
+    fixture.context.set(clearIndexKey, clears);
+    QVERIFY(fixture.index.open());
+    QTEST(fixture.rows("PRAGMA journal_mode").join(' '), "journal");
     fixture.messages.takeMessages();
 }
 
