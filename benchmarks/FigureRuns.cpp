@@ -4,10 +4,9 @@
 #include "FigureRuns.h"
 
 #include "FigureTable.h"
+#include "Measuring.h"
 
-#include <algorithm>
-#include <cstddef>
-#include <numeric>
+#include <exception>
 
 namespace {
 
@@ -25,11 +24,15 @@ public:
 
     void measure(benchmark::State &state)
     {
-        if (m_figure.baseline && m_count++ == 0)
-            pair();
-        for (auto _ : state) {
-            pair();
-            state.SetIterationTime(m_figure.unit == Unit::seconds ? m_ours : 0);
+        try {
+            if (m_figure.baseline && m_count++ == 0)
+                pair();
+            for (auto _ : state) {
+                pair();
+                state.SetIterationTime(m_figure.unit == Unit::seconds ? m_ours : 0);
+            }
+        } catch (const std::exception &failure) {
+            state.SkipWithError(failure.what());
         }
         state.counters[BaselineCounter] = m_baseline;
         state.counters[OursCounter] = m_ours;
@@ -54,18 +57,14 @@ private:
     double m_ours = 0;
 };
 
-/// Unlike the median it stays put where values fall into two groups of about the same size.
-double interquartileMean(const std::vector<double> &sorted)
+/// Of a pair, what slows the machine down for a while slows both: their ratio says more than the
+/// best of each side, which may come from different moments.
+std::vector<double> ratios(const std::vector<double> &baseline, const std::vector<double> &ours)
 {
-    const auto quarter = std::ptrdiff_t(sorted.size() / 4);
-    const double sum = std::accumulate(sorted.begin() + quarter, sorted.end() - quarter, 0.0);
-    return sum / double(std::ptrdiff_t(sorted.size()) - 2 * quarter);
-}
-
-double value(std::vector<double> values, Statistic statistic)
-{
-    std::sort(values.begin(), values.end());
-    return statistic == Statistic::least ? values.front() : interquartileMean(values);
+    std::vector<double> ratios;
+    for (size_t i = 0; i < ours.size(); ++i)
+        ratios.push_back(ours[i] / baseline[i]);
+    return ratios;
 }
 
 } // namespace
@@ -92,6 +91,10 @@ void FigureRuns::ReportRuns(const std::vector<Run> &runs)
         if (run.run_type != Run::RT_Iteration)
             continue;
         Values &values = m_values[run.run_name.function_name];
+        if (run.error_occurred) {
+            values.failure = run.error_message;
+            continue;
+        }
         values.baseline.push_back(run.counters.at(BaselineCounter));
         values.ours.push_back(run.counters.at(OursCounter));
     }
@@ -102,11 +105,21 @@ FigureTable FigureRuns::table() const
     FigureTable table;
     for (const Figure &figure : m_figures) {
         const auto found = m_values.find(figure.fullName());
-        if (found == m_values.end())
-            continue;
-        table.add({ QString::fromStdString(figure.fullName()), figure.unit, bool(figure.baseline),
-            value(found->second.baseline, figure.statistic),
-            value(found->second.ours, figure.statistic), figure.bar });
+        if (found != m_values.end())
+            table.add(resultOf(figure, found->second));
     }
     return table;
+}
+
+Result FigureRuns::resultOf(const Figure &figure, const Values &values)
+{
+    Result result{ QString::fromStdString(figure.fullName()), figure.unit, bool(figure.baseline), 0,
+        0, 0, figure.bar, QString::fromStdString(values.failure) };
+    if (!values.failure.empty())
+        return result;
+    result.baseline = quantile(values.baseline, 0.5);
+    result.ours = quantile(values.ours, 0.5);
+    result.value
+        = interquartileMean(figure.baseline ? ratios(values.baseline, values.ours) : values.ours);
+    return result;
 }

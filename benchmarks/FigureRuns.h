@@ -12,6 +12,7 @@
 #include <vector>
 
 class FigureTable;
+struct Result;
 
 /// Has Google Benchmark run figures, and collects what they measure.
 ///
@@ -38,7 +39,10 @@ private:
     {
         std::vector<double> baseline;
         std::vector<double> ours;
+        std::string failure; // of the last measurement that failed
     };
+
+    static Result resultOf(const Figure &figure, const Values &values);
 
     std::vector<Figure> m_figures;
     std::map<std::string, Values> m_values; // by full name

@@ -24,7 +24,14 @@ QString digits(double value, int count = 4)
 QString shownValue(const Result &result)
 {
     const bool isNarrow = std::isfinite(result.bar.least) && std::isfinite(result.bar.most);
-    return digits(result.value(), isNarrow ? 6 : 4);
+    return digits(result.value, isNarrow ? 6 : 4);
+}
+
+QString verdict(const Result &result)
+{
+    if (!result.failure.isEmpty())
+        return QStringLiteral("not measured");
+    return result.isGood() ? QString() : QStringLiteral("missed");
 }
 
 QString line(const Result &result)
@@ -32,7 +39,7 @@ QString line(const Result &result)
     return QStringLiteral("| %1 | %2 | %3 | %4 | %5 | %6 |\n")
         .arg(result.figure, result.hasBaseline ? shown(result.baseline, result.unit) : QString(),
             shown(result.ours, result.unit), shownValue(result), shown(result.bar),
-            result.isGood() ? QString() : QStringLiteral("missed"));
+            verdict(result));
 }
 
 /// JSON knows no infinity: an end that is open is left out.
@@ -45,7 +52,7 @@ void insertEnd(QJsonObject &object, const char *name, double end)
 QJsonObject toJson(const Result &result)
 {
     QJsonObject object{ { "figure", result.figure }, { "unit", int(result.unit) },
-        { "ours", result.ours }, { "value", result.value() } };
+        { "ours", result.ours }, { "value", result.value }, { "failure", result.failure } };
     if (result.hasBaseline)
         object.insert("baseline", result.baseline);
     insertEnd(object, "least", result.bar.least);
@@ -56,9 +63,12 @@ QJsonObject toJson(const Result &result)
 Result fromJson(const QJsonObject &object)
 {
     constexpr double Open = std::numeric_limits<double>::infinity();
+    constexpr double NoNumber = std::numeric_limits<double>::quiet_NaN();
     return { object["figure"].toString(), Unit(object["unit"].toInt()), object.contains("baseline"),
         object["baseline"].toDouble(), object["ours"].toDouble(),
-        { object["least"].toDouble(-Open), object["most"].toDouble(Open) } };
+        object["value"].toDouble(NoNumber),
+        { object["least"].toDouble(-Open), object["most"].toDouble(Open) },
+        object["failure"].toString() };
 }
 
 } // namespace
@@ -87,7 +97,9 @@ QStringList FigureTable::faults() const
         return { QStringLiteral("nothing was measured") };
     QStringList faults;
     for (const Result &result : m_results) {
-        if (!result.isGood())
+        if (!result.failure.isEmpty())
+            faults += QStringLiteral("not measured: %1: %2").arg(result.figure, result.failure);
+        else if (!result.isGood())
             faults += QStringLiteral("missed: %1: %2 where %3 is good")
                           .arg(result.figure, shownValue(result), shown(result.bar));
     }

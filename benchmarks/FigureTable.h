@@ -15,12 +15,13 @@ struct Result
     QString figure;
     Unit unit;
     bool hasBaseline;
-    double baseline;
+    double baseline; // the median of the measurements, as are ours
     double ours;
+    double value; // of the pairs' ratios, or of ours where there is no baseline
     Bar bar;
+    QString failure = {}; // why it could not be measured; the numbers are none then
 
-    double value() const { return hasBaseline ? ours / baseline : ours; }
-    bool isGood() const { return bar.holds(value()); }
+    bool isGood() const { return failure.isEmpty() && bar.holds(value); }
 };
 
 /// The results of one run, with their verdict.

@@ -18,6 +18,10 @@ void addDatabaseFigures(FigureRuns &runs, int files);
 /// Adds a start of the index in SQLite while another program is at work on its database.
 void addLockFigures(FigureRuns &runs);
 
+/// Holds a lock instead of measuring, if the command line of the program says so.
+/// @return true if it does
+bool holdLockOfAnother();
+
 /// Adds how much longer each of them takes with many files than with few.
 void addGrowthFigures(FigureRuns &runs);
 

@@ -18,7 +18,7 @@ void addGrowthFigures(FigureRuns &runs)
         for (const Figure &many : figures) {
             if (few.name == many.name && few.files == fewFiles && many.files == manyFiles)
                 runs.add({ few.name + ", growth", 0, Bar::atMost(MostGrowth), few.ours, many.ours,
-                    many.repetitions, many.statistic, many.unit });
+                    many.repetitions, many.unit });
         }
     }
 }

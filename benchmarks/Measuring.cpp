@@ -9,13 +9,14 @@
 #include "index/HRIndex.h"
 #include "manager/HRPackageScanner_p.h"
 
-#include <QLocale>
-
 #include <malloc.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <ctime>
 #include <limits>
+#include <numeric>
+#include <stdexcept>
 
 using namespace Hintreels;
 
@@ -49,24 +50,37 @@ double processorSeconds(const std::function<void()> &action)
     return now() - begin;
 }
 
+double interquartileMean(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    const auto quarter = std::ptrdiff_t((values.size() + 1) / 4);
+    const double sum = std::accumulate(values.begin() + quarter, values.end() - quarter, 0.0);
+    return sum / double(std::ptrdiff_t(values.size()) - 2 * quarter);
+}
+
 double quantile(std::vector<double> values, double share)
 {
     std::sort(values.begin(), values.end());
     return values[std::min(size_t(double(values.size()) * share), values.size() - 1)];
 }
 
+void cannotMeasure(const QString &why)
+{
+    throw std::runtime_error(why.toStdString());
+}
+
 void expect(bool answer, bool expected)
 {
     if (answer != expected)
-        qFatal("the index answers wrongly");
+        cannotMeasure("the index answers wrongly");
 }
 
-bool find(HRIndex &index, const QString &key, const QString &locale)
+bool find(HRIndex &index, const QString &key, const QLocale &locale)
 {
     QString directory;
     int depth = 0;
     HRXmlElement *root = nullptr;
-    if (!index.retrieve(key, QLocale(locale), directory, depth, root))
+    if (!index.retrieve(key, locale, directory, depth, root))
         return false;
     delete root;
     return true;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QLocale>
 #include <QString>
 
 #include <functional>
@@ -46,14 +47,21 @@ double coldSeconds(Action action)
 /// else runs on the machine does not count.
 double processorSeconds(const std::function<void()> &action);
 
+/// The mean of the middle half of some values: unlike their median it stays put where they fall
+/// into two groups of about the same size, as the times of a window system do.
+double interquartileMean(std::vector<double> values);
+
 /// The value below which a share of the values lie.
 double quantile(std::vector<double> values, double share);
 
-/// Ends the program where an answer is wrong: nothing is measured then.
+/// Ends the figure that is being measured, by an exception: its row says so and counts as missed.
+[[noreturn]] void cannotMeasure(const QString &why);
+
+/// Ends the figure where an answer is wrong.
 void expect(bool answer, bool expected);
 
 /// Looks a key up and frees what is found.
-bool find(Hintreels::HRIndex &index, const QString &key, const QString &locale);
+bool find(Hintreels::HRIndex &index, const QString &key, const QLocale &locale);
 
 /// Hands all control files of a tree to an index, as a host's start does.
 void scan(Hintreels::HRIndex &index, const PackageTree &tree);

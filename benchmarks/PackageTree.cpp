@@ -3,6 +3,8 @@
 
 #include "PackageTree.h"
 
+#include "Measuring.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -109,7 +111,7 @@ void PackageTree::write(int file, int edition)
     content += "</hintreels>\n<!-- edition " + QByteArray::number(edition) + " -->\n";
     QFile output(m_files.at(size_t(file)).path);
     if (!output.open(QIODevice::WriteOnly) || output.write(content) != content.size())
-        qFatal("cannot write %s", qPrintable(output.fileName()));
+        cannotMeasure("cannot write " + output.fileName());
 }
 
 PackageTree &settledTree(int fileCount)

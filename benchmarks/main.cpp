@@ -52,7 +52,7 @@ int main(int argc, char **argv)
     keepMemory();
     QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
     const QApplication application(argc, argv);
-    if (measureFirstPopup())
+    if (measureFirstPopup() || holdLockOfAnother())
         return 0;
     benchmark::Initialize(&argc, argv);
     FigureRuns runs;

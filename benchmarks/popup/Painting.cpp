@@ -3,6 +3,8 @@
 
 #include "popup/Painting.h"
 
+#include "Measuring.h"
+
 #include <QCoreApplication>
 #include <QCursor>
 #include <QEvent>
@@ -12,12 +14,14 @@
 double PaintWatch::secondsFor(const std::function<void()> &request)
 {
     constexpr int patience = 10000; // ms
-    QTimer::singleShot(patience, this, [] { qFatal("nothing was painted"); });
+    QTimer::singleShot(patience, &m_loop, &QEventLoop::quit);
     QTimer::singleShot(0, this, [&] {
         m_timer.start();
         request();
     });
     m_loop.exec();
+    if (m_seconds <= 0)
+        cannotMeasure("nothing was painted");
     return m_seconds;
 }
 

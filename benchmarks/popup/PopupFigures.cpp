@@ -4,6 +4,7 @@
 #include "popup/PopupFigures.h"
 
 #include "FigureRuns.h"
+#include "Measuring.h"
 #include "popup/Popups.h"
 
 #include <QCoreApplication>
@@ -45,7 +46,7 @@ Measure started(const QString &popup)
         bool isNumber = false;
         const double seconds = program.readAll().trimmed().toDouble(&isNumber);
         if (!isNumber)
-            qFatal("the first popup did not come");
+            cannotMeasure("the first popup did not come");
         return seconds;
     };
 }
@@ -56,8 +57,7 @@ void addPopupFigures(FigureRuns &runs)
 {
     const auto add = [&](const char *name, double bar, const Measure &baseline, const Measure &ours,
                          int repetitions) {
-        runs.add({ name, 0, Bar::atMost(bar), baseline, ours, repetitions,
-            Statistic::interquartileMean });
+        runs.add({ name, 0, Bar::atMost(bar), baseline, ours, repetitions });
     };
     using Before = Popups::Before;
     const Measure appears = shown(&Popups::hover, Before::nothing);

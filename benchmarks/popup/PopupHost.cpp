@@ -3,6 +3,7 @@
 
 #include "popup/PopupHost.h"
 
+#include "Measuring.h"
 #include "context/HRContext.h"
 #include "manager/HRManager.h"
 #include "ui/HRWidget.h"
@@ -60,7 +61,7 @@ void PopupHost::writePackage() const
     QDir(m_dataPath.path()).mkpath("Tools.hintreels/Control");
     QFile file(m_dataPath.filePath("Tools.hintreels/Control/en_US.xml"));
     if (!file.open(QIODevice::WriteOnly))
-        qFatal("cannot write the package");
+        cannotMeasure("cannot write the package");
     file.write("<hintreels locale='en_US' search='Standard'>\n");
     for (const PopupContent &content : m_contents)
         file.write(content.xml());

@@ -24,7 +24,7 @@ QString row(const FigureSpread &spread, int y)
 {
     const Bar &bar = spread.middle.bar;
     const double ends[]
-        = { bar.share(spread.least), bar.share(spread.middle.value()), bar.share(spread.most) };
+        = { bar.share(spread.least), bar.share(spread.middle.value), bar.share(spread.most) };
     return QStringLiteral("<text x='%1' y='%2' text-anchor='end'>%3</text>"
                           "<line x1='%4' x2='%5' y1='%6' y2='%6' class='spread'/>"
                           "<circle cx='%7' cy='%6' r='4' class='%8'/>\n")

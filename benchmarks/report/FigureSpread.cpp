@@ -17,8 +17,8 @@ FigureSpread spreadOf(const QString &figure, const QVector<FigureTable> &runs)
         }
     }
     std::sort(results.begin(), results.end(),
-        [](const Result &a, const Result &b) { return a.value() < b.value(); });
-    return { results[results.size() / 2], results.first().value(), results.last().value() };
+        [](const Result &a, const Result &b) { return a.value < b.value; });
+    return { results[results.size() / 2], results.first().value, results.last().value };
 }
 
 QString number(double value)
@@ -47,7 +47,7 @@ QString markdown(const FigureSpreads &spreads)
         table += QStringLiteral("| %1 | %2 | %3 | %4 | %5 | %6 | %7 | %8 |\n")
                      .arg(middle.figure,
                          middle.hasBaseline ? shown(middle.baseline, middle.unit) : QString(),
-                         shown(middle.ours, middle.unit), number(middle.value()),
+                         shown(middle.ours, middle.unit), number(middle.value),
                          number(spread.least), number(spread.most), shown(middle.bar),
                          spread.isGood() ? QString() : QStringLiteral("missed"));
     }

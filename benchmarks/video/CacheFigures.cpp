@@ -50,7 +50,7 @@ void fill(HRCompactFrameCache *cache, const QString &path)
 {
     HRClip clip([] { return false; });
     if (!clip.open(path).isNull())
-        qFatal("cannot open %s", qPrintable(path));
+        cannotMeasure("cannot open " + path);
     for (HRVideoFrame picture = clip.readPicture(); !picture.isNull(); picture = clip.readPicture())
         cache->addFrame(picture);
 }
@@ -78,7 +78,7 @@ void addDecoding(FigureRuns &runs, const QSize &size, bool isScreen)
             fill(&cache, path);
             return bytesInUse() - before;
         },
-        1, Statistic::least, Unit::bytes });
+        1, Unit::bytes });
 }
 
 /// A clip whose pictures are all in a cache, and what one picture costs without one.

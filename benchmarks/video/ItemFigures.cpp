@@ -45,7 +45,7 @@ struct ShownClip
     {
         HRClip reader([] { return false; });
         if (!reader.open(clip.path).isNull())
-            qFatal("cannot open %s", qPrintable(clip.path));
+            cannotMeasure("cannot open " + clip.path);
         for (int i = 0; i < clipPictures; ++i)
             cache.addFrame(reader.readPicture());
         stage.load();

@@ -3,6 +3,8 @@
 
 #include "OneThread.h"
 
+#include "Measuring.h"
+
 using namespace Hintreels;
 
 OneThread::OneThread(const QString &path)
@@ -11,7 +13,7 @@ OneThread::OneThread(const QString &path)
 {
     AVFormatContext *input = nullptr;
     if (avformat_open_input(&input, qPrintable(path), nullptr, nullptr) < 0)
-        qFatal("cannot open %s", qPrintable(path));
+        cannotMeasure("cannot open " + path);
     m_input.reset(input);
     avformat_find_stream_info(input, nullptr);
     const AVCodec *codec = nullptr;

@@ -3,6 +3,8 @@
 
 #include "Stage.h"
 
+#include "Measuring.h"
+
 #include <QCoreApplication>
 
 using namespace Hintreels;
@@ -46,7 +48,7 @@ void Stage::runUntil(const std::function<bool()> &done)
     while (!done()) {
         QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
         if (timer.elapsed() > 60000)
-            qFatal("the item did not get there within a minute");
+            cannotMeasure("the item did not get there within a minute");
     }
 }
 

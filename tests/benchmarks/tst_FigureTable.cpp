@@ -18,12 +18,12 @@ constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
 
 Result ratio(double baseline, double ours, double most)
 {
-    return { "a figure", Unit::seconds, true, baseline, ours, Bar::atMost(most) };
+    return { "a figure", Unit::seconds, true, baseline, ours, ours / baseline, Bar::atMost(most) };
 }
 
 Result plain(double ours, const Bar &bar)
 {
-    return { "a figure", Unit::none, false, 0, ours, bar };
+    return { "a figure", Unit::none, false, 0, ours, ours, bar };
 }
 
 FigureTable tableOf(const Result &result)
@@ -43,6 +43,7 @@ private Q_SLOTS:
     void verdict_followsTheBar_data();
     void verdict_followsTheBar();
     void faults_nameWhatMissesItsBar();
+    void faults_nameWhatWasNotMeasured();
     void faults_tellOfAnEmptyTable();
     void json_isReadBack();
     void spread_isMissed_whenOneRunMisses();
@@ -84,6 +85,17 @@ void tst_FigureTable::faults_nameWhatMissesItsBar()
     QCOMPARE(table.faults(), QStringList("missed: a figure: 2 where <= 1.5 is good"));
 }
 
+void tst_FigureTable::faults_nameWhatWasNotMeasured()
+{
+    Result result = ratio(1, 1, 1.5);
+    result.failure = "cannot open a file";
+    const FigureTable table = tableOf(result);
+    QVERIFY(!result.isGood());
+    QCOMPARE(table.faults(), QStringList("not measured: a figure: cannot open a file"));
+    QVERIFY(table.markdown().contains("not measured"));
+    QCOMPARE(FigureTable::fromJson(table.json()).faults(), table.faults());
+}
+
 void tst_FigureTable::faults_tellOfAnEmptyTable()
 {
     QCOMPARE(FigureTable().faults(), QStringList("nothing was measured"));
@@ -116,7 +128,7 @@ void tst_FigureTable::spread_showsTheMedian()
     const FigureSpreads spreads = spreadsOf(
         { tableOf(ratio(1, 1.4, 1.5)), tableOf(ratio(1, 1.2, 1.5)), tableOf(ratio(1, 1.3, 1.5)) });
     QCOMPARE(spreads.size(), 1);
-    QCOMPARE(spreads.first().middle.value(), 1.3);
+    QCOMPARE(spreads.first().middle.value, 1.3);
     QCOMPARE(spreads.first().least, 1.2);
     QCOMPARE(spreads.first().most, 1.4);
 }
