@@ -37,22 +37,22 @@ struct Picture
     QString alternative;
 };
 
-bool isContinuedBy(const Picture &picture, const QTextFragment &fragment)
+bool isContinuedBy(const Picture &picture, const HRTextRun &run)
 {
-    return picture.position + picture.length == fragment.position()
-        && picture.target == fragment.charFormat().toImageFormat().name();
+    return picture.position + picture.length == run.position
+        && picture.target == run.format.toImageFormat().name();
 }
 
 void collectPictures(const QTextBlock &block, QVector<Picture> *pictures)
 {
-    const QVector<QTextFragment> fragments = fragmentsOf(block);
-    for (const QTextFragment &fragment : fragments) {
-        const QTextImageFormat format = fragment.charFormat().toImageFormat();
+    const QVector<HRTextRun> runs = runsOf(block);
+    for (const HRTextRun &run : runs) {
+        const QTextImageFormat format = run.format.toImageFormat();
         if (!format.isValid())
             continue;
-        if (pictures->isEmpty() || !isContinuedBy(pictures->last(), fragment))
-            pictures->append({ fragment.position(), 0, format.name(), {} });
-        pictures->last().length += fragment.length();
+        if (pictures->isEmpty() || !isContinuedBy(pictures->last(), run))
+            pictures->append({ run.position, 0, format.name(), {} });
+        pictures->last().length += run.length();
         pictures->last().alternative += format.property(QTextFormat::ImageAltText).toString();
     }
 }
@@ -116,11 +116,11 @@ void cut(QTextDocument *document, int mostLinks)
     int links = 0;
     int runs = 0;
     for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
-        const QVector<QTextFragment> fragments = fragmentsOf(block);
-        for (const QTextFragment &fragment : fragments) {
-            links += isLinkOrPicture(fragment.charFormat()) ? 1 : 0;
+        const QVector<HRTextRun> parts = runsOf(block);
+        for (const HRTextRun &run : parts) {
+            links += isLinkOrPicture(run.format) ? 1 : 0;
             if (++runs > mostRuns || links > mostLinks)
-                return endBefore(document, fragment.position());
+                return endBefore(document, run.position);
         }
     }
 }
@@ -165,9 +165,9 @@ int countLinks(const QString &markdown)
     setMarkdownWithoutHtml(&document, markdown);
     int links = 0;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        const QVector<QTextFragment> fragments = fragmentsOf(block);
-        links += int(std::count_if(fragments.begin(), fragments.end(),
-            [](const QTextFragment &f) { return isLinkOrPicture(f.charFormat()); }));
+        const QVector<HRTextRun> runs = runsOf(block);
+        links += int(std::count_if(runs.begin(), runs.end(),
+            [](const HRTextRun &r) { return isLinkOrPicture(r.format); }));
     }
     return links;
 }

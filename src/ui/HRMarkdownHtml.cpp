@@ -70,11 +70,11 @@ QTextCursor selected(QTextDocument *document, int position, int length)
 QString proseOf(const QTextBlock &block)
 {
     QString prose = block.text();
-    const QVector<QTextFragment> fragments = fragmentsOf(block);
-    for (const QTextFragment &fragment : fragments) {
-        if (isCode(block) || isCode(fragment.charFormat()) || fragment.charFormat().isImageFormat())
-            prose.replace(fragment.position() - block.position(), fragment.length(),
-                QString(fragment.length(), ' '));
+    const QVector<HRTextRun> runs = runsOf(block);
+    for (const HRTextRun &run : runs) {
+        if (isCode(block) || isCode(run.format) || run.format.isImageFormat())
+            prose.replace(
+                run.position - block.position(), run.length(), QString(run.length(), ' '));
     }
     return prose;
 }
@@ -132,19 +132,19 @@ QTextCharFormat withoutMarks(QTextCharFormat format)
     return format;
 }
 
-void takeMarksOut(QTextDocument *document, const QTextFragment &fragment)
+void takeMarksOut(QTextDocument *document, const HRTextRun &run)
 {
-    const QTextCharFormat format = withoutMarks(fragment.charFormat());
-    const QString text = withoutMarks(fragment.text(), isCode(format));
-    if (text != fragment.text() || format != fragment.charFormat())
-        selected(document, fragment.position(), fragment.length()).insertText(text, format);
+    const QTextCharFormat format = withoutMarks(run.format);
+    const QString text = withoutMarks(run.text, isCode(format));
+    if (text != run.text || format != run.format)
+        selected(document, run.position, run.length()).insertText(text, format);
 }
 
 void takeMarksOut(QTextDocument *document, const QTextBlock &block)
 {
-    const QVector<QTextFragment> fragments = fragmentsOf(block);
-    for (auto fragment = fragments.rbegin(); fragment != fragments.rend(); ++fragment)
-        takeMarksOut(document, *fragment);
+    const QVector<HRTextRun> runs = runsOf(block);
+    for (auto run = runs.rbegin(); run != runs.rend(); ++run)
+        takeMarksOut(document, *run);
 }
 
 /// From the end, so that what is yet to come keeps its place.

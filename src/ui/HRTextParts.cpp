@@ -7,12 +7,14 @@
 
 namespace Hintreels {
 
-QVector<QTextFragment> fragmentsOf(const QTextBlock &block)
+QVector<HRTextRun> runsOf(const QTextBlock &block)
 {
-    QVector<QTextFragment> fragments;
-    for (auto it = block.begin(); !it.atEnd(); ++it)
-        fragments.append(it.fragment());
-    return fragments;
+    QVector<HRTextRun> runs;
+    for (auto it = block.begin(); !it.atEnd(); ++it) {
+        const QTextFragment fragment = it.fragment();
+        runs.append({ fragment.position(), fragment.text(), fragment.charFormat() });
+    }
+    return runs;
 }
 
 bool isCode(const QTextBlock &block)

@@ -3,13 +3,28 @@
 
 #pragma once
 
+#include <QString>
 #include <QTextBlock>
+#include <QTextCharFormat>
 #include <QVector>
 
 namespace Hintreels {
 
-/// The runs of a block that have one format each, in their order.
-QVector<QTextFragment> fragmentsOf(const QTextBlock &block);
+/// Characters of one format in a block.
+///
+/// As they were: Qt's own fragments point anywhere once their document has changed.
+struct HRTextRun
+{
+    int position; ///< in the document
+    QString text;
+    QTextCharFormat format;
+
+    int length() const { return text.size(); }
+    int end() const { return position + length(); }
+};
+
+/// The runs of a block in their order.
+QVector<HRTextRun> runsOf(const QTextBlock &block);
 
 /// Whether a block is a line of a code block.
 bool isCode(const QTextBlock &block);

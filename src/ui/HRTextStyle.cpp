@@ -67,12 +67,12 @@ QTextCharFormat styledFormat(
 
 void styleCharacters(QTextDocument &document, const QTextBlock &block, const HRTextLook &look)
 {
-    const QVector<QTextFragment> fragments = fragmentsOf(block);
-    for (const QTextFragment &fragment : fragments) {
+    const QVector<HRTextRun> runs = runsOf(block);
+    for (const HRTextRun &run : runs) {
         QTextCursor cursor(&document);
-        cursor.setPosition(fragment.position());
-        cursor.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
-        cursor.setCharFormat(styledFormat(fragment.charFormat(), block, look));
+        cursor.setPosition(run.position);
+        cursor.setPosition(run.end(), QTextCursor::KeepAnchor);
+        cursor.setCharFormat(styledFormat(run.format, block, look));
     }
 }
 
@@ -112,13 +112,12 @@ QVariantList linksIn(const QTextDocument &document)
 {
     QVariantList links;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        const QVector<QTextFragment> fragments = fragmentsOf(block);
-        for (const QTextFragment &fragment : fragments) {
-            if (!fragment.charFormat().isAnchor())
+        const QVector<HRTextRun> runs = runsOf(block);
+        for (const HRTextRun &run : runs) {
+            if (!run.format.isAnchor())
                 continue;
-            links.append(QVariantMap{ { "href", fragment.charFormat().anchorHref() },
-                { "text", fragment.text() }, { "start", fragment.position() },
-                { "end", fragment.position() + fragment.length() } });
+            links.append(QVariantMap{ { "href", run.format.anchorHref() }, { "text", run.text },
+                { "start", run.position }, { "end", run.end() } });
         }
     }
     return links;
@@ -128,13 +127,13 @@ QVariantList picturesIn(const QTextDocument &document)
 {
     QVariantList pictures;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        const QVector<QTextFragment> fragments = fragmentsOf(block);
-        for (const QTextFragment &fragment : fragments) {
-            const QTextImageFormat picture = fragment.charFormat().toImageFormat();
+        const QVector<HRTextRun> runs = runsOf(block);
+        for (const HRTextRun &run : runs) {
+            const QTextImageFormat picture = run.format.toImageFormat();
             if (picture.isValid())
                 pictures.append(QVariantMap{ { "url", HRMarkdownGate::pictureIn(picture) },
                     { "text", picture.property(QTextFormat::ImageAltText) },
-                    { "start", fragment.position() }, { "width", picture.width() },
+                    { "start", run.position }, { "width", picture.width() },
                     { "height", picture.height() } });
         }
     }

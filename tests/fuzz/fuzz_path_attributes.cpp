@@ -4,6 +4,7 @@
 #include "content/HRXmlElement.h"
 #include "context/HRContext.h"
 #include "fuzz/FuzzTarget.h"
+#include "gates/HRMediaKind_p.h"
 #include "index/HRIndex.h"
 #include "interface/HRInterface.h"
 #include "manager/HRExternalResource_p.h"
@@ -35,31 +36,51 @@ struct Host
         view = std::make_unique<HRView>(interface->manager(), nullptr);
     }
 
+    void keepToOwnFiles(bool keep)
+    {
+        ownFilesOnly = keep;
+        interface->context().set(ownFilesOnlyKey, keep);
+    }
+
+    bool ownFilesOnly = false;
     TestPackages packages;
     HRContext context;
     std::unique_ptr<HRInterface> interface;
     std::unique_ptr<HRView> view;
 };
 
+bool liesInPackages(const Host &host, const QString &path)
+{
+    return QFileInfo(path).canonicalFilePath().startsWith(host.packages.path() + '/');
+}
+
+void requireOwn(const Host &host, const QString &path)
+{
+    if (QFileInfo::exists(path) && host.view->mayOpen("resources", path, HRFileUse::any))
+        require(!host.ownFilesOnly || liesInPackages(host, path), "own files only");
+}
+
+void requireFound(const Host &host, const QString &found)
+{
+    const QString base = host.view->categoryPath("resources", "Resources", resourceDirectoryKey);
+    const bool refused = host.ownFilesOnly && found.isEmpty();
+    require(refused || found == base || QFileInfo::exists(found), "what is found exists");
+    requireOwn(host, found);
+}
+
 void resolve(Host &host, const QString &path)
 {
-    const QString found = host.view->findResource(path);
-    const QString base = host.view->categoryPath("resources", "Resources", resourceDirectoryKey);
-    require(found == base || QFileInfo::exists(found), "what is found exists");
-    host.view->uiRootFilePath();
+    requireFound(host, host.view->findResource(path));
+    requireOwn(host, path);
+    requireOwn(host, host.view->uiRootFilePath());
     host.view->resourceDirectoryPath();
     externalResourceType(path);
     captionFiles(path, { QLocale("de_DE") });
     host.interface->manager()->index()->packageNameForLocation(host.packages.path() + '/' + path);
 }
 
-} // namespace
-
-// Lines: the path, then the attributes "search", "HRPackagName", "resources", "ui" and "resource".
-void fuzzPathAttributes(const QByteArray &input)
+void resolveInContent(Host &host, const QStringList &lines)
 {
-    static Host host;
-    const QStringList lines = QString::fromUtf8(input.left(4000)).split('\n');
     HRXmlElement root;
     root.setAttribute("search", lines.value(1));
     auto *entry = new HRXmlElement(&root);
@@ -75,4 +96,17 @@ void fuzzPathAttributes(const QByteArray &input)
     host.view->setContent(entry);
     resolve(host, lines.first());
     host.view->setContent(nullptr);
+}
+
+} // namespace
+
+// Lines: the path, then the attributes "search", "HRPackagName", "resources", "ui" and "resource".
+void fuzzPathAttributes(const QByteArray &input)
+{
+    static Host host;
+    const QStringList lines = QString::fromUtf8(input.left(4000)).split('\n');
+    for (const bool ownFilesOnly : { false, true }) {
+        host.keepToOwnFiles(ownFilesOnly);
+        resolveInContent(host, lines);
+    }
 }
