@@ -132,6 +132,7 @@ void HRIndexDatabase::close()
 {
     if (!m_handle.isValid())
         return;
+    m_prepared.clear();
     const QString connection = m_handle.connectionName();
     // Connections are gone with the application, and somebody else may have taken the name since.
     const bool isStillOurs = QCoreApplication::instance()
@@ -202,18 +203,30 @@ bool HRIndexDatabase::isFree(const char *message)
 /// Runs a statement that may meet another's lock, and reports a refusal that it has waited for.
 QSqlError HRIndexDatabase::ask(const char *statement, const char *message)
 {
-    QSqlQuery query(m_handle);
     const bool hurries = !m_haste.hasExpired();
     if (hurries)
-        query.exec(DoNotWait);
-    const QSqlError error = query.exec(QLatin1String(statement)) ? QSqlError() : query.lastError();
+        QSqlQuery(m_handle).exec(DoNotWait);
+    QSqlQuery &query = prepared(statement);
+    const QSqlError error = query.exec() ? QSqlError() : query.lastError();
+    query.finish();
     if (hurries)
-        query.exec(Wait);
+        QSqlQuery(m_handle).exec(Wait);
     else if (isRefusal(error)) {
         reportSqlError(message, error);
         m_haste.setRemainingTime(HasteMilliseconds);
     }
     return error;
+}
+
+/// The statements around each control file: SQLite would take as long to read them as to run them.
+QSqlQuery &HRIndexDatabase::prepared(const char *statement)
+{
+    const auto known = m_prepared.find(statement);
+    if (known != m_prepared.end())
+        return known->second;
+    QSqlQuery &query = m_prepared.emplace(statement, QSqlQuery(m_handle)).first->second;
+    query.prepare(QLatin1String(statement));
+    return query;
 }
 
 bool HRIndexDatabase::holdsOnly(const QStringList &tables)

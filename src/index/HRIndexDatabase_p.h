@@ -7,13 +7,15 @@
 
 #include <QDeadlineTimer>
 #include <QSqlDatabase>
+#include <QSqlQuery>
 #include <QString>
 #include <QStringList>
 
+#include <map>
 #include <optional>
+#include <string_view>
 
 class QSqlError;
-class QSqlQuery;
 
 namespace Hintreels {
 
@@ -83,8 +85,10 @@ private:
     qint64 pragma(const char *statement);
     bool isFree(const char *message);
     QSqlError ask(const char *statement, const char *message);
+    QSqlQuery &prepared(const char *statement);
 
     QSqlDatabase m_handle;
+    std::map<std::string_view, QSqlQuery> m_prepared; // by statement; gone while closed
     bool m_isOwnPlace = false;
     bool m_isDamaged = false;
     std::optional<HRFileStamp> m_opened; // of the file that was last found to be ours
