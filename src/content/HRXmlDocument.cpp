@@ -3,6 +3,8 @@
 
 #include "content/HRXmlDocument_p.h"
 
+#include <algorithm>
+
 namespace Hintreels {
 
 namespace {
@@ -58,10 +60,94 @@ HRXmlDocument::HRXmlDocument(const QByteArray &bytes)
 /// Asks the guard and takes the first character of the next piece.
 QChar HRXmlDocument::nextPiece()
 {
-    if (m_next == m_end || !m_guard.allowsNesting())
-        return EndOfDocument;
-    m_pieceEnd = m_next + qMin<qptrdiff>(m_end - m_next, pieceLength);
-    return *m_next++;
+    m_isOver = m_next == m_end || !m_guard.allowsNesting();
+    if (!m_isOver)
+        m_pieceEnd = pieceEnd();
+    m_isOver = m_isOver || m_next == m_end;
+    return m_isOver ? QChar(EndOfDocument) : *m_next++;
+}
+
+const QChar *HRXmlDocument::pieceEnd()
+{
+    return m_skipped == Skipped::nothing ? m_next + qMin<qptrdiff>(m_end - m_next, pieceLength)
+                                         : skippedPieceEnd();
+}
+
+/// Skips to the next characters that the reader has to see.
+const QChar *HRXmlDocument::skippedPieceEnd()
+{
+    const QChar *const begin = m_next;
+    // "]]>" means something, and "\r\n" is one line end: nothing may come to stand together.
+    const bool isAfterSign = begin[-1] == QLatin1Char(']') || begin[-1] == QLatin1Char('\r');
+    while (!isAfterSign && m_next != m_end && isSkipped(*m_next))
+        ++m_next;
+    if (m_next != begin) {
+        m_skippedInLine
+            = int(m_next - begin) + (hasLineEnd(m_skipEnd, begin) ? 0 : m_skippedInLine);
+        m_skipEnd = m_next;
+    }
+    return m_skipped == Skipped::text ? textPieceEnd() : cDataPieceEnd();
+}
+
+/// Up to where text is no text, or a single character.
+const QChar *HRXmlDocument::textPieceEnd()
+{
+    static const QString cDataStart = QStringLiteral("<![CDATA[");
+    if (unread().startsWith(cDataStart)) {
+        m_skipped = Skipped::cData;
+        return m_next + cDataStart.size();
+    }
+    if (m_next != m_end && (*m_next == QLatin1Char('<') || *m_next == QLatin1Char('&')))
+        m_skipped = Skipped::nothing;
+    return qMin(m_next + 1, m_end);
+}
+
+/// A single character. Behind the last one of the section its element's text goes on.
+const QChar *HRXmlDocument::cDataPieceEnd()
+{
+    if (m_next != m_end && *m_next == QLatin1Char('>') && m_next[-1] == QLatin1Char(']')
+        && m_next[-2] == QLatin1Char(']'))
+        m_skipped = Skipped::text;
+    return qMin(m_next + 1, m_end);
+}
+
+void HRXmlDocument::skipText()
+{
+    // The reader must stand right behind a tag, and not in it, nor ahead.
+    if (m_keepsEverything || m_next == m_text.cbegin() || m_next[-1] != QLatin1Char('>'))
+        return;
+    m_skipped = Skipped::text;
+    m_pieceEnd = m_next; // to be asked again
+}
+
+/// Whether a character can neither end what is skipped nor a line.
+bool HRXmlDocument::isSkipped(QChar character) const
+{
+    switch (character.unicode()) {
+    case ']':
+    case '\r':
+    case '\n':
+        return false;
+    case '<':
+    case '&':
+    case '>':
+        return m_skipped == Skipped::cData;
+    default:
+        return true;
+    }
+}
+
+int HRXmlDocument::skippedInLine() const
+{
+    const QChar *const current = m_isOver ? m_next : m_next - 1;
+    return hasLineEnd(m_skipEnd, current) ? 0 : m_skippedInLine;
+}
+
+bool HRXmlDocument::hasLineEnd(const QChar *begin, const QChar *end)
+{
+    return std::any_of(begin, qMax(begin, end), [](QChar character) {
+        return character == QLatin1Char('\n') || character == QLatin1Char('\r');
+    });
 }
 
 } // namespace Hintreels

@@ -126,6 +126,15 @@ struct HRXmlParserPrivate
         return known.get();
     }
 
+    /// Whether text at this place goes nowhere: it stands in an element that makes no object.
+    bool isTextUnread() const { return stack.size() > 1 && !stack.last().object; }
+
+    void skipText()
+    {
+        if (isTextUnread())
+            document->skipText();
+    }
+
     void push(QObject *object, const HRElementClass *elementClass, int childMode)
     {
         stack.append({ object, elementClass, childMode });
@@ -192,11 +201,13 @@ bool HRXmlParser::startElement(const QString &namespaceURI, const QString &local
         return false;
     if (d->mode & skipMode) {
         d->push(nullptr, nullptr, skipMode);
+        d->skipText();
         return true;
     }
     const int answer = d->answerFor(qName, attributes);
     if (answer & dropBit) {
         d->push(nullptr, nullptr, modeOfAnswer(answer));
+        d->skipText();
         return true;
     }
     const HRElementClass *elementClass = d->classFor(localName);
@@ -216,6 +227,7 @@ bool HRXmlParser::endElement(const QString &, const QString &, const QString &)
 {
     d->stack.removeLast();
     d->mode = d->stack.last().mode;
+    d->skipText();
     return true;
 }
 
@@ -237,7 +249,7 @@ bool HRXmlParser::fatalError(const QXmlParseException &exception)
     const QString refusal = d->document->guard().refusal();
     qDebug().noquote() << QStringLiteral("Fatal error at %1,%2 : %3")
                               .arg(exception.lineNumber())
-                              .arg(exception.columnNumber())
+                              .arg(exception.columnNumber() + d->document->skippedInLine())
                               .arg(refusal.isEmpty() ? exception.message() : refusal);
     return false;
 }
@@ -257,6 +269,7 @@ bool HRXmlParser::endPrefixMapping(const QString &prefix)
 bool HRXmlParser::internalEntityDecl(const QString &name, const QString &value)
 {
     reportEntities(true);
+    d->document->keepEverything(); // the reader may be in an entity's text, away from the document
     return d->document->guard().allowsEntity(name, value);
 }
 
