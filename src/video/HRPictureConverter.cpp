@@ -64,18 +64,30 @@ HRVideoFrame HRPictureConverter::convert(const AVFrame *picture)
     const bool changed = size != m_sourceSize || format != m_sourceFormat;
     if (changed && !prepare(size, format))
         return HRVideoFrame();
-    HRVideoFrame target(m_size.width(), m_size.height(), QImage::Format_RGB32, 0);
-    if (target.isNull())
-        return target;
-    if (isCopied(picture))
-        copy(picture, &target);
-    else if (!(m_direct ? convertDirectly(picture, &target) : convertByRgb24(picture, &target)))
+    if (!takeTarget())
         return HRVideoFrame();
-    return target;
+    if (isCopied(picture))
+        copy(picture, &m_target);
+    else if (!(m_direct ? convertDirectly(picture, &m_target) : convertByRgb24(picture, &m_target)))
+        return HRVideoFrame();
+    return m_target;
+}
+
+/// Finds memory to convert to: that of the last result, if nobody holds it any more. Whoever keeps
+/// only what changed in a picture gives it back at once, still in the processor's caches.
+bool HRPictureConverter::takeTarget()
+{
+    // Counting up and down joins this thread with the one that let go last; asking does not.
+    const bool isFree = !m_target.isNull() && m_target.isDetached();
+    const HRVideoFrame counted = m_target;
+    if (!isFree)
+        m_target = HRVideoFrame(m_size.width(), m_size.height(), QImage::Format_RGB32, 0);
+    return !m_target.isNull();
 }
 
 void HRPictureConverter::close()
 {
+    m_target = HRVideoFrame();
     m_scaler.reset();
     m_rgb.reset();
     m_size = QSize();

@@ -33,6 +33,7 @@ public:
     void close();
 
 private:
+    bool takeTarget();
     bool isCopied(const AVFrame *picture) const;
     bool isDirect(const QSize &size, AVPixelFormat format) const;
     void copy(const AVFrame *picture, HRVideoFrame *target);
@@ -45,6 +46,7 @@ private:
     int m_rgbStride = 0; // bytes
     HRFFmpegHandle<uint8_t> m_rgb;
     HRFFmpegHandle<SwsContext> m_scaler;
+    HRVideoFrame m_target; // the last result
     bool m_direct = false;
 };
 

@@ -6,6 +6,7 @@
 #include <QElapsedTimer>
 #include <QtTest>
 
+#include <cstring>
 #include <random>
 
 extern "C" {
@@ -22,6 +23,7 @@ private Q_SLOTS:
     void convert_equalsTheRgb24Conversion_data();
     void convert_equalsTheRgb24Conversion();
     void convert_keepsTheOpenedSize_whenPicturesChange();
+    void convert_takesTheMemory_thatNobodyHolds();
     void allocate_refuses_data();
     void allocate_refuses();
     void prepare_refuses_data();
@@ -125,6 +127,24 @@ void tst_HRPictureConverter::convert_keepsTheOpenedSize_whenPicturesChange()
         const HRVideoFrame converted = converter.convert(picture.get());
         QCOMPARE(static_cast<const QImage &>(converted), reference(picture.get(), opened));
     }
+}
+
+void tst_HRPictureConverter::convert_takesTheMemory_thatNobodyHolds()
+{
+    const QSize size(64, 48);
+    HRPictureConverter converter;
+    QVERIFY(converter.allocate(size));
+    QVERIFY(converter.prepare(size, AV_PIX_FMT_YUV420P));
+    const HRFFmpegHandle<AVFrame> picture = noise(AV_PIX_FMT_YUV420P, size);
+    HRVideoFrame held = converter.convert(picture.get());
+    const uchar *const heldMemory = held.constBits();
+    const QImage before = held.copy();
+    std::memset(picture->data[0], 0, size_t(picture->linesize[0]));
+    const uchar *const otherMemory = converter.convert(picture.get()).constBits();
+    QVERIFY(otherMemory != heldMemory);
+    QCOMPARE(static_cast<const QImage &>(held), before);
+    held = HRVideoFrame();
+    QCOMPARE(converter.convert(picture.get()).constBits(), otherMemory);
 }
 
 void tst_HRPictureConverter::allocate_refuses_data()
