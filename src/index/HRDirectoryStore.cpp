@@ -18,6 +18,8 @@ namespace {
 // Enough to make the costs of a transaction small against those of what it writes.
 constexpr int MostUnsavedBytes = 1 << 20;
 
+const QString ReadAll = QStringLiteral("SELECT path, files FROM control_directories");
+
 } // namespace
 
 QString HRDirectoryStore::tableName()
@@ -34,10 +36,7 @@ HRDirectoryStore::HRDirectoryStore(const QSqlDatabase &database)
     query.exec(QStringLiteral("PRAGMA synchronous=OFF"));
     // Everything is read once: keeping more pages than these (in KiB) only costs fresh memory.
     query.exec(QStringLiteral("PRAGMA cache_size=-128"));
-    markAsOurs(query);
-    query.prepare(QStringLiteral("CREATE TABLE IF NOT EXISTS control_directories "
-                                 "( path TEXT PRIMARY KEY, files BLOB )"));
-    m_isUsable = run(query);
+    m_isUsable = query.prepare(ReadAll) || makeTable();
 }
 
 QByteArray HRDirectoryStore::load(const QString &directory)
@@ -105,12 +104,21 @@ void HRDirectoryStore::removeMissing()
     }
 }
 
+bool HRDirectoryStore::makeTable()
+{
+    QSqlQuery query(m_database);
+    markAsOurs(query);
+    query.prepare(QStringLiteral("CREATE TABLE IF NOT EXISTS control_directories "
+                                 "( path TEXT PRIMARY KEY, files BLOB )"));
+    return run(query);
+}
+
 /// All at once, which for a scan is quicker than one by one.
 void HRDirectoryStore::readAll()
 {
     QSqlQuery query(m_database);
     query.setForwardOnly(true);
-    query.prepare(QStringLiteral("SELECT path, files FROM control_directories"));
+    query.prepare(ReadAll);
     if (!run(query))
         return;
     while (query.next())

@@ -47,6 +47,7 @@ public:
     bool isDamaged() const { return m_isDamaged; }
 
 private:
+    bool makeTable();
     void readAll();
     void write();
     bool run(QSqlQuery &query);

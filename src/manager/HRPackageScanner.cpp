@@ -109,12 +109,13 @@ void HRPackageScanner::indexFiles(const QFileInfo &directory, const QString &pac
     // Asked once: the text for each of thousands of files costs more than the rest of its scan.
     const bool isReported
         = setting(m_context, messageLevelKey, int(messageWarning)) >= int(messageInformation);
+    const bool isJudged = packageRules(m_context).fromStrangers;
     HRPreparedFile &prepared = m_index.memory().prepared;
     const size_t count = filesWithin(listing, canonicalPath, packagePath);
     for (size_t i = 0; i < count; ++i) {
         const HRListedFile &file = listing.files()[i];
         prepared.expect(place, listing, file);
-        if (isTooLarge(listing, file, prepared.path) || !m_index.prepare(listing, file))
+        if ((isJudged && isTooLarge(listing, file, prepared.path)) || !m_index.prepare(listing, file))
             continue;
         if (isReported)
             m_report("found control file :" + prepared.path);
