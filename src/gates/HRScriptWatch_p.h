@@ -20,19 +20,20 @@ class HRWatchThread;
 /// none.
 bool isScriptRunning(QQmlEngine &engine);
 
-/// Interrupts a scene's script that runs for too long.
+/// Interrupts a scene's script that runs for too long, and tells so.
 ///
-/// Qt does not tell when a script begins. So a thread that all watches share sends each a sign of
-/// life through the event loop; where it is not answered for as long as a script may run, the GUI
-/// thread is at work. As long as that is known to be the host's work, nothing happens: what the
-/// library calls the host for is marked by HostCall, and the clock starts anew at each Entry into a
-/// scene that the library knows of. Else the engine is told to stop, and its next step ends the
-/// script. A host that blocks the event loop without the library knowing loses nothing: the engine
-/// is let go again as soon as the event loop is back or a scene is entered.
+/// Qt does not tell when a script begins. So the clock starts anew whenever the event loop or an
+/// object gets an event, and at each Entry into a scene that the library knows of; a thread that
+/// all watches share looks at it while the event loop is at work. Where it runs for longer than a
+/// script may, the engine is told to stop, and its next step ends the script. What the library
+/// calls the host for is marked by HostCall: that time is the host's.
 ///
-/// A script that a timer or Qt.callLater() starts is ended, too, but nobody is told: it cannot be
-/// told from a host that blocks. What it cannot end: a script that waits inside one of Qt's own
-/// operations.
+/// A host that blocks the event loop looks the same from outside. It was a script where it was
+/// stopped inside an Entry; or where an object that may lead to the scene had got the event, and
+/// the event was over promptly once the engine was told to stop. Else nothing is told, and the
+/// engine is let go before it runs anything.
+///
+/// What it cannot end: a script that waits inside one of Qt's own operations.
 ///
 /// Constructed, used and destroyed in the GUI thread; the clock is read by the thread.
 class HRScriptWatch : public QObject
@@ -60,8 +61,9 @@ public:
         std::shared_ptr<HRScriptWatch> m_watch;
         qint64 m_begin;
         qint64 m_since;
+        int m_entries;
         int m_hostCalls;
-        int m_answers;
+        int m_loops;
         bool m_isOutermost;
     };
 
@@ -76,32 +78,40 @@ public:
     private:
         std::shared_ptr<HRScriptWatch> m_watch;
         qint64 m_begin;
-        int m_answers;
+        int m_hostCalls;
+        int m_loops;
     };
 
 Q_SIGNALS:
-    /// From the event loop, after a script was stopped.
+    /// From the event loop, after a script was stopped. Until the watch starts anew, no script of
+    /// the scene runs any more.
     void stopped(int limit);
 
 private:
     friend class HRWatchThread;
 
+    void loopIsBack();
+    void eventBegins(const QObject &receiver);
+    void check(qint64 now); // in the thread
+
     qint64 now() const;
     bool isInsideScript() const;
+    void startClock();
+    void settle();
+    void tellLater();
     void release();
-    void answer();
-    void check(qint64 now); // in the thread
 
     QQmlEngine *m_engine;
     std::shared_ptr<HRWatchThread> m_thread;
     std::atomic<int> m_limit{ 0 };
     std::atomic<int> m_hostCalls{ 0 };
     std::atomic<qint64> m_since{ 0 }; // ms, on the thread's clock
-    std::atomic<bool> m_asked{ false };
     std::atomic<bool> m_interrupted{ false };
+    std::atomic<qint64> m_interruptedAt{ 0 };
     int m_entries = 0;
-    int m_answers = 0;
-    bool m_wasScript = false;
+    int m_loops = 0;
+    bool m_mayLeadToScripts = false; // the event that is handled
+    bool m_wasScript = false; // that was stopped; until the watch starts anew
 };
 
 } // namespace Hintreels

@@ -4,18 +4,23 @@
 #pragma once
 
 #include <QElapsedTimer>
-#include <QMutex>
 #include <QThread>
 #include <QVector>
-#include <QWaitCondition>
 
+#include <atomic>
+#include <condition_variable>
 #include <memory>
+#include <mutex>
 
 namespace Hintreels {
 
 class HRScriptWatch;
 
 /// The thread that looks after all scripts of a process; it ends with the last watch.
+///
+/// It looks on while the GUI thread's event loop is at work, and rests for as long as the loop
+/// waits for something to do; it never wakes the loop. An application-wide event filter tells the
+/// watches of each event, and is what ends the rest.
 class HRWatchThread : public QThread
 {
 public:
@@ -30,17 +35,30 @@ public:
     /// Milliseconds since the thread was made.
     qint64 now() const { return m_clock.elapsed(); }
 
+    /// Whether it sleeps until the event loop has something to do.
+    bool rests() const { return m_rests; }
+
+    bool eventFilter(QObject *receiver, QEvent *event) override;
+
 protected:
     void run() override;
 
 private:
     HRWatchThread();
 
+    void loopWillWait();
+    void loopIsBack();
+    void endRest();
+
     QElapsedTimer m_clock;
-    QMutex m_mutex;
-    QWaitCondition m_wake;
-    QVector<HRScriptWatch *> m_watches; // guarded by m_mutex
+    // Of the standard library, which ThreadSanitizer looks into.
+    std::mutex m_mutex;
+    std::condition_variable m_wake;
+    // Written by the GUI thread, under m_mutex; read by the thread under it.
+    QVector<HRScriptWatch *> m_watches;
     bool m_ends = false; // guarded by m_mutex
+    std::atomic<bool> m_loopWaits{ false };
+    std::atomic<bool> m_rests{ false };
 };
 
 } // namespace Hintreels

@@ -119,10 +119,9 @@ HRView::HRView(HRManager *manager, QWindow *parent)
 
 HRView::~HRView()
 {
-    m_watch->start(0);
     m_cursors->release();
     // The scene first: its bindings should not see the content go.
-    QQuickView::setSource(QUrl());
+    endScene();
     deleteContentTree(m_content);
 }
 
@@ -412,10 +411,24 @@ void HRView::take(const QUrl &source)
     }
     m_qmlFile = source.toLocalFile();
     followRules();
-    m_watch->start(source.isEmpty() ? 0 : scriptLimit(m_manager));
+    if (source.isEmpty()) {
+        endScene();
+        return;
+    }
+    m_watch->start(scriptLimit(m_manager));
     const HRScriptWatch::Entry entry(m_watch);
     QQuickView::setSource(source);
     m_gates->tellRefusals();
+}
+
+/// Watched to the end, since a scene may have scripts for that, too.
+void HRView::endScene()
+{
+    {
+        const HRScriptWatch::Entry entry(m_watch);
+        QQuickView::setSource(QUrl());
+    }
+    m_watch->start(0);
 }
 
 void HRView::followRules() const

@@ -202,6 +202,7 @@ protected:
 
 private:
     void take(const QUrl &source);
+    void endScene();
     void followRules() const;
     void scriptStopped(int limit);
 

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "gates/GateFixture.h"
+#include "gates/HRWatchThread_p.h"
 
+#include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QThread>
 
@@ -15,8 +17,10 @@ class tst_HRScriptWatch : public QObject
 private Q_SLOTS:
     void script_isStopped_whenItRunsForTooLong_data();
     void script_isStopped_whenItRunsForTooLong();
-    void eventLoop_comesBack_whenATimerStartsTheScript_data();
-    void eventLoop_comesBack_whenATimerStartsTheScript();
+    void script_isStopped_whateverStartsIt_data();
+    void script_isStopped_whateverStartsIt();
+    void script_isStopped_whenItsSceneEnds();
+    void eventLoop_isLeftAlone_whileItWaits();
     void script_runsOn_afterAHostThatTakesItsTime();
     void script_runsOn_whenTheHostHasBlockedTheEventLoop();
     void script_runsForEver_whenTheSettingSaysSo();
@@ -75,22 +79,81 @@ void tst_HRScriptWatch::script_isStopped_whenItRunsForTooLong()
     QCOMPARE(f.warnings(), QStringList{ told });
 }
 
-void tst_HRScriptWatch::eventLoop_comesBack_whenATimerStartsTheScript_data()
+// Neither the library nor the host has a hand in these.
+void tst_HRScriptWatch::script_isStopped_whateverStartsIt_data()
 {
     QTest::addColumn<QByteArray>("body");
-    QTest::newRow("timer") << QByteArray(
-        "Timer { running: true; interval: 1; onTriggered: { ++runs; while (true); } }");
-    QTest::newRow("later") << QByteArray("function run() { ++runs; while (true); }\n"
-                                         "Component.onCompleted: Qt.callLater(run)");
+    const auto row = [](const char *name, const QByteArray &body) { QTest::newRow(name) << body; };
+    row("timer", "Timer { running: true; interval: 1; onTriggered: { while (true); } }");
+    row("timer that repeats",
+        "Timer { running: true; repeat: true; interval: 1; onTriggered: { while (true); } }");
+    row("two timers",
+        "Timer { running: true; interval: 1; onTriggered: { while (true); } }\n"
+        "Timer { running: true; interval: 1; onTriggered: { while (true); } }");
+    row("later",
+        "function run() { while (true); }\n"
+        "Component.onCompleted: Qt.callLater(run)");
+    row("animation",
+        "NumberAnimation on opacity { to: 0.5; duration: 100 }\n"
+        "onOpacityChanged: { while (true); }");
+    row("step of an animation",
+        "SequentialAnimation { running: true; PauseAnimation { duration: 20 }\n"
+        "ScriptAction { script: { while (true); } } }");
+    row("picture",
+        "Image { asynchronous: true; source: 'a.png';\n"
+        "onStatusChanged: { if (status !== Image.Loading) while (true); } }");
+    row("component",
+        "Loader { asynchronous: true; sourceComponent: Item {\n"
+        "Component.onCompleted: { while (true); } } }");
+    row("request",
+        "Component.onCompleted: { var r = new XMLHttpRequest();\n"
+        "r.onreadystatechange = function() { while (r.readyState === 4); }\n"
+        "r.open('GET', 'a.png'); r.send() }");
 }
 
-void tst_HRScriptWatch::eventLoop_comesBack_whenATimerStartsTheScript()
+void tst_HRScriptWatch::script_isStopped_whateverStartsIt()
 {
     QFETCH(QByteArray, body);
     GateFixture f({ { scriptLimitKey, limit } });
-    f.writeUi("property int runs: 0\n" + body);
+    f.write("ui/a.png", "no picture");
+    f.writeUi(body);
     QVERIFY(f.show());
-    QTRY_COMPARE(f.view()->rootObject()->property("runs").toInt(), 1);
+    const QPointer<HRWidget> popup = f.host->manager()->widget();
+    QTRY_VERIFY(!popup->isVisible());
+    QVERIFY(!popup->view()->rootObject());
+    QCOMPARE(f.warnings(), QStringList{ told });
+}
+
+void tst_HRScriptWatch::script_isStopped_whenItsSceneEnds()
+{
+    GateFixture f({ { scriptLimitKey, limit } });
+    f.writeUi("Component.onDestruction: { while (true); }");
+    QVERIFY(f.show());
+    f.view()->setSource(QUrl());
+    QTRY_VERIFY(f.host->messages.contains({ int(messageWarning), told }));
+    QVERIFY(f.show());
+    delete f.host->manager()->widget();
+}
+
+void tst_HRScriptWatch::eventLoop_isLeftAlone_whileItWaits()
+{
+    GateFixture f;
+    f.writeUi({});
+    QVERIFY(f.show());
+    const std::shared_ptr<HRWatchThread> watch = HRWatchThread::shared();
+    QEventLoop loop;
+    bool rested = false;
+    const std::unique_ptr<QThread> onlooker(QThread::create([&] {
+        const QDeadlineTimer deadline(30000);
+        while (!watch->rests() && !deadline.hasExpired())
+            QThread::msleep(1);
+        rested = watch->rests();
+        loop.quit();
+    }));
+    onlooker->start();
+    loop.exec();
+    onlooker->wait();
+    QVERIFY(rested);
 }
 
 void tst_HRScriptWatch::script_runsOn_afterAHostThatTakesItsTime()
@@ -123,7 +186,7 @@ void tst_HRScriptWatch::script_runsOn_whenTheHostHasBlockedTheEventLoop()
     QVERIFY(f.show());
     HRWidget *popup = f.host->manager()->widget();
     QCoreApplication::processEvents();
-    QThread::msleep(4 * limit);
+    QThread::msleep(8 * limit);
     const int runs = popup->view()->rootObject()->property("runs").toInt();
     QTRY_VERIFY(popup->view()->rootObject()->property("runs").toInt() > runs + 3);
     QVERIFY(popup->isVisible());
