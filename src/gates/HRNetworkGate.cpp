@@ -13,6 +13,8 @@ namespace Hintreels {
 namespace {
 
 const QString refusal = QStringLiteral("qrc:/hintreels/refused?");
+const QString farScheme = QStringLiteral("hintreels-far");
+const QString far = farScheme + ":?";
 
 // Of those, none asks another machine; pictures of an image provider come from the host itself.
 const QStringList localSchemes{
@@ -22,18 +24,30 @@ const QStringList localSchemes{
     QStringLiteral("image"),
 };
 
+QString encoded(const QUrl &url)
+{
+    return QString::fromLatin1(QUrl::toPercentEncoding(url.toString()));
+}
+
 } // namespace
 
 QUrl refusedUrl(const QUrl &url)
 {
-    return QUrl(refusal + QString::fromLatin1(QUrl::toPercentEncoding(url.toString())));
+    return QUrl(refusal + encoded(url));
+}
+
+QUrl farUrl(const QUrl &url)
+{
+    return url.scheme() == farScheme ? url : QUrl(far + encoded(url));
 }
 
 QString withoutRefusal(const QString &text)
 {
-    if (!text.startsWith(refusal))
-        return text;
-    return QUrl::fromPercentEncoding(text.mid(refusal.size()).toLatin1());
+    for (const QString &mark : { refusal, far }) {
+        if (text.startsWith(mark))
+            return QUrl::fromPercentEncoding(text.mid(mark.size()).toLatin1());
+    }
+    return text;
 }
 
 bool isRemote(const QUrl &url)
@@ -60,8 +74,12 @@ QNetworkReply *HRNetworkAccess::createRequest(
 
 bool HRNetworkAccess::isAllowed(Operation operation, const QUrl &url) const
 {
-    if (isRemote(url))
-        return m_gate->rules().network;
+    if (isRemote(url)) {
+        const bool allowed = m_gate->rules().network;
+        if (!allowed)
+            m_refuse(QStringLiteral("url"), withoutRefusal(url.toString()));
+        return allowed;
+    }
     if (operation != GetOperation && operation != HeadOperation)
         return false;
     if (!url.isLocalFile() || m_gate->mayOpen(url.toLocalFile(), HRFileUse::any))

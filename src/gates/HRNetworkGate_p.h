@@ -15,6 +15,10 @@ namespace Hintreels {
 /// A URL that nothing is found at, in place of one that is refused, and which still tells it.
 QUrl refusedUrl(const QUrl &url);
 
+/// A URL in place of one of another machine, for a property to hold. Who loads it asks the network
+/// for it, and is refused there.
+QUrl farUrl(const QUrl &url);
+
 /// The URL that was refused, or the text itself where none was.
 QString withoutRefusal(const QString &text);
 
@@ -26,7 +30,7 @@ bool isRemote(const QUrl &url);
 class HRNetworkAccess : public QNetworkAccessManager
 {
 public:
-    /// @param refuse told of files that are refused, in the thread of the request
+    /// @param refuse told of what is refused, in the thread of the request
     HRNetworkAccess(std::shared_ptr<const HRFileGate> gate, HRRefuse refuse, QObject *parent);
 
 protected:

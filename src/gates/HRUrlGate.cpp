@@ -38,13 +38,22 @@ HRUrlGate::HRUrlGate(std::shared_ptr<const HRFileGate> gate, HRRefuse refuse)
 
 QUrl HRUrlGate::intercept(const QUrl &url, DataType type)
 {
+    if (isRemote(url) && !m_gate->rules().network)
+        return interceptFar(url, type);
     return allows(url, type) ? url : refusedUrl(url);
+}
+
+/// What a property holds may be a link, which nobody loads.
+QUrl HRUrlGate::interceptFar(const QUrl &url, DataType type) const
+{
+    if (type == UrlString)
+        return farUrl(url);
+    m_refuse(kindOf(type), withoutRefusal(url.toString()));
+    return refusedUrl(url);
 }
 
 bool HRUrlGate::allows(const QUrl &url, DataType type) const
 {
-    if (isRemote(url))
-        return m_gate->rules().network;
     if (url.isLocalFile())
         return allowsFile(url.toLocalFile(), type);
     // QML in a data URL would not be seen for what it imports.

@@ -18,12 +18,14 @@ namespace Hintreels {
 class HRUrlGate : public QQmlAbstractUrlInterceptor
 {
 public:
-    /// @param refuse told of each file that is refused, in whatever thread; not of the network
+    /// @param refuse told of each file that is refused, in whatever thread; of one of another
+    /// machine where it is loaded
     HRUrlGate(std::shared_ptr<const HRFileGate> gate, HRRefuse refuse);
 
     QUrl intercept(const QUrl &url, DataType type) override;
 
 private:
+    QUrl interceptFar(const QUrl &url, DataType type) const;
     bool allows(const QUrl &url, DataType type) const;
     bool allowsFile(const QString &path, DataType type) const;
 
