@@ -20,6 +20,12 @@ bool isResource(const HRControlRecord &record)
 
 } // namespace
 
+bool HRControlReader::mayRead(const QString &path) const
+{
+    const std::optional<HRFileStamp> stamp = stampOfFile(QFile::encodeName(path));
+    return !stamp || m_judge(path, stamp->size);
+}
+
 bool HRControlReader::mayServe(HRControlRecord &record, quint32 key, const QLocale &locale)
 {
     if (isResource(record))
@@ -32,7 +38,7 @@ bool HRControlReader::read(HRControlRecord &record)
     const qint64 now = nanosecondsNow();
     record.isSettled = false;
     HRRegularFile file(QFile::encodeName(record.path()));
-    if (!file.isOpen())
+    if (!file.isOpen() || !m_judge(record.path(), file.stamp().size))
         return false;
     record.stamp = file.stamp();
     std::optional<HRControlReading> reading;

@@ -5,7 +5,11 @@
 
 #include <QByteArray>
 
+#include <functional>
+#include <utility>
+
 class QLocale;
+class QString;
 
 namespace Hintreels {
 
@@ -18,6 +22,15 @@ struct HRControlRecord;
 class HRControlReader
 {
 public:
+    /// Whether a file of a size in bytes may be read; asked before each reading.
+    using Judge = std::function<bool(const QString &path, qint64 size)>;
+
+    /// Until then, every file may be read.
+    void setJudge(Judge judge) { m_judge = std::move(judge); }
+
+    /// Whether a file may be read as it is now; a Qt resource always may.
+    bool mayRead(const QString &path) const;
+
     /// Whether a file may serve a key, as keyNumber() gives it, to a locale.
     bool mayServe(HRControlRecord &record, quint32 key, const QLocale &locale);
 
@@ -28,6 +41,7 @@ private:
     bool isCurrent(HRControlRecord &record);
 
     QByteArray m_bytes;
+    Judge m_judge = [](const QString &, qint64) { return true; };
 };
 
 } // namespace Hintreels

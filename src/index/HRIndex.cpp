@@ -143,8 +143,10 @@ void HRIndex::endUpdate()
 QStringList HRIndex::keys()
 {
     QStringList keys;
-    for (const HRControlRecord &record : d->records)
-        keys += keysOfControlFile(record.path());
+    for (const HRControlRecord &record : d->records) {
+        if (d->reader.mayRead(record.path()))
+            keys += keysOfControlFile(record.path());
+    }
     return keys;
 }
 
@@ -160,6 +162,8 @@ void HRIndex::indexControlFile(const QString &filePath, const QString &packagePa
 HRXmlElement *HRIndex::load(
     const QString &key, const QString &filePath, const QLocale &locale, HRXmlElement *&root)
 {
+    if (!d->reader.mayRead(filePath))
+        return nullptr;
     std::unique_ptr<HRXmlElement> tree = readOnlyTree(filePath, generateContentElement, key);
     if (!tree)
         return nullptr;

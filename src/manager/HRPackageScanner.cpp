@@ -60,6 +60,10 @@ HRPackageScanner::HRPackageScanner(
     , m_report(std::move(report))
     , m_refuse(std::move(refuse))
 {
+    // The index may live for longer.
+    m_index.memory().reader.setJudge(
+        [this, life = std::weak_ptr<bool>(m_life)](
+            const QString &path, qint64 size) { return life.expired() || mayRead(path, size); });
 }
 
 void HRPackageScanner::scanDataPaths(const QStringList &paths)
@@ -124,6 +128,18 @@ void HRPackageScanner::indexFiles(const QFileInfo &directory, const QString &pac
     prepared.forget();
 }
 
+/// Each file that may not be read is told of once.
+bool HRPackageScanner::mayRead(const QString &path, qint64 size) const
+{
+    if (size <= largestFile || !packageRules(m_context).fromStrangers)
+        return true;
+    if (!m_told.contains(path)) {
+        m_told.insert(path);
+        m_refuse(QString("Control file %1 is larger than %2 bytes").arg(path).arg(largestFile));
+    }
+    return false;
+}
+
 /// How many of a directory's files are indexed: all but those that strangers have too many of.
 size_t HRPackageScanner::filesWithin(
     const HRDirectoryListing &listing, const QString &directory, const QString &package) const
@@ -151,10 +167,7 @@ bool HRPackageScanner::isTooLarge(
     if (!packageRules(m_context).fromStrangers)
         return false;
     const std::optional<HRFileStamp> stamp = listing.stampOfReadable(file);
-    if (!stamp || stamp->size <= largestFile)
-        return false;
-    m_refuse(QString("Control file %1 is larger than %2 bytes").arg(path).arg(largestFile));
-    return true;
+    return stamp && !mayRead(path, stamp->size);
 }
 
 } // namespace Hintreels

@@ -3,9 +3,11 @@
 
 #pragma once
 
+#include <QSet>
 #include <QStringList>
 
 #include <functional>
+#include <memory>
 
 QT_BEGIN_NAMESPACE
 class QFileInfo;
@@ -22,7 +24,8 @@ struct HRListedFile;
 /// Finds the packages in data paths and hands their control files to an index.
 ///
 /// What it borrows must outlive it. GUI thread only; a scan blocks until it is done.
-/// Paths that cannot be read are passed over in silence: a data path may come and go.
+/// Paths that cannot be read are passed over in silence: a data path may come and go. As long as
+/// it lives, it also judges what the index reads later, for a file may have grown since.
 class HRPackageScanner
 {
 public:
@@ -33,6 +36,7 @@ public:
     HRPackageScanner(
         const HRContext &context, HRIndex &index, Report report,
         Report refuse = [](const QString &) {});
+    Q_DISABLE_COPY(HRPackageScanner)
 
     void scanDataPaths(const QStringList &paths);
     void scanPackage(const QFileInfo &package);
@@ -41,6 +45,7 @@ public:
     QStringList scannedDirectories() const { return m_scannedDirectories; }
 
 private:
+    bool mayRead(const QString &path, qint64 size) const;
     void scanDataPath(const QString &path);
     void indexFiles(const QFileInfo &directory, const QString &packagePath);
     size_t filesWithin(
@@ -53,6 +58,8 @@ private:
     Report m_report;
     Report m_refuse;
     QStringList m_scannedDirectories;
+    mutable QSet<QString> m_told; // control files that are too large
+    std::shared_ptr<bool> m_life = std::make_shared<bool>();
 };
 
 } // namespace Hintreels

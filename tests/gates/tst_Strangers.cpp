@@ -3,6 +3,7 @@
 
 #include "gates/GateFixture.h"
 #include "gates/HRMediaKind_p.h"
+#include "index/HRSQLiteIndex.h"
 #include "ui/HRSceneReach_p.h"
 
 #include <QBuffer>
@@ -30,6 +31,8 @@ private Q_SLOTS:
     void network_staysShut_whateverIsAllowed();
     void controlFiles_areLimited_data();
     void controlFiles_areLimited();
+    void controlFile_isJudgedAgain_whenItHasGrown_data();
+    void controlFile_isJudgedAgain_whenItHasGrown();
     void controlDirectory_mayNotLieTooDeep();
     void messages_areOneLine();
 };
@@ -188,6 +191,38 @@ void tst_Strangers::controlFiles_areLimited()
     QCOMPARE(f.host->keys().contains("large"), !strangers);
     QVERIFY(f.host->keys().contains("many1999"));
     QCOMPARE(f.host->keys().contains("many2000"), !strangers);
+}
+
+void tst_Strangers::controlFile_isJudgedAgain_whenItHasGrown_data()
+{
+    QTest::addColumn<bool>("strangers");
+    QTest::addColumn<bool>("inDatabase");
+    QTest::newRow("strangers") << true << false;
+    QTest::newRow("strangers, in a database") << true << true;
+    QTest::newRow("others") << false << false;
+}
+
+void tst_Strangers::controlFile_isJudgedAgain_whenItHasGrown()
+{
+    QFETCH(bool, strangers);
+    QFETCH(bool, inDatabase);
+    GateFixture f({ { strangersKey, strangers } });
+    const QString file
+        = f.packages.writeControl("Grown", "a.xml", "<hintreel key='grown'/>", "locale='en_US'");
+    HRContext context;
+    context.set(strangersKey, strangers);
+    context.set(persistentDirectoryKey, f.packages.path());
+    context.set(indexFileNameKey, "index.sqlite");
+    HRSQLiteIndex database(&context, {});
+    RecordingHost host(context, { f.packages.path() }, inDatabase ? &database : nullptr);
+    f.packages.writeControl("Grown", "a.xml",
+        "<hintreel key='grown'/><!--" + QByteArray(8 * 1024 * 1024, ' ') + "-->", "locale='en_US'");
+    for (int i = 0; i < 2; ++i)
+        QCOMPARE(host.show("grown", QPoint(), nullptr), !strangers);
+    if (!inDatabase)
+        QCOMPARE(host.keys().contains("grown"), !strangers);
+    const QString told = "Control file " + file + " is larger than 8388608 bytes";
+    QCOMPARE(host.takeMessages(messageWarning), strangers ? QStringList{ told } : QStringList());
 }
 
 void tst_Strangers::controlDirectory_mayNotLieTooDeep()
