@@ -55,6 +55,8 @@ private Q_SLOTS:
     void ui_mayBeNamedByTheHost();
     void qml_loadsNothingOfOthers_data();
     void qml_loadsNothingOfOthers();
+    void richText_isNotKeptToPackages_data();
+    void richText_isNotKeptToPackages();
     void qml_importsListedModulesOnly_data();
     void qml_importsListedModulesOnly();
     void reader_looksAtOwnFilesOnly();
@@ -232,6 +234,34 @@ void tst_OwnFiles::qml_loadsNothingOfOthers()
     f.show();
     const QString wanted = refusal(kind, QString(path) + '/' + file);
     QTRY_VERIFY2(f.host->messages.contains({ int(messageWarning), wanted }), qPrintable(wanted));
+}
+
+// What docs/security.md says that no gate holds. Once this fails, that can go.
+void tst_OwnFiles::richText_isNotKeptToPackages_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("rich") << QByteArray(
+        "textFormat: Text.RichText; text: '<img src=\"file://%1\">'");
+    QTest::newRow("styled") << QByteArray(
+        "textFormat: Text.StyledText; text: '<img src=\"file://%1\">'");
+    QTest::newRow("Markdown") << QByteArray(
+        "textFormat: Text.MarkdownText; text: '![x](file://%1)'");
+}
+
+void tst_OwnFiles::richText_isNotKeptToPackages()
+{
+    QFETCH(QByteArray, text);
+    GateFixture f({ { ownFilesOnlyKey, true } });
+    QImage large(8, 300, QImage::Format_RGB32);
+    large.fill(Qt::red);
+    QBuffer bytes;
+    large.save(&bytes, "PNG");
+    const QString secret = f.packages.write("secret.png", bytes.data());
+    f.writeUi("property alias shown: shown.implicitHeight\nText { id: shown; "
+        + text.replace("%1", secret.toUtf8()) + " }");
+    QVERIFY(f.show());
+    QTRY_VERIFY(f.view()->rootObject()->property("shown").toInt() >= 300);
+    QCOMPARE(f.warnings(), QStringList());
 }
 
 void tst_OwnFiles::qml_importsListedModulesOnly_data()
