@@ -37,14 +37,15 @@ bool HRControlReader::read(HRControlRecord &record)
 {
     const qint64 now = nanosecondsNow();
     record.isSettled = false;
-    HRRegularFile file(QFile::encodeName(record.path()));
-    if (!file.isOpen() || !m_judge(record.path(), file.stamp().size))
+    const QString path = record.path();
+    HRRegularFile file(QFile::encodeName(path));
+    if (!file.isOpen() || !m_judge(path, file.stamp().size))
         return false;
     record.stamp = file.stamp();
     std::optional<HRControlReading> reading;
     if (file.readAll(m_bytes))
         reading = searchControlFile(m_bytes);
-    record.reading = reading ? std::move(*reading) : parseControlFile(record.path());
+    record.reading = reading ? std::move(*reading) : parseControlFile(path);
     record.isSettled = isSettled(record.stamp, now);
     return true;
 }

@@ -164,8 +164,6 @@ size_t HRPackageScanner::filesWithin(
 bool HRPackageScanner::isTooLarge(
     const HRDirectoryListing &listing, const HRListedFile &file, const QString &path) const
 {
-    if (!packageRules(m_context).fromStrangers)
-        return false;
     const std::optional<HRFileStamp> stamp = listing.stampOfReadable(file);
     return stamp && !mayRead(path, stamp->size);
 }
