@@ -47,12 +47,13 @@ bool HRPictureConverter::prepare(const QSize &size, AVPixelFormat format)
     // The scaler aborts the process on a picture without a format.
     if (size.isEmpty() || !sws_isSupportedInput(format))
         return false;
-    m_direct = isDirect(size, format);
+    m_isDirect = isDirect(size, format);
     m_sourceSize = size;
     m_sourceFormat = format;
+    if (m_isDirect)
+        return m_direct.prepare(size, format);
     m_scaler.reset(sws_getCachedContext(nullptr, size.width(), size.height(), format,
-        m_size.width(), m_size.height(), m_direct ? AV_PIX_FMT_RGB32 : AV_PIX_FMT_RGB24,
-        SWS_BICUBIC, nullptr, nullptr, nullptr));
+        m_size.width(), m_size.height(), AV_PIX_FMT_RGB24, SWS_BICUBIC, nullptr, nullptr, nullptr));
     return m_scaler != nullptr;
 }
 
@@ -64,17 +65,20 @@ HRVideoFrame HRPictureConverter::convert(const AVFrame *picture)
     const bool changed = size != m_sourceSize || format != m_sourceFormat;
     if (changed && !prepare(size, format))
         return HRVideoFrame();
-    if (!takeTarget())
-        return HRVideoFrame();
+    const bool holdsLast = takeTarget();
+    if (m_target.isNull())
+        return m_target;
     if (isCopied(picture))
         copy(picture, &m_target);
-    else if (!(m_direct ? convertDirectly(picture, &m_target) : convertByRgb24(picture, &m_target)))
+    else if (!(m_isDirect ? m_direct.convert(picture, holdsLast, &m_target)
+                          : convertByRgb24(picture, &m_target)))
         return HRVideoFrame();
     return m_target;
 }
 
 /// Finds memory to convert to: that of the last result, if nobody holds it any more. Whoever keeps
 /// only what changed in a picture gives it back at once, still in the processor's caches.
+/// @return true where it is that
 bool HRPictureConverter::takeTarget()
 {
     // Counting up and down joins this thread with the one that let go last; asking does not.
@@ -82,12 +86,13 @@ bool HRPictureConverter::takeTarget()
     const HRVideoFrame counted = m_target;
     if (!isFree)
         m_target = HRVideoFrame(m_size.width(), m_size.height(), QImage::Format_RGB32, 0);
-    return !m_target.isNull();
+    return isFree;
 }
 
 void HRPictureConverter::close()
 {
     m_target = HRVideoFrame();
+    m_direct.close();
     m_scaler.reset();
     m_rgb.reset();
     m_size = QSize();
@@ -120,15 +125,6 @@ void HRPictureConverter::copy(const AVFrame *picture, HRVideoFrame *target)
             reinterpret_cast<QRgb *>(target->scanLine(y)),
             [](QRgb pixel) { return pixel | 0xff000000u; });
     }
-}
-
-bool HRPictureConverter::convertDirectly(const AVFrame *picture, HRVideoFrame *target)
-{
-    uint8_t *planes[4] = { target->bits() };
-    const int strides[4] = { target->bytesPerLine() };
-    return sws_scale(m_scaler.get(), picture->data, picture->linesize, 0, picture->height, planes,
-               strides)
-        > 0;
 }
 
 bool HRPictureConverter::convertByRgb24(const AVFrame *picture, HRVideoFrame *target)

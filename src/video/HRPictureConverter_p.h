@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "video/HRDirectConverter_p.h"
 #include "video/HRFFmpegHandle_p.h"
 #include "video/HRVideoFrame.h"
 
@@ -37,7 +38,6 @@ private:
     bool isCopied(const AVFrame *picture) const;
     bool isDirect(const QSize &size, AVPixelFormat format) const;
     void copy(const AVFrame *picture, HRVideoFrame *target);
-    bool convertDirectly(const AVFrame *picture, HRVideoFrame *target);
     bool convertByRgb24(const AVFrame *picture, HRVideoFrame *target);
 
     QSize m_size; // of the results
@@ -47,7 +47,8 @@ private:
     HRFFmpegHandle<uint8_t> m_rgb;
     HRFFmpegHandle<SwsContext> m_scaler;
     HRVideoFrame m_target; // the last result
-    bool m_direct = false;
+    bool m_isDirect = false;
+    HRDirectConverter m_direct;
 };
 
 } // namespace Hintreels

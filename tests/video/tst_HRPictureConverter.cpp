@@ -22,6 +22,8 @@ class tst_HRPictureConverter : public QObject
 private Q_SLOTS:
     void convert_equalsTheRgb24Conversion_data();
     void convert_equalsTheRgb24Conversion();
+    void convert_followsEachChange_data();
+    void convert_followsEachChange();
     void convert_keepsTheOpenedSize_whenPicturesChange();
     void convert_takesTheMemory_thatNobodyHolds();
     void allocate_refuses_data();
@@ -107,6 +109,41 @@ void tst_HRPictureConverter::convert_equalsTheRgb24Conversion()
     QCOMPARE(converted.format(), QImage::Format_RGB32);
     QCOMPARE(static_cast<const QImage &>(converted), reference(picture.get(), size));
     QCOMPARE(qAlpha(reinterpret_cast<const QRgb *>(converted.constBits())[0]), 255);
+}
+
+void tst_HRPictureConverter::convert_followsEachChange_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<bool>("isHeld");
+    for (const QSize &size : { QSize(16, 2), QSize(32, 16), QSize(48, 18), QSize(64, 54) }) {
+        QTest::addRow("%dx%d, held", size.width(), size.height()) << size << true;
+        QTest::addRow("%dx%d", size.width(), size.height()) << size << false;
+    }
+}
+
+/// One sample after the other changes, in each plane, as do the pictures of a recording.
+void tst_HRPictureConverter::convert_followsEachChange()
+{
+    QFETCH(QSize, size);
+    QFETCH(bool, isHeld);
+    HRPictureConverter converter;
+    QVERIFY(converter.allocate(size));
+    QVERIFY(converter.prepare(size, AV_PIX_FMT_YUV420P));
+    HRFFmpegHandle<AVFrame> picture = noise(AV_PIX_FMT_YUV420P, size);
+    HRVideoFrame held;
+    for (int plane = 0; plane < 3; ++plane) {
+        const QSize samples = plane == 0 ? size : size / 2;
+        for (int y = 0; y < samples.height(); ++y) {
+            // As from a decoder: each picture has memory of its own.
+            HRFFmpegHandle<AVFrame> next(av_frame_clone(picture.get()));
+            QVERIFY(av_frame_make_writable(next.get()) >= 0);
+            picture = std::move(next);
+            picture->data[plane][y * picture->linesize[plane] + y % samples.width()] ^= 0x80;
+            const HRVideoFrame converted = converter.convert(picture.get());
+            QCOMPARE(static_cast<const QImage &>(converted), reference(picture.get(), size));
+            held = isHeld ? converted : HRVideoFrame();
+        }
+    }
 }
 
 void tst_HRPictureConverter::convert_keepsTheOpenedSize_whenPicturesChange()
