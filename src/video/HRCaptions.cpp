@@ -11,7 +11,7 @@ namespace Hintreels {
 
 namespace {
 
-constexpr qint64 largestFile = 1'000'000; // bytes
+constexpr qint64 largestFile = 100'000; // bytes: read in some 15 ms at worst, by the GUI thread
 
 /// Owns what the decoder allocates for one packet.
 struct DecodedText

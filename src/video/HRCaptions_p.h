@@ -20,7 +20,7 @@ struct HRCaption
 /// Reads a WebVTT file, in the order of its captions.
 ///
 /// Only a regular file of that format is opened, and nothing that it may name; any other gives no
-/// captions. A file above a megabyte is refused: it is no companion of a clip of some seconds.
+/// captions. A file above 100 kB is refused: it is no companion of a clip of some seconds.
 QVector<HRCaption> readCaptions(const QString &path);
 
 /// The files in which the captions of a clip may lie beside it, the best first: "clip.de_DE.vtt"
