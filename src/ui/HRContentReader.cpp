@@ -4,6 +4,7 @@
 #include "ui/HRContentReader_p.h"
 
 #include "context/HRPrintable_p.h"
+#include "ui/HRHeapTrim_p.h"
 #include "ui/HRHintReading_p.h"
 #include "ui/HRKeyCaps_p.h"
 #include "ui/HRMeasuring_p.h"
@@ -15,16 +16,13 @@
 #include "video/HRClipSize_p.h"
 
 #include <QQuickTextDocument>
+#include <QQuickWindow>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QUrl>
 
 #include <utility>
-
-#ifdef __GLIBC__
-#include <malloc.h>
-#endif
 
 namespace Hintreels {
 
@@ -129,11 +127,12 @@ QVariantList HRContentReader::captions(const QString &path) const
     return captions;
 }
 
-void HRContentReader::returnMemory() const
+void HRContentReader::returnMemory(QQuickWindow *window) const
 {
-#ifdef __GLIBC__
-    malloc_trim(0);
-#endif
+    // What is visible is painted by itself.
+    if (window && !window->isVisible())
+        window->grabWindow();
+    trimHeap();
 }
 
 QString HRContentReader::shownTarget(const QString &target, const QString &text) const
