@@ -7,6 +7,7 @@
 #include "gates/HRMediaKind_p.h"
 #include "manager/HRManager.h"
 #include "ui/HRView.h"
+#include "video/HRRetiredSources_p.h"
 #include "video/HRVideoController.h"
 #include "video/HRVideoSourceFFMPEG.h"
 
@@ -52,13 +53,10 @@ HRVideoComponent::HRVideoComponent(QQuickItem *parent)
 
 HRVideoComponent::~HRVideoComponent()
 {
-    // Both are asked before either is waited for.
-    m_controller->setShouldQuit();
-    m_videoSource->setShouldQuit();
+    // The controller reads what the source has.
     m_controller->quit();
-    m_videoSource->quit();
-    m_videoSource->wait();
     m_controller->wait();
+    retireSource(std::unique_ptr<HRVideoSource>(m_videoSource));
 }
 
 QString HRVideoComponent::source() const

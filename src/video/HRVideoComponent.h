@@ -18,7 +18,7 @@ class HRVideoSourceFFMPEG;
 /// The clip is found by the HRView that shows the item, so a source set before the item is in its
 /// window has no effect: set it when the window is there. The item's implicit size is that of the
 /// picture it got last. Each item has two threads of its own, which idle until a source is set;
-/// destroying the item stops them. GUI thread only.
+/// destroying the item stops them, but waits for no picture that takes long. GUI thread only.
 ///
 /// The item's state and heightChanged() hide those of QQuickItem: use no QML states on it.
 class HINTREELS_EXPORT HRVideoComponent : public QQuickPaintedItem
@@ -46,7 +46,7 @@ public:
     Q_ENUM(VideoState)
 
     explicit HRVideoComponent(QQuickItem *parent = nullptr);
-    /// Stops both threads.
+    /// Stops both threads. A source that is amid a large picture ends by itself.
     ~HRVideoComponent() override;
 
     /// The clip as it was set, relative to the package's resources.

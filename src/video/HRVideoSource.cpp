@@ -232,4 +232,16 @@ std::unique_ptr<HRVideoFrameCache> HRVideoSource::createCache(const QString &nam
     return std::make_unique<HRVideoFrameCache>(name);
 }
 
+void HRVideoSource::dropClip()
+{
+    std::unique_ptr<HRVideoFrameCache> dropped;
+    {
+        const HRMutexLocker lock(d->frameMutex);
+        d->cache.swap(dropped);
+    }
+    dropped.reset();
+    // The destructor takes this lock, too: ThreadSanitizer does not see that it waits.
+    shouldQuit();
+}
+
 } // namespace Hintreels

@@ -131,9 +131,12 @@ protected:
     void rest();
     /// Ends the present or the next rest. From any thread.
     void wake();
+    /// Frees all that is known of the clip. On the source's thread, as its last act.
+    virtual void dropClip();
 
 private:
     friend class HRVideoController; // rests until the first picture of a clip arrives
+    friend void retireSource(std::unique_ptr<HRVideoSource> source); // drops the clip
 
     void setReader(const std::shared_ptr<HRWakeup> &reader);
     /// The cache for a clip, called @p name.

@@ -5,6 +5,7 @@
 
 #include "video/HRCompactFrameCache_p.h"
 #include "video/HRMediaFile_p.h"
+#include "video/HRRetiredSources_p.h"
 #include "video/HRVideoSourceFFMPEG_p.h"
 
 #include <QDebug>
@@ -160,7 +161,10 @@ void HRVideoSourceFFMPEG::run()
         case quitAction:
             return;
         case loadAction:
-            loadSource();
+            if (areRetiredSourcesMany())
+                rest();
+            else
+                loadSource();
             break;
         case closeAction:
             close();
@@ -197,6 +201,12 @@ bool HRVideoSourceFFMPEG::loadSource()
     const bool loaded = HRVideoSource::loadSource();
     setAction(decodeAction);
     return loaded;
+}
+
+void HRVideoSourceFFMPEG::dropClip()
+{
+    releaseMedia();
+    HRVideoSource::dropClip();
 }
 
 std::unique_ptr<HRVideoFrameCache> HRVideoSourceFFMPEG::createCache(const QString &name) const

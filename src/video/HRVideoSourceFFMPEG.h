@@ -57,6 +57,7 @@ public:
 protected:
     void run() override;
     bool loadSource() override;
+    void dropClip() override;
 
 private:
     std::unique_ptr<HRVideoFrameCache> createCache(const QString &name) const override;
