@@ -114,13 +114,16 @@ bool HRIndexDatabase::open(
     close();
     m_isOwnPlace = isOwnPlace;
     m_isDamaged = false;
+    m_damagedFile.reset();
     m_wasRefused = false;
     m_isFailing = false;
     m_haste = QDeadlineTimer();
     m_handle = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection);
     m_handle.setConnectOptions(ConnectOptions);
     m_handle.setDatabaseName(path);
-    if (takeOwnFile(path) && m_handle.open() && holdsOnly(tables)) {
+    const bool isOwn = takeOwnFile(path);
+    m_found = stampOfFile(QFile::encodeName(path));
+    if (isOwn && m_handle.open() && holdsOnly(tables)) {
         m_opened = stampOfFile(QFile::encodeName(path));
         return true;
     }
@@ -143,15 +146,29 @@ void HRIndexDatabase::close()
         QSqlDatabase::removeDatabase(connection);
 }
 
+void HRIndexDatabase::holdDamagedFile()
+{
+    if (!m_damagedFile && m_found)
+        m_damagedFile.emplace(m_handle.databaseName(), *m_found);
+}
+
+void HRIndexDatabase::removeDamagedFile()
+{
+    if (m_damagedFile)
+        m_damagedFile->remove();
+    m_damagedFile.reset();
+    forgetFile();
+}
+
 bool HRIndexDatabase::isSound()
 {
     QSqlQuery query(m_handle);
     if (!query.exec(QStringLiteral("PRAGMA integrity_check(1)"))) {
-        noteDamage(query.lastError());
+        noteDamage(isDamage(query.lastError()));
         return !isDamage(query.lastError());
     }
     const bool isSound = !query.next() || query.value(0).toString() == QLatin1String("ok");
-    m_isDamaged = m_isDamaged || (!isSound && isOurs());
+    noteDamage(!isSound);
     return isSound;
 }
 
@@ -160,7 +177,7 @@ bool HRIndexDatabase::execute(const char *statement, const char *message)
     QSqlQuery query(m_handle);
     if (query.exec(QLatin1String(statement)))
         return true;
-    noteDamage(query.lastError());
+    noteDamage(isDamage(query.lastError()));
     reportSqlError(message, query.lastError());
     return false;
 }
@@ -181,7 +198,7 @@ bool HRIndexDatabase::commit(const char *message)
     m_wasRefused = isRefusal(error);
     m_isFailing = error.isValid() && !m_wasRefused;
     if (m_isFailing) {
-        noteDamage(error);
+        noteDamage(isDamage(error));
         reportSqlError(message, error);
         m_haste.setRemainingTime(HasteMilliseconds);
     }
@@ -233,7 +250,7 @@ bool HRIndexDatabase::holdsOnly(const QStringList &tables)
 {
     QSqlQuery query(m_handle);
     if (!query.exec(QStringLiteral("SELECT type, name, sql FROM sqlite_master"))) {
-        noteDamage(query.lastError());
+        noteDamage(isDamage(query.lastError()));
         return false;
     }
     bool isEmpty = true;
@@ -262,9 +279,12 @@ bool HRIndexDatabase::isOurs() const
         && stamp->device == m_opened->device;
 }
 
-void HRIndexDatabase::noteDamage(const QSqlError &error)
+void HRIndexDatabase::noteDamage(bool isDamage)
 {
-    m_isDamaged = m_isDamaged || (isDamage(error) && isOurs());
+    if (!isDamage || m_isDamaged || !isOurs())
+        return;
+    m_isDamaged = true;
+    holdDamagedFile();
 }
 
 qint64 HRIndexDatabase::pragma(const char *statement)

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "index/HRFileStamp_p.h"
+#include "index/HRPosixFile_p.h"
 
 #include <QDeadlineTimer>
 #include <QSqlDatabase>
@@ -74,6 +74,14 @@ public:
     /// ours so that it may be made anew.
     bool isDamaged() const { return m_isDamaged; }
 
+    /// Keeps hold of the file, which somebody else has found damaged. To be called while it is
+    /// open.
+    void holdDamagedFile();
+
+    /// Deletes the file that was found damaged; one that another process has put in its place
+    /// stays.
+    void removeDamagedFile();
+
     /// To be called when the file was deleted: another one may take its place.
     void forgetFile() { m_opened.reset(); }
 
@@ -81,7 +89,7 @@ private:
     bool holdsOnly(const QStringList &tables);
     bool holdsNothing();
     bool isOurs() const;
-    void noteDamage(const QSqlError &error);
+    void noteDamage(bool isDamage);
     qint64 pragma(const char *statement);
     bool isFree(const char *message);
     QSqlError ask(const char *statement, const char *message);
@@ -91,6 +99,8 @@ private:
     std::map<std::string_view, QSqlQuery> m_prepared; // by statement; gone while closed
     bool m_isOwnPlace = false;
     bool m_isDamaged = false;
+    std::optional<HRFileStamp> m_found; // before it was opened
+    std::optional<HRDoomedFile> m_damagedFile;
     std::optional<HRFileStamp> m_opened; // of the file that was last found to be ours
     bool m_wasRefused = false; // the last lock or commit, by another's lock
     bool m_isFailing = false; // the last commit did, for another reason

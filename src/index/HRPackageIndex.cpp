@@ -85,6 +85,8 @@ bool HRPackageIndex::setup()
     if (d->store->isUsable())
         return true;
     d->isDamaged = d->store->isDamaged();
+    if (d->isDamaged)
+        holdDamagedFile();
     d->store.reset();
     return false;
 }
@@ -287,9 +289,11 @@ void HRPackageIndex::rebuild()
 {
     d->isDamaged = false;
     d->store.reset();
+    if (database().isValid())
+        holdDamagedFile();
     closeDatabase();
     if (d->isRebuilt)
-        QFile::remove(d->path);
+        removeDamagedFile();
     else
         openAnew(d->path);
 }

@@ -14,6 +14,7 @@
 #include <utility>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -44,6 +45,19 @@ std::optional<HRFileStamp> stampAt(const char *path)
     if (::stat(path, &status) != 0 || !S_ISREG(status.st_mode))
         return std::nullopt;
     return stampOf(status);
+}
+
+std::optional<HRFileStamp> stampOfOpen(int descriptor)
+{
+    struct stat status;
+    if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode))
+        return std::nullopt;
+    return stampOf(status);
+}
+
+bool isSameFile(const std::optional<HRFileStamp> &one, const HRFileStamp &other)
+{
+    return one && one->inode == other.inode && one->device == other.device;
 }
 
 // Long enough for most paths, which then need no memory of their own.
@@ -318,6 +332,32 @@ std::optional<HRFileStamp> stampOfFile(const QString &directory, const QString &
         return stampOfFile(QFile::encodeName(directory + name));
     path.append('\0');
     return stampAt(path.constData());
+}
+
+HRDoomedFile::HRDoomedFile(const QString &path, const HRFileStamp &stamp)
+    : m_path(QFile::encodeName(path))
+    , m_descriptor(openForReading(m_path.constData()))
+{
+    if (isSameFile(stampOfOpen(m_descriptor), stamp))
+        return;
+    ::close(m_descriptor);
+    m_descriptor = -1;
+}
+
+HRDoomedFile::~HRDoomedFile()
+{
+    ::close(m_descriptor);
+}
+
+void HRDoomedFile::remove()
+{
+    // Who comes second finds another file at the path, or none.
+    if (m_descriptor < 0 || ::flock(m_descriptor, LOCK_EX) != 0)
+        return;
+    const std::optional<HRFileStamp> stamp = stampOfOpen(m_descriptor);
+    if (stamp && isSameFile(stampAt(m_path.constData()), *stamp))
+        ::unlink(m_path.constData());
+    ::flock(m_descriptor, LOCK_UN);
 }
 
 bool takeOwnFile(const QString &path)

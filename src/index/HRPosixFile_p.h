@@ -112,6 +112,27 @@ std::optional<HRFileStamp> stampOfFile(const QByteArray &path);
 /// The same for a name in a directory, which is given with its slash.
 std::optional<HRFileStamp> stampOfFile(const QString &directory, const QString &name);
 
+/// A file that is to be deleted. It is kept hold of, so that no other is taken for it.
+///
+/// To be made while the file is open elsewhere in this process; before then, another one could
+/// have been given its number.
+class HRDoomedFile
+{
+public:
+    /// @param stamp of the file; one that has taken its place since is left alone
+    HRDoomedFile(const QString &path, const HRFileStamp &stamp);
+    ~HRDoomedFile();
+    Q_DISABLE_COPY(HRDoomedFile)
+
+    /// Deletes the file, unless another has taken its place. Waits for whoever does the same, in
+    /// this process or another.
+    void remove();
+
+private:
+    QByteArray m_path;
+    int m_descriptor = -1;
+};
+
 /// Makes sure that a database's file is this user's own, where others can write to its directory.
 ///
 /// Makes a missing file, readable and writable by the user alone. An existing one must be regular,

@@ -284,9 +284,18 @@ bool HRSQLiteIndex::isOwnPlace(const QString &) const
 // later start would come through.
 bool HRSQLiteIndex::openAnew(const QString &path)
 {
-    QFile::remove(path); // or another process has
-    d->database.forgetFile();
+    removeDamagedFile();
     return openAt(path);
+}
+
+void HRSQLiteIndex::holdDamagedFile()
+{
+    d->database.holdDamagedFile();
+}
+
+void HRSQLiteIndex::removeDamagedFile()
+{
+    d->database.removeDamagedFile();
 }
 
 QSqlDatabase HRSQLiteIndex::database() const

@@ -91,7 +91,15 @@ protected:
     /// even where nothing in it tells.
     virtual bool isOwnPlace(const QString &path) const;
 
-    /// Deletes a database that is damaged, and opens a new one.
+    /// To be called when the open database is found damaged: keeps hold of its file.
+    void holdDamagedFile();
+
+    /// Deletes the file of a database that was found damaged; what another process has put in its
+    /// place stays.
+    void removeDamagedFile();
+
+    /// Deletes a database that is damaged, and opens a new one, or that which another process has
+    /// made meanwhile.
     virtual bool openAnew(const QString &path);
 
     /// The open database; invalid while none is open.

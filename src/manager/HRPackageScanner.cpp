@@ -119,7 +119,8 @@ void HRPackageScanner::indexFiles(const QFileInfo &directory, const QString &pac
     for (size_t i = 0; i < count; ++i) {
         const HRListedFile &file = listing.files()[i];
         prepared.expect(place, listing, file);
-        if ((isJudged && isTooLarge(listing, file, prepared.path)) || !m_index.prepare(listing, file))
+        if ((isJudged && isTooLarge(listing, file, prepared.path))
+            || !m_index.prepare(listing, file))
             continue;
         if (isReported)
             m_report("found control file :" + prepared.path);

@@ -40,6 +40,7 @@ private Q_SLOTS:
     void damage_isHealed();
     void damage_isHealed_whereTheFileBeginsWithZeros();
     void twoIndexes_mayShareTheFile();
+    void twoIndexes_healTheFileOnce();
     void lockOfAnother_isWaitedForOnce();
     void closedIndex_servesFromMemory();
 
@@ -341,6 +342,35 @@ void tst_HRPackageIndex::damage_isHealed_whereTheFileBeginsWithZeros()
     Run run(m_pair);
     QVERIFY(run.isOpen);
     QCOMPARE(messages.takeMessages().count(Rebuilt), 1);
+}
+
+void tst_HRPackageIndex::twoIndexes_healTheFileOnce()
+{
+    MessageGuard messages;
+    const TestPackages &packages = m_pair;
+    const QString path = packages.path() + "/cache/HintreelsPackages.sqlite";
+    Run(packages).scan(packages.path());
+    Run one(packages);
+    Run two(packages, "two");
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    file.seek(16);
+    file.write(QByteArray(84, '\x55'));
+    file.close();
+    messages.takeMessages();
+    one.scan(packages.path());
+    QCOMPARE(messages.takeMessages().count(Rebuilt), 1);
+    QFile healed(path);
+    QVERIFY(healed.open(QIODevice::ReadOnly)); // no other file is given its number
+    const auto stamp = stampOfFile(QFile::encodeName(path));
+    QVERIFY(stamp);
+    two.scan(packages.path());
+    QCOMPARE(messages.takeMessages().count(Rebuilt), 1);
+    const auto stampNow = stampOfFile(QFile::encodeName(path));
+    QVERIFY(stampNow);
+    QCOMPARE(stampNow->inode, stamp->inode);
+    for (Run *run : { &one, &two })
+        QVERIFY(answer(run->index, "a", "en_US") != "none");
 }
 
 void tst_HRPackageIndex::twoIndexes_mayShareTheFile()

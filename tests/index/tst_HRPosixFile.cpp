@@ -30,6 +30,8 @@ class tst_HRPosixFile : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void doomedFile_isDeleted_unlessReplaced_data();
+    void doomedFile_isDeleted_unlessReplaced();
     void listing_holdsWhatQDirFinds();
     void listing_isEmpty_whereThereIsNoDirectory();
 };
@@ -62,6 +64,34 @@ void tst_HRPosixFile::listing_isEmpty_whereThereIsNoDirectory()
     const QString file = files.write("a.xml", "<hintreels/>");
     QCOMPARE(namesIn(file), QStringList());
     QCOMPARE(namesIn(files.path() + "/none"), QStringList());
+}
+
+void tst_HRPosixFile::doomedFile_isDeleted_unlessReplaced_data()
+{
+    QTest::addColumn<bool>("before");
+    QTest::addColumn<bool>("after");
+    QTest::newRow("not replaced") << false << false;
+    QTest::newRow("replaced before it is held") << true << false;
+    QTest::newRow("replaced while it is held") << false << true;
+}
+
+void tst_HRPosixFile::doomedFile_isDeleted_unlessReplaced()
+{
+    QFETCH(bool, before);
+    QFETCH(bool, after);
+    const TestPackages files;
+    const QString path = files.write("a", "damaged");
+    const QString other = files.write("b", "new");
+    QFile opened(path);
+    QVERIFY(opened.open(QIODevice::ReadOnly));
+    const auto stamp = stampOfFile(QFile::encodeName(path));
+    QVERIFY(stamp);
+    const auto replace = [&] { return ::rename(qPrintable(other), qPrintable(path)) == 0; };
+    QVERIFY(!before || replace());
+    HRDoomedFile file(path, *stamp);
+    QVERIFY(!after || replace());
+    file.remove();
+    QCOMPARE(QFile::exists(path), before || after);
 }
 
 QTEST_APPLESS_MAIN(tst_HRPosixFile)
