@@ -104,9 +104,10 @@ void HRCompactFrameCache::addFrame(const HRVideoFrame &frame)
     picture.size = frame.size();
     picture.format = frame.format();
     picture.pts = frame.pts();
-    if (!store(frame, &picture))
-        return;
-    m_pictures.push_back(std::move(picture));
+    const bool isStored = store(frame, &picture);
+    m_lastAdded = isStored ? frame.cacheKey() : 0;
+    if (isStored)
+        m_pictures.push_back(std::move(picture));
 }
 
 HRVideoFrame HRCompactFrameCache::frame(size_t index)
@@ -128,7 +129,7 @@ size_t HRCompactFrameCache::length()
 }
 
 /// False where there is no memory.
-bool HRCompactFrameCache::store(const QImage &image, Picture *picture) const
+bool HRCompactFrameCache::store(const HRVideoFrame &image, Picture *picture) const
 {
     const std::vector<bool> changed = changedTiles(image);
     const TileGrid grid(image.size());
@@ -182,7 +183,7 @@ QRgb *HRCompactFrameCache::storeRow(const QImage &image, const std::vector<bool>
 }
 
 /// One flag a tile: whether it differs from the picture added last, or that has no such tile.
-std::vector<bool> HRCompactFrameCache::changedTiles(const QImage &image) const
+std::vector<bool> HRCompactFrameCache::changedTiles(const HRVideoFrame &image) const
 {
     const int count = TileGrid(image.size()).count();
     if (m_pictures.empty() || image.size() != m_pictures.back().size
@@ -190,15 +191,28 @@ std::vector<bool> HRCompactFrameCache::changedTiles(const QImage &image) const
         return std::vector<bool>(count, true);
     const Picture &last = m_pictures.back();
     std::vector<bool> changed(count, false);
-    if (!last.tiles) {
-        for (int y = 0; y < image.height(); ++y)
-            markChanges(pixels(image, { 0, y }), pixels(last.whole, { 0, y }), image.width(),
-                y / tileSide * TileGrid(last.size).columns(), &changed);
-        return changed;
+    const bool isDamageKnown = m_lastAdded != 0 && image.damageBase() == m_lastAdded;
+    for (int row = 0; row * tileSide < image.height(); ++row) {
+        const QRect area(0, row * tileSide, image.width(), tileSide);
+        if (isDamageKnown && !image.damage().intersects(area))
+            continue;
+        if (last.tiles)
+            markRow(*(*last.tiles)[row], image, row, &changed);
+        else
+            markRowOfWhole(last.whole, image, row, &changed);
     }
-    for (int row = 0; row < int(last.tiles->size()); ++row)
-        markRow(*(*last.tiles)[row], image, row, &changed);
     return changed;
+}
+
+/// Marks the tiles of a row that differ between two images.
+void HRCompactFrameCache::markRowOfWhole(
+    const QImage &last, const QImage &image, int row, std::vector<bool> *changed)
+{
+    const int bottom = qMin((row + 1) * tileSide, image.height());
+    for (int y = row * tileSide; y < bottom; ++y) {
+        markChanges(pixels(image, { 0, y }), pixels(last, { 0, y }), image.width(),
+            row * TileGrid(image.size()).columns(), changed);
+    }
 }
 
 /// Marks the tiles of a row that differ from those of the picture added last, which is put together
@@ -206,14 +220,18 @@ std::vector<bool> HRCompactFrameCache::changedTiles(const QImage &image) const
 void HRCompactFrameCache::markRow(
     const TileRow &tiles, const QImage &image, int row, std::vector<bool> *changed)
 {
-    const TileGrid grid(image.size());
-    const int first = row * grid.columns();
-    for (int i = 0; i < grid.columns();) {
+    const int columns = int(tiles.size());
+    const int top = row * tileSide;
+    const int height = qMin(tileSide, image.height() - top);
+    const int stride = image.bytesPerLine() / int(sizeof(QRgb));
+    for (int i = 0; i < columns;) {
         const int run = runOfTiles(tiles, i);
-        const QRect area = grid.tile(first + i) | grid.tile(first + i + run - 1);
-        for (int y = 0; y < area.height(); ++y) {
-            markChanges(pixels(image, { area.left(), area.top() + y }),
-                tiles[i].pixels + qint64(y) * tiles[i].stride, area.width(), first + i, changed);
+        const int left = i * tileSide;
+        const int width = qMin(run * tileSide, image.width() - left);
+        const QRgb *const corner = pixels(image, { left, top });
+        for (int y = 0; y < height; ++y) {
+            markChanges(corner + qint64(y) * stride, tiles[i].pixels + qint64(y) * tiles[i].stride,
+                width, row * columns + i, changed);
         }
         i += run;
     }

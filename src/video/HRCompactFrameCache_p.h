@@ -56,10 +56,10 @@ private:
         std::shared_ptr<const TileMap> tiles; // null while it holds no picture
     };
 
-    bool store(const QImage &image, Picture *picture) const;
+    bool store(const HRVideoFrame &image, Picture *picture) const;
     bool storeTiles(const QImage &image, const std::vector<bool> &changed, size_t pixelCount,
         Picture *picture) const;
-    std::vector<bool> changedTiles(const QImage &image) const;
+    std::vector<bool> changedTiles(const HRVideoFrame &image) const;
     TileMap lastMap() const;
     HRVideoFrame assemble(const Picture &picture);
     Buffer takeBuffer(const Picture &picture);
@@ -69,9 +69,12 @@ private:
         const TileRow &tiles, const TileRow *present, int row, HRVideoFrame *target);
     static void markRow(
         const TileRow &tiles, const QImage &image, int row, std::vector<bool> *changed);
+    static void markRowOfWhole(
+        const QImage &last, const QImage &image, int row, std::vector<bool> *changed);
     static int runOfTiles(const TileRow &tiles, int first);
 
     std::vector<Picture> m_pictures;
+    qint64 m_lastAdded = 0; // the last of them, by QImage::cacheKey(); 0 where that was not kept
     HRVideoFrame m_lastRead;
     size_t m_lastReadIndex = 0;
     Buffer m_buffers[2]; // of the last pictures that were put together, the older first

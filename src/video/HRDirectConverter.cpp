@@ -46,12 +46,17 @@ bool HRDirectConverter::prepare(const QSize &size, AVPixelFormat format)
 bool HRDirectConverter::convert(const AVFrame *picture, bool holdsLast, HRVideoFrame *target)
 {
     bool isConverted = true;
+    const qint64 base = holdsLast ? target->cacheKey() : 0;
+    QRegion damage;
     for (int y = 0; y < picture->height; y += m_band.height()) {
         // The last band may share rows with the one before.
         const int top = qMin(y, picture->height - m_band.height());
-        if (!holdsLast || !isLikeLast(picture, top))
-            isConverted = convertBand(picture, top, target) && isConverted;
+        if (holdsLast && isLikeLast(picture, top))
+            continue;
+        isConverted = convertBand(picture, top, target) && isConverted;
+        damage += QRect(QPoint(0, top), m_band);
     }
+    target->setDamage(base, damage);
     av_frame_unref(m_last.get());
     if (isConverted)
         av_frame_ref(m_last.get(), picture); // where it fails, the next one is converted whole

@@ -23,7 +23,7 @@ public:
     /// Gets ready for pictures of @p size and @p format; false on failure.
     bool prepare(const QSize &size, AVPixelFormat format);
 
-    /// @param holdsLast whether @p target still holds what the last call wrote
+    /// Where @p target holds what the last call wrote, it is told what is new in it.
     /// @return false where the picture could not be converted
     bool convert(const AVFrame *picture, bool holdsLast, HRVideoFrame *target);
 

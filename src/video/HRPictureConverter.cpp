@@ -68,6 +68,7 @@ HRVideoFrame HRPictureConverter::convert(const AVFrame *picture)
     const bool holdsLast = takeTarget();
     if (m_target.isNull())
         return m_target;
+    m_target.setDamage(0, QRegion());
     if (isCopied(picture))
         copy(picture, &m_target);
     else if (!(m_isDirect ? m_direct.convert(picture, holdsLast, &m_target)

@@ -25,4 +25,11 @@ HRVideoFrame &HRVideoFrame::operator=(const HRVideoFrame &other) = default;
 
 HRVideoFrame::~HRVideoFrame() = default;
 
+void HRVideoFrame::setDamage(qint64 base, const QRegion &damage)
+{
+    m_damaged = cacheKey();
+    m_damageBase = base;
+    m_damage = damage;
+}
+
 } // namespace Hintreels

@@ -6,6 +6,7 @@
 #include "context/HRExport.h"
 
 #include <QImage>
+#include <QRegion>
 
 namespace Hintreels {
 
@@ -30,8 +31,17 @@ public:
     double pts() const { return m_pts; }
     void setPts(double pts) { m_pts = pts; }
 
+    /// The picture, by its QImage::cacheKey(), that this one is known to be alike outside of
+    /// damage(); 0 where nothing is known, as after writing to it.
+    qint64 damageBase() const { return cacheKey() == m_damaged ? m_damageBase : 0; }
+    QRegion damage() const { return m_damage; }
+    void setDamage(qint64 base, const QRegion &damage);
+
 private:
     double m_pts = 0.0;
+    qint64 m_damaged = 0; // what the damage was set of
+    qint64 m_damageBase = 0;
+    QRegion m_damage;
 };
 
 } // namespace Hintreels

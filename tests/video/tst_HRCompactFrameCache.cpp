@@ -21,6 +21,9 @@ private Q_SLOTS:
     void frames_equalThePlainCache();
     void frames_equalThePlainCache_ofRealClips_data();
     void frames_equalThePlainCache_ofRealClips();
+    void frames_equalThePlainCache_asTheyAreDecoded_data();
+    void frames_equalThePlainCache_asTheyAreDecoded();
+    void addFrame_trustsDamage_onlyOfThePictureBefore();
     void frames_equalThePlainCache_whenSizeAndFormatChange();
     void frame_returnsNull_beyondTheLast();
     void frame_sharesPixels_whenReadAgain();
@@ -66,6 +69,21 @@ Pictures scribbles(const QSize &size, int count)
 }
 
 /// Reads both caches in a random order, each picture several times.
+void compareCaches(HRVideoFrameCache &plain, HRCompactFrameCache &compact)
+{
+    QCOMPARE(compact.length(), plain.length());
+    std::mt19937 random = seeded();
+    for (size_t i = 0; i < 4 * plain.length(); ++i) {
+        const size_t index = random() % (plain.length() + 1);
+        const HRVideoFrame expected = plain.frame(index);
+        const HRVideoFrame actual = compact.frame(index);
+        QCOMPARE(actual.pts(), expected.pts());
+        QCOMPARE(actual.format(), expected.format());
+        QVERIFY2(static_cast<const QImage &>(actual) == static_cast<const QImage &>(expected),
+            qPrintable(QString("picture %1").arg(index)));
+    }
+}
+
 void compareCaches(const Pictures &pictures)
 {
     HRVideoFrameCache plain("x");
@@ -74,17 +92,20 @@ void compareCaches(const Pictures &pictures)
         plain.addFrame(picture);
         compact.addFrame(picture);
     }
-    QCOMPARE(compact.length(), plain.length());
-    std::mt19937 random = seeded();
-    for (size_t i = 0; i < 4 * pictures.size(); ++i) {
-        const size_t index = random() % (pictures.size() + 1);
-        const HRVideoFrame expected = plain.frame(index);
-        const HRVideoFrame actual = compact.frame(index);
-        QCOMPARE(actual.pts(), expected.pts());
-        QCOMPARE(actual.format(), expected.format());
-        QVERIFY2(static_cast<const QImage &>(actual) == static_cast<const QImage &>(expected),
-            qPrintable(QString("picture %1").arg(index)));
-    }
+    compareCaches(plain, compact);
+}
+
+/// Writes a clip of scribbles.
+QString write(const QTemporaryDir &directory, const QByteArray &codec, const QSize &size)
+{
+    TestClip clip;
+    clip.codec = codec;
+    clip.size = size;
+    clip.options = "";
+    clip.pictures = 12;
+    const Pictures drawn = scribbles(size, clip.pictures);
+    return clip.write(directory.filePath("clip.mkv"),
+        [&drawn](const QSize &, int number) { return drawn[size_t(number)]; });
 }
 
 } // namespace
@@ -120,24 +141,64 @@ void tst_HRCompactFrameCache::frames_equalThePlainCache_ofRealClips()
 {
     QFETCH(QByteArray, codec);
     QFETCH(QSize, size);
-    QTemporaryDir directory;
-    TestClip clip;
-    clip.codec = codec;
-    clip.size = size;
-    clip.options = "";
-    clip.pictures = 12;
-    const Pictures drawn = scribbles(size, clip.pictures);
-    const QString path = clip.write(directory.filePath("clip.mkv"),
-        [&drawn](const QSize &, int number) { return drawn[size_t(number)]; });
-
+    const QTemporaryDir directory;
     HRClip reader([] { return false; });
-    QVERIFY(reader.open(path).isNull());
+    QVERIFY(reader.open(write(directory, codec, size)).isNull());
     Pictures decoded;
     for (HRVideoFrame picture = reader.readPicture(); !picture.isNull();
          picture = reader.readPicture())
         decoded.push_back(picture);
-    QCOMPARE(decoded.size(), drawn.size());
+    QCOMPARE(decoded.size(), size_t(12));
     compareCaches(decoded);
+}
+
+void tst_HRCompactFrameCache::frames_equalThePlainCache_asTheyAreDecoded_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("whole tiles") << QSize(160, 96);
+    QTest::newRow("rows of tiles cut off") << QSize(160, 90);
+    QTest::newRow("divided by no tile") << QSize(162, 90);
+}
+
+/// A picture that nobody but the cache gets is converted into what the cache has let go.
+void tst_HRCompactFrameCache::frames_equalThePlainCache_asTheyAreDecoded()
+{
+    QFETCH(QSize, size);
+    const QTemporaryDir directory;
+    HRClip reader([] { return false; });
+    QVERIFY(reader.open(write(directory, "libx264", size)).isNull());
+    HRVideoFrameCache plain("x");
+    HRCompactFrameCache compact("x");
+    for (HRVideoFrame picture = reader.readPicture(); !picture.isNull();
+         picture = reader.readPicture()) {
+        HRVideoFrame own(picture.copy(), 0);
+        own.setPts(picture.pts());
+        plain.addFrame(own);
+        compact.addFrame(picture);
+        picture = HRVideoFrame();
+    }
+    QCOMPARE(compact.length(), size_t(12));
+    compareCaches(plain, compact);
+}
+
+void tst_HRCompactFrameCache::addFrame_trustsDamage_onlyOfThePictureBefore()
+{
+    HRVideoFrame gray(32, 32, QImage::Format_RGB32, 0);
+    gray.fill(Qt::gray);
+    HRVideoFrame red(gray);
+    red.fill(Qt::red);
+    red.setDamage(gray.cacheKey(), QRect(0, 0, 32, 16)); // a lie, to see who believes it
+    HRCompactFrameCache cache("x");
+    cache.addFrame(gray);
+    cache.addFrame(red);
+    QCOMPARE(cache.frame(1).pixelColor(0, 0), QColor(Qt::red));
+    QCOMPARE(cache.frame(1).pixelColor(0, 31), QColor(Qt::red)); // half is new: kept whole
+    red.setDamage(gray.cacheKey(), QRegion());
+    cache.addFrame(gray);
+    cache.addFrame(red);
+    QCOMPARE(cache.frame(3).pixelColor(0, 0), QColor(Qt::gray));
+    cache.addFrame(red);
+    QCOMPARE(cache.frame(4).pixelColor(0, 0), QColor(Qt::red));
 }
 
 void tst_HRCompactFrameCache::frames_equalThePlainCache_whenSizeAndFormatChange()

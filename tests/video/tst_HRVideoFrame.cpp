@@ -19,6 +19,7 @@ private Q_SLOTS:
     void construction_sharesTheImage();
     void copy_sharesPixelsAndKeepsTime();
     void assignment_takesImageAndTime();
+    void damage_isForgotten_whenPixelsChange();
     void construction_yieldsNull_whenSizeCannotBeAllocated();
 };
 
@@ -67,6 +68,19 @@ void tst_HRVideoFrame::assignment_takesImageAndTime()
     other = frame;
     QCOMPARE(other.pts(), 9.0);
     QCOMPARE(static_cast<const QImage &>(other), static_cast<const QImage &>(frame));
+}
+
+void tst_HRVideoFrame::damage_isForgotten_whenPixelsChange()
+{
+    HRVideoFrame frame(4, 3, QImage::Format_RGB32, 0);
+    QCOMPARE(frame.damageBase(), qint64(0));
+    frame.setDamage(7, QRect(1, 1, 2, 2));
+    HRVideoFrame copy(frame);
+    QCOMPARE(copy.damageBase(), qint64(7));
+    QCOMPARE(copy.damage(), QRegion(1, 1, 2, 2));
+    copy.fill(Qt::red);
+    QCOMPARE(copy.damageBase(), qint64(0));
+    QCOMPARE(frame.damageBase(), qint64(7));
 }
 
 void tst_HRVideoFrame::construction_yieldsNull_whenSizeCannotBeAllocated()
