@@ -34,7 +34,7 @@ public:
 private:
     bool isEmpty();
 
-    HRMutex m_mutex;
+    HRMutex m_mutex{ HRLock::queue };
     std::deque<std::unique_ptr<HRVideoSourceChange>> m_changes; // guarded by m_mutex
     HRWakeup m_wakeup;
 };

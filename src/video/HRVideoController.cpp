@@ -46,7 +46,7 @@ struct HRVideoControllerPrivate
     std::atomic<quint64> position{ 0 }; // written under the lock, read without
     // Guards every field but source, due and wakeup. The source's locks are taken while it is held,
     // never the other way round.
-    HRMutex controllerMutex;
+    HRMutex controllerMutex{ HRLock::controller };
     bool shouldQuit = false;
     bool needFrame = true;
     bool scrubbing = false;

@@ -28,11 +28,11 @@ struct HRVideoSourceFFMPEGPrivate
     // never held together with decoderMutex. decoderMutex is held while a picture is read, decoded
     // and converted; what others ask for therefore stands in status, under a lock that is held
     // shortly.
-    HRMutex decoderMutex;
+    HRMutex decoderMutex{ HRLock::decoder };
     HRClip clip; // guarded by decoderMutex
     QString path; // of that clip; guarded by decoderMutex
     HRVideoClock clock; // guarded by decoderMutex
-    HRMutex statusMutex;
+    HRMutex statusMutex{ HRLock::status };
     HRClipStatus status; // guarded by statusMutex
     std::atomic<bool> decodingPaused{ false };
     std::atomic<int> largestPicture{ HRVideoSourceFFMPEG::standardLargestPicture }; // megapixels

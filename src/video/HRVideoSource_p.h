@@ -16,8 +16,8 @@ struct HRVideoSourcePrivate
     QUrl source; // guarded by stateMutex
     bool shouldQuit = false; // guarded by stateMutex
     HRVideoSource::Action action = HRVideoSource::idleAction; // guarded by stateMutex
-    HRMutex frameMutex;
-    HRMutex stateMutex;
+    HRMutex frameMutex{ HRLock::frame };
+    HRMutex stateMutex{ HRLock::state };
     HRVideoActionQueue changes;
     std::unique_ptr<HRVideoFrameCache> cache; // guarded by frameMutex, contents included
     std::shared_ptr<HRWakeup> reader; // guarded by frameMutex; rung at the first picture of a clip

@@ -106,11 +106,12 @@ public:
     double gap(size_t index) const { return m_moments.at(index) - m_moments.at(index - 1); }
 
     /// By how much any came before its turn, with @p period between two; below 0 where none did.
+    /// The first could come when this was made, and may itself be late.
     double aheadOf(double period) const
     {
         double ahead = -period;
         for (size_t i = 1; i < count(); ++i)
-            ahead = std::max(ahead, double(i) * period - (m_moments[i] - m_moments[0]));
+            ahead = std::max(ahead, double(i) * period - m_moments[i]);
         return ahead;
     }
 
