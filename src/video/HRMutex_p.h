@@ -18,8 +18,8 @@ namespace Hintreels {
 /// A recursive QMutex that ThreadSanitizer knows about.
 ///
 /// Qt's mutexes live in a library that the sanitizer does not see into, so in a build with
-/// -fsanitize=thread this class tells it of each step. A build with assertions ends the program where
-/// a thread takes a lock out of order. In any other it is the mutex alone.
+/// -fsanitize=thread this class tells it of each step. A build with assertions ends the program
+/// where a thread takes a lock out of order. In any other it is the mutex alone.
 class HRMutex
 {
 public:
