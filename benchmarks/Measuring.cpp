@@ -24,6 +24,7 @@ void keepMemory()
 {
     ::mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
     ::mallopt(M_MMAP_MAX, 0);
+    ::mallopt(M_ARENA_MAX, 1); // those of threads give back what is free of them all the same
 }
 
 void emptyCaches()
