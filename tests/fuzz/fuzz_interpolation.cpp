@@ -4,6 +4,7 @@
 #include "fuzz/FuzzTarget.h"
 #include "manager/HRInterpolation_p.h"
 #include "support/Promises.h"
+#include "support/RepeatedSearch.h"
 
 #include <QRegExp>
 
@@ -39,20 +40,6 @@ QString acyclic(const QString &value, int number)
         result.append(value.at(at) != '%' || leadsOn ? value.at(at) : QChar('.'));
     }
     return result;
-}
-
-/// The definition, word for word: search, replace, search again from the same place.
-QString searchedRepeatedly(QString text, const Values &values)
-{
-    const QRegExp pattern(QStringLiteral("\\%\\(([-_a-zA-Z0-9]+)\\)s"));
-    for (int at = pattern.indexIn(text); at >= 0; at = pattern.indexIn(text, at)) {
-        const QString value = values.value(pattern.cap(1)).toString();
-        if (value.isNull())
-            at += pattern.matchedLength();
-        else
-            text.replace(at, pattern.matchedLength(), value);
-    }
-    return text;
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "manager/HRInterpolation_p.h"
+#include "support/RepeatedSearch.h"
 
 #include <QtTest>
 
@@ -64,20 +65,6 @@ void tst_HRInterpolation::interpolated_replacesPlaceholders()
     QFETCH(QString, text);
     QFETCH(Values, values);
     QTEST(interpolated(text, values), "expected");
-}
-
-// The definition, word for word: search, replace, search again from the same place.
-static QString searchedRepeatedly(QString text, const Values &values)
-{
-    const QRegExp pattern("\\%\\(([-_a-zA-Z0-9]+)\\)s");
-    for (int at = pattern.indexIn(text); at >= 0; at = pattern.indexIn(text, at)) {
-        const QString value = values.value(pattern.cap(1)).toString();
-        if (value.isNull())
-            at += pattern.matchedLength();
-        else
-            text.replace(at, pattern.matchedLength(), value);
-    }
-    return text;
 }
 
 void tst_HRInterpolation::interpolated_agreesWithRepeatedSearch()
