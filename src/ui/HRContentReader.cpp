@@ -16,7 +16,6 @@
 #include "video/HRClipSize_p.h"
 
 #include <QQuickTextDocument>
-#include <QQuickWindow>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -127,11 +126,8 @@ QVariantList HRContentReader::captions(const QString &path) const
     return captions;
 }
 
-void HRContentReader::returnMemory(QQuickWindow *window) const
+void HRContentReader::returnMemory() const
 {
-    // What is visible is painted by itself.
-    if (window && !window->isVisible())
-        window->grabWindow();
     trimHeap();
 }
 

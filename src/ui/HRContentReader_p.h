@@ -17,7 +17,6 @@
 
 QT_BEGIN_NAMESPACE
 class QQuickTextDocument;
-class QQuickWindow;
 class QTextDocument;
 QT_END_NAMESPACE
 
@@ -86,11 +85,9 @@ public:
     /// What is shown of a caption, at most 500 UTF-16 units.
     Q_INVOKABLE QString caption(const QString &text) const;
 
-    /// Gives memory back to the system that taken-down clips held: a hidden window would keep what
-    /// it painted of them until it is shown again, and the allocator what is free. Takes some
-    /// milliseconds.
-    /// @param window in which they were; may be null
-    Q_INVOKABLE void returnMemory(QQuickWindow *window) const;
+    /// Gives memory back to the system that taken-down clips held and the allocator keeps. Takes
+    /// some milliseconds.
+    Q_INVOKABLE void returnMemory() const;
 
     /// What a link shows behind its text of where it leads, in one line; empty where its author is
     /// trusted, or where the text says it.

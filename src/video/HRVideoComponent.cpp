@@ -168,8 +168,10 @@ void HRVideoComponent::setDecodingPaused(bool paused)
 
 void HRVideoComponent::paint(QPainter *painter)
 {
-    if (!m_frame.isNull())
-        painter->drawImage(QPoint(0, 0), m_frame);
+    if (m_frame.isNull())
+        return;
+    painter->setRenderHint(QPainter::SmoothPixmapTransform, antialiasing());
+    painter->drawImage(QPoint(0, 0), m_frame);
 }
 
 void HRVideoComponent::frameReady()

@@ -100,6 +100,6 @@ Column {
     Timer {
         id: leftover
         interval: 200
-        onTriggered: hintreelReader.returnMemory(list.Window.window)
+        onTriggered: hintreelReader.returnMemory()
     }
 }

@@ -28,6 +28,12 @@ Item {
     readonly property real justBeforeTheEnd: 0.999999
     readonly property QtObject hostWindow: Window.window
 
+    function textureSize(screenScale) {
+        const fraction = Math.min(1, width * screenScale / Math.max(1, video.implicitWidth))
+        return Qt.size(Math.ceil(video.implicitWidth * fraction),
+                       Math.ceil(video.implicitHeight * fraction))
+    }
+
     function toggle() {
         if (ended)
             video.progress = 0
@@ -91,8 +97,9 @@ Item {
         id: video
         width: implicitWidth
         height: implicitHeight
-        // As many pixels as the clip has; the screen's own scaling does the rest.
-        textureSize: Qt.size(implicitWidth, implicitHeight)
+        // As many pixels as the screen shows of it: a hidden window keeps them.
+        textureSize: clip.textureSize(Screen.devicePixelRatio)
+        antialiasing: true
         transform: Scale {
             xScale: video.implicitWidth > 0 ? clip.width / video.implicitWidth : 1
             yScale: video.implicitHeight > 0 ? clip.height / video.implicitHeight : 1
