@@ -112,7 +112,16 @@ HintHost::HintHost(const std::function<void(HRContext &)> &configure)
         qFatal("the host's window does not become active");
 }
 
-HintHost::~HintHost() = default;
+HintHost::~HintHost()
+{
+    // The news that the program is no longer active would take the next host's popup away.
+    m_interface.reset();
+    window.hide();
+    QElapsedTimer time;
+    time.start();
+    while (QGuiApplication::applicationState() == Qt::ApplicationActive && !time.hasExpired(1000))
+        QTest::qWait(10); // where a press has gone to the popup, the news never come
+}
 
 HRManager *HintHost::manager() const
 {

@@ -155,7 +155,7 @@ void tst_x11_popup::popup_isFullyVisible_atScreenEdges_data()
 void tst_x11_popup::popup_isFullyVisible_atScreenEdges()
 {
     QFETCH(QPoint, pointer);
-    HintHost host;
+    HintHost host([](HRContext &context) { context.set(hideDelayKey, 0); }); // it is not hovered
 
     host.show(host.red, pointer);
 
