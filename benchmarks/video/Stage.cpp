@@ -3,6 +3,8 @@
 
 #include "Stage.h"
 
+#include "video/HRVideoSource.h"
+
 #include "Measuring.h"
 
 #include <QCoreApplication>
@@ -54,11 +56,13 @@ void Stage::runUntil(const std::function<bool()> &done)
 
 void Stage::load()
 {
+    // Its end pauses the item, so whoever plays before that is told has seen nothing.
+    bool hasEnded = false;
+    const auto *source = item->findChild<Hintreels::HRVideoSource *>();
+    const QMetaObject::Connection watch = QObject::connect(
+        source, &Hintreels::HRVideoSource::streamEnded, &view, [&hasEnded] { hasEnded = true; });
     item->startWatch();
     setSource();
-    // Sizes fall back to those of no clip as soon as all of it is decoded.
-    runUntil([this] {
-        return item->loadProgress() == 1.0 && item->contentWidth() == 200.0
-            && !item->paintings.isEmpty();
-    });
+    runUntil([&] { return hasEnded && !item->paintings.isEmpty(); });
+    QObject::disconnect(watch);
 }
