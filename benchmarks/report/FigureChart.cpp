@@ -10,7 +10,7 @@ namespace {
 // Pixels. Names stand left of the plot, and the plot ends somewhat behind the bars.
 constexpr int RowHeight = 18;
 constexpr int Top = 34;
-constexpr int Left = 460;
+constexpr int Left = 500;
 constexpr int BarWidth = 400;
 constexpr int Right = 80;
 constexpr double MostShare = 1.15;
@@ -62,7 +62,7 @@ QString chart(const FigureSpreads &spreads)
                           "<style>.spread{stroke:#6b7785;stroke-width:3}.good{fill:#1a6fb0}"
                           ".missed{fill:#c0392b}.bar{stroke:#c0392b;stroke-width:2}"
                           ".grid{stroke:#d5dade}</style>\n"
-                          "<rect width='100%' height='100%' fill='white'/>\n")
+                          "<rect width='%1' height='%2' fill='white'/>\n")
                .arg(Left + BarWidth + Right)
                .arg(bottom + 10)
         + upright(0, "grid", bottom) + upright(0.5, "grid", bottom) + upright(1, "bar", bottom)
