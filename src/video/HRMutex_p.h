@@ -4,14 +4,11 @@
 #pragma once
 
 #include "video/HRHeldLocks_p.h"
+#include "video/HRSchedule_p.h"
 
 #include <QMutex>
 
 #include <mutex>
-
-#ifdef __SANITIZE_THREAD__
-#include <sanitizer/tsan_interface.h>
-#endif
 
 namespace Hintreels {
 
@@ -40,6 +37,7 @@ public:
 
     void lock()
     {
+        HRSchedule::step();
         noteTaken();
         beforeLock(0);
         m_mutex.lock();
@@ -49,6 +47,7 @@ public:
     /// @return false where the lock cannot be had within @p milliseconds
     bool tryLock(int milliseconds)
     {
+        HRSchedule::step();
 #ifdef __SANITIZE_THREAD__
         beforeLock(__tsan_mutex_try_lock);
         const bool locked = m_mutex.tryLock(milliseconds);
@@ -71,6 +70,7 @@ public:
 #else
         m_mutex.unlock();
 #endif
+        HRSchedule::step();
     }
 
 private:

@@ -5,6 +5,7 @@
 
 #include "video/HRMutex_p.h"
 #include "video/HRPacing_p.h"
+#include "video/HRSchedule_p.h"
 #include "video/HRVideoSource.h"
 #include "video/HRWakeup_p.h"
 
@@ -309,8 +310,10 @@ bool HRVideoController::shouldQuit() const
 void HRVideoController::quit()
 {
     setShouldQuit();
-    if (wait(quitTime))
+    if (wait(quitTime)) {
+        HRSchedule::hasEnded(this);
         return;
+    }
     qDebug("HRVideoController did not quit in a timely fashion");
     terminate();
     if (!wait(quitTime))
@@ -343,6 +346,7 @@ void HRVideoController::sourceLoaded()
 void HRVideoController::run()
 {
     using Private = HRVideoControllerPrivate;
+    const HRSchedule::Work work(this);
     while (!shouldQuit()) {
         if (!d->controllerMutex.tryLock(longestLockWait))
             continue;

@@ -3,6 +3,7 @@
 
 #include "video/HRVideoSource.h"
 
+#include "video/HRSchedule_p.h"
 #include "video/HRVideoSource_p.h"
 
 #include <QDebug>
@@ -115,8 +116,10 @@ void HRVideoSource::setShouldQuit()
 void HRVideoSource::quit()
 {
     setShouldQuit();
-    if (wait(quitTime))
+    if (wait(quitTime)) {
+        HRSchedule::hasEnded(this);
         return;
+    }
     qDebug("HRVideoSource did not quit in a timely fashion");
     terminate();
     if (!wait(quitTime))
@@ -234,14 +237,12 @@ std::unique_ptr<HRVideoFrameCache> HRVideoSource::createCache(const QString &nam
 
 void HRVideoSource::dropClip()
 {
+    const HRSchedule::Work work(this);
     std::unique_ptr<HRVideoFrameCache> dropped;
     {
         const HRMutexLocker lock(d->frameMutex);
         d->cache.swap(dropped);
     }
-    dropped.reset();
-    // The destructor takes this lock, too: ThreadSanitizer does not see that it waits.
-    shouldQuit();
 }
 
 } // namespace Hintreels

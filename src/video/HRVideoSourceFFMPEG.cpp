@@ -6,6 +6,7 @@
 #include "video/HRCompactFrameCache_p.h"
 #include "video/HRMediaFile_p.h"
 #include "video/HRRetiredSources_p.h"
+#include "video/HRSchedule_p.h"
 #include "video/HRVideoSourceFFMPEG_p.h"
 
 #include <QDebug>
@@ -155,6 +156,7 @@ double HRVideoSourceFFMPEG::progress()
 
 void HRVideoSourceFFMPEG::run()
 {
+    const HRSchedule::Work work(this);
     while (!shouldQuit()) {
         processActionQueue();
         switch (action()) {

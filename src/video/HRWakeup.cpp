@@ -3,10 +3,13 @@
 
 #include "video/HRWakeup_p.h"
 
+#include "video/HRSchedule_p.h"
+
 namespace Hintreels {
 
 void HRWakeup::ring()
 {
+    HRSchedule::step();
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_rung = true;
@@ -16,6 +19,7 @@ void HRWakeup::ring()
 
 bool HRWakeup::waitUntil(std::chrono::steady_clock::time_point latest)
 {
+    HRSchedule::step();
     std::unique_lock<std::mutex> lock(m_mutex);
     const bool rung = m_condition.wait_until(lock, latest, [this] { return m_rung; });
     m_rung = false;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "support/TestClip.h"
+#include "video/HRSchedule_p.h"
 #include "video/HRVideoSource.h"
 
 #include <atomic>
@@ -51,6 +52,7 @@ public:
 protected:
     void run() override
     {
+        const Hintreels::HRSchedule::Work work(this);
         while (!shouldQuit()) {
             processActionQueue();
             rest();
