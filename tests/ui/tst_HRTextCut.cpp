@@ -15,6 +15,8 @@ private Q_SLOTS:
     void cutText_cutsBetweenCharacters_data();
     void cutText_cutsBetweenCharacters();
     void cutText_endsInAnEllipsis_whereAHugeTextIsCut();
+    void cutText_keepsCharactersWhole_farInAText_data();
+    void cutText_keepsCharactersWhole_farInAText();
 };
 
 void tst_HRTextCut::cutText_cutsBetweenCharacters_data()
@@ -68,6 +70,31 @@ void tst_HRTextCut::cutText_endsInAnEllipsis_whereAHugeTextIsCut()
 
     QCOMPARE(cutText(letters, 300), QString(299, 'a') + ellipsis);
     QCOMPARE(cutText(marks, 300), QString(ellipsis));
+}
+
+void tst_HRTextCut::cutText_keepsCharactersWhole_farInAText_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("character"); // one for a reader, many to the machine
+
+    const QString pairs = QString::fromUtf8("🇩🇪🇫🇷").repeated(300);
+    QTest::newRow("flag") << pairs << QString::fromUtf8("🇩🇪");
+    QTest::newRow("flag behind a letter") << "a" + pairs << QString::fromUtf8("🇩🇪");
+    QTest::newRow("flag behind letters") << QString(1000, 'a') << QString::fromUtf8("🇩🇪");
+    QTest::newRow("family") << QString(1000, 'a') << QString::fromUtf8("👨‍👩‍👧");
+    QTest::newRow("letter with marks") << QString(1000, ' ') << 'a' + QString(300, QChar(0x301));
+    QTest::newRow("letter with a tone in a script without blanks")
+        << QString::fromUtf8("ก").repeated(1000) << QString::fromUtf8("ก่");
+}
+
+void tst_HRTextCut::cutText_keepsCharactersWhole_farInAText()
+{
+    QFETCH(QString, before);
+    QFETCH(QString, character);
+    const QString text = before + character + "b";
+
+    for (int i = 1; i <= character.size(); ++i)
+        QCOMPARE(cutText(text, before.size() + i), before + ellipsis);
 }
 
 QTEST_MAIN(tst_HRTextCut)
