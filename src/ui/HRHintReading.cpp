@@ -9,6 +9,8 @@
 #include "ui/HRKeyCaps_p.h"
 #include "ui/HRTextCut_p.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <utility>
 
@@ -19,7 +21,7 @@ namespace {
 constexpr int longestTitle = 300;
 constexpr int longestLine = 1'000; // a summary, a shortcut, what a picture shows
 constexpr int longestBlock = 10'000;
-constexpr int longestList = 300; // lines of Markdown: Qt reads lists in quadratic time
+constexpr int longestList = 300; // lines of Markdown or items: Qt reads lists in quadratic time
 constexpr int mostBlocks = 200;
 
 // What is longer is cut before anything looks through it, and is translated no more.
@@ -105,15 +107,15 @@ bool showsSomething(const QVariantMap &block)
     return needed != neededOfBlock.constEnd() && !isBlank(block.value(*needed).toString());
 }
 
+/// A line that opens lists within lists makes an item of each, like as many lines.
 QString cutLines(const QString &markdown)
 {
-    int end = -1;
-    for (int line = 0; line < longestList; ++line) {
-        end = markdown.indexOf('\n', end + 1);
-        if (end < 0)
-            return markdown;
-    }
-    return markdown.left(end + 1) + ellipsis;
+    static const QRegularExpression itemEnd(
+        R"(\n|[-*+.)][ \t>]++(?=(?:[-*+]|[0-9]{1,9}[.)])[ \t\n]))");
+    auto ends = itemEnd.globalMatch(markdown);
+    for (int item = 1; item < longestList && ends.hasNext(); ++item)
+        ends.next();
+    return ends.hasNext() ? markdown.left(ends.next().capturedEnd()) + ellipsis : markdown;
 }
 
 void takeLine(QVariantMap *block, const QString &name, const HRSay &say, HRHintRoom *room)

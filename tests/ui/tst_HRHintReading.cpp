@@ -65,6 +65,9 @@ private Q_SLOTS:
     void readHint_cutsBlocks_data();
     void readHint_cutsBlocks();
     void readHint_cutsLines();
+    void readHint_cutsListsInALine_likeLines_data();
+    void readHint_cutsListsInALine_likeLines();
+    void readHint_cutsNoMarks_whichOpenNoList();
     void readHint_showsNoMoreThanTheHintHolds();
     void readHint_showsNoMoreThanTheHintHolds_ofKeys();
     void readHint_showsNoMoreBlocks();
@@ -216,6 +219,34 @@ void tst_HRHintReading::readHint_cutsLines()
 
     QCOMPARE(hint.textOf(0), QString("a\n").repeated(300) + more);
     QCOMPARE(hint.textOf(1), QString("- a\n").repeated(299) + "- b");
+}
+
+void tst_HRHintReading::readHint_cutsListsInALine_likeLines_data()
+{
+    QTest::addColumn<QString>("marker");
+
+    for (const char *marker : { "- ", "* ", "+ ", "1. ", "23) ", "-   ", "- > ", "-\t" })
+        QTest::newRow(marker) << marker;
+}
+
+void tst_HRHintReading::readHint_cutsListsInALine_likeLines()
+{
+    QFETCH(QString, marker);
+    Hint hint;
+    hint.add("text", marker.repeated(300) + "a");
+    hint.add("text", marker.repeated(301) + "a");
+
+    QCOMPARE(hint.textOf(0), marker.repeated(300) + "a");
+    QCOMPARE(hint.textOf(1), marker.repeated(300) + more);
+}
+
+void tst_HRHintReading::readHint_cutsNoMarks_whichOpenNoList()
+{
+    const QString marks = QString("a - b, 2 * 3; ").repeated(400);
+    Hint hint;
+    hint.add("text", marks + "end");
+
+    QCOMPARE(hint.textOf(0), marks + "end");
 }
 
 void tst_HRHintReading::readHint_showsNoMoreThanTheHintHolds()
