@@ -89,6 +89,8 @@ private Q_SLOTS:
     void ui_loadsWithoutTrouble_data();
     void ui_loadsWithoutTrouble();
     void ui_keepsItsWidth_andGrowsInHeight();
+    void ui_asksNoBlockForAWidth_data();
+    void ui_asksNoBlockForAWidth();
     void ui_hasItsSizeAtOnce_data();
     void ui_hasItsSizeAtOnce();
     void ui_hasItsSize_onceFilesAreMeasured_data();
@@ -169,6 +171,31 @@ void tst_StandardUi::ui_keepsItsWidth_andGrowsInHeight()
     QTRY_VERIFY(fixture.view()->height() > 3 * small.height());
     QCOMPARE(fixture.view()->width(), small.width());
     QVERIFY(small.height() < 80);
+}
+
+void tst_StandardUi::ui_asksNoBlockForAWidth_data()
+{
+    QTest::addColumn<QByteArray>("block");
+
+    QTest::newRow("text") << QByteArray("<text>A text</text>");
+    QTest::newRow("note") << QByteArray("<note>A note</note>");
+    QTest::newRow("keys") << QByteArray("<keys press=\"A\">Does it.</keys>");
+    QTest::newRow("link") << QByteArray("<link to=\"page\">There</link>");
+}
+
+/// Where it does, Qt lays a text out twice more: without wrapping, and again as it was.
+void tst_StandardUi::ui_asksNoBlockForAWidth()
+{
+    QFETCH(QByteArray, block);
+    StandardUiFixture fixture(hint(block));
+
+    fixture.show();
+
+    const QList<QQuickItem *> items = fixture.item("blocks")->childItems();
+    const auto loader = std::find_if(
+        items.begin(), items.end(), [](const QQuickItem *item) { return item->height() > 0; });
+    QVERIFY(loader != items.end());
+    QCOMPARE((*loader)->implicitWidth(), 0.0);
 }
 
 void tst_StandardUi::ui_hasItsSizeAtOnce_data()
