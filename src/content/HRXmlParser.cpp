@@ -6,6 +6,7 @@
 #include "content/HRElementClass_p.h"
 #include "content/HRXmlDocument_p.h"
 #include "content/HRXmlElement.h"
+#include "context/HRPrintable_p.h"
 
 #include <QDebug>
 #include <QMap>
@@ -41,6 +42,11 @@ int modeOfAnswer(int answer)
     return answer & takeMode ? takeMode : askMode;
 }
 
+void log(const QString &message)
+{
+    qDebug().noquote() << printable(message);
+}
+
 /// Writes every attribute to the property of its name; false where there is no such property.
 bool writeProperties(
     QObject *object, const QMetaObject &metaObject, const QXmlAttributes &attributes)
@@ -49,13 +55,12 @@ bool writeProperties(
         const QString name = attributes.localName(i);
         const int index = metaObject.indexOfProperty(name.toLatin1().constData());
         if (index < 0) {
-            qDebug().noquote()
-                << QStringLiteral("No Property named %1 on %2").arg(name, metaObject.className());
+            log(QStringLiteral("No Property named %1 on %2").arg(name, metaObject.className()));
             return false;
         }
         if (!metaObject.property(index).write(object, attributes.value(i))) {
-            qDebug().noquote() << QStringLiteral("Could not write \"%1\" to property %2 of %3")
-                                      .arg(attributes.value(i), name, metaObject.className());
+            log(QStringLiteral("Could not write \"%1\" to property %2 of %3")
+                    .arg(attributes.value(i), name, metaObject.className()));
         }
     }
     return true;
@@ -63,7 +68,7 @@ bool writeProperties(
 
 void logMissingClass(const QString &localName)
 {
-    qDebug().noquote() << QStringLiteral("Could not find object for element: %1").arg(localName);
+    log(QStringLiteral("Could not find object for element: %1").arg(localName));
 }
 
 /// Makes an object of the class, or logs why there is none. A class that takes the attributes
@@ -247,10 +252,10 @@ bool HRXmlParser::ignorableWhitespace(const QString &text)
 bool HRXmlParser::fatalError(const QXmlParseException &exception)
 {
     const QString refusal = d->document->guard().refusal();
-    qDebug().noquote() << QStringLiteral("Fatal error at %1,%2 : %3")
-                              .arg(exception.lineNumber())
-                              .arg(exception.columnNumber() + d->document->skippedInLine())
-                              .arg(refusal.isEmpty() ? exception.message() : refusal);
+    log(QStringLiteral("Fatal error at %1,%2 : %3")
+            .arg(exception.lineNumber())
+            .arg(exception.columnNumber() + d->document->skippedInLine())
+            .arg(refusal.isEmpty() ? exception.message() : refusal));
     return false;
 }
 

@@ -3,6 +3,7 @@
 
 #include "index/HRIndexDatabase_p.h"
 
+#include "context/HRPrintable_p.h"
 #include "index/HRPosixFile_p.h"
 
 #include <QCoreApplication>
@@ -80,7 +81,7 @@ bool isOurRow(
 
 void reportSqlError(const char *message, const QSqlError &error)
 {
-    qDebug().noquote() << QLatin1String(message) + error.text();
+    qDebug().noquote() << printable(QLatin1String(message) + error.text());
 }
 
 bool isDamage(const QSqlError &error)

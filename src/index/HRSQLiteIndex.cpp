@@ -5,6 +5,7 @@
 
 #include "content/HRXmlElement.h"
 #include "context/HRContext.h"
+#include "context/HRPrintable_p.h"
 #include "context/HRSetting_p.h"
 #include "index/HRControlTree_p.h"
 #include "index/HRHeldEntries_p.h"
@@ -182,7 +183,7 @@ HRXmlElement *HRSQLiteIndex::retrieve(
         return nullptr;
     depth = file->depth;
     directory = QFileInfo(file->path).absolutePath();
-    qDebug().noquote() << QStringLiteral("SQL load from ") + file->path;
+    qDebug().noquote() << printable(QStringLiteral("SQL load from ") + file->path);
     return load(key, file->path, locale, root);
 }
 
@@ -307,7 +308,7 @@ bool HRSQLiteIndex::openAt(const QString &path)
 {
     const QString connection
         = setting(context(), indexConnectionKey, QStringLiteral("__Hintreels_Index__"));
-    qDebug().noquote() << QStringLiteral("Creating index database in ") + path;
+    qDebug().noquote() << printable(QStringLiteral("Creating index database in ") + path);
     if (!d->database.open(connection, path, tableNames(), isOwnPlace(path))) {
         if (!d->database.isDamaged())
             qDebug().noquote() << "Could not open index database. Index will be disabled";

@@ -3,6 +3,7 @@
 
 #include "video/HRVideoSourceFFMPEG.h"
 
+#include "context/HRPrintable_p.h"
 #include "video/HRCompactFrameCache_p.h"
 #include "video/HRMediaFile_p.h"
 #include "video/HRRetiredSources_p.h"
@@ -229,7 +230,7 @@ bool HRVideoSourceFFMPEG::openMedia()
     }
     // An opening that was broken off says nothing about the file.
     if (!shouldQuit())
-        qDebug().noquote() << failure.arg(path);
+        qDebug().noquote() << printable(failure.arg(path));
     return false;
 }
 
@@ -276,10 +277,10 @@ bool HRVideoSourceFFMPEG::decodeNextFrame()
 void HRVideoSourceFFMPEG::reportEnd(const QString &failure, const QString &path)
 {
     if (!failure.isNull())
-        qDebug().noquote() << failure.arg(path);
+        qDebug().noquote() << printable(failure.arg(path));
     else if (loadedFrameCount() == 0)
-        qDebug().noquote()
-            << QStringLiteral("Could not decode any picture in media at: %1").arg(path);
+        qDebug().noquote() << printable(
+            QStringLiteral("Could not decode any picture in media at: %1").arg(path));
 }
 
 // Whoever finds nothing to decode asks for it, and so does the loop; actionChanged() tells of each.

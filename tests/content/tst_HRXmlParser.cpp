@@ -4,6 +4,7 @@
 #include "content/HRXmlElement.h"
 #include "content/HRXmlParser.h"
 #include "support/MessageGuard.h"
+#include "support/MisleadingNames.h"
 
 #include <QBuffer>
 #include <QPointer>
@@ -136,6 +137,8 @@ private Q_SLOTS:
     void read_goesOn_whenPropertyRejectsValue();
     void read_stops_whenNoObjectCanBeMade();
     void read_stops_whenThereIsNoClass();
+    void messages_areOneLine_data();
+    void messages_areOneLine();
     void read_dropsText_whenClassTakesNone();
     void read_trimsTagName();
     void read_keepsAttributes_whenElementTakesThem();
@@ -337,6 +340,31 @@ void tst_HRXmlParser::read_stops_whenThereIsNoClass()
     QCOMPARE(objects.size(), 0);
     QVERIFY(messages.take("Could not find object for element: a"));
     QCOMPARE(messages.takeMessages().size(), 1);
+}
+
+void tst_HRXmlParser::messages_areOneLine_data()
+{
+    addMisleadingNames();
+}
+
+// Only the value of an attribute may have such characters, as references.
+void tst_HRXmlParser::messages_areOneLine()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, told);
+    MessageGuard messages;
+    HRXmlParser parser;
+    parser.registerElement("note", &Note::staticMetaObject);
+    QString references;
+    for (const QChar c : qAsConst(name))
+        references += QString("&#%1;").arg(c.unicode());
+    const Objects objects(parser, QString("<note title='%1' rank='%1'/>").arg(references));
+    const auto *note = qobject_cast<Note *>(objects.at(0));
+    QVERIFY(note);
+    QCOMPARE(note->title, name);
+    QCOMPARE(messages.takeMessages(),
+        QStringList{ QString("Could not write \"%1\" to property rank of %2")
+                         .arg(told, Note::staticMetaObject.className()) });
 }
 
 void tst_HRXmlParser::read_dropsText_whenClassTakesNone()

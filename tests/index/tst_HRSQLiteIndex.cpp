@@ -5,6 +5,7 @@
 
 #include "content/HRXmlElement.h"
 #include "index/HRSQLiteIndex.h"
+#include "support/MisleadingNames.h"
 #include "support/TestPackage.h"
 
 #include <QDir>
@@ -68,6 +69,8 @@ private Q_SLOTS:
     void store_outsideAnUpdate_remembersTheFileInMemory();
     void store_bindsValues();
     void store_reportsAMissingTable();
+    void messages_areOneLine_data();
+    void messages_areOneLine();
     void packageMap_staysEmpty();
     void close_removesTheFile_asTheSettingSays_data();
     void close_removesTheFile_asTheSettingSays();
@@ -699,6 +702,34 @@ void tst_HRSQLiteIndex::store_reportsAMissingTable()
              "Could not insert package:", "Could not insert item:" })
         QVERIFY2(messages.contains(message), qPrintable(messages));
     fixture.index.endUpdate();
+}
+
+void tst_HRSQLiteIndex::messages_areOneLine_data()
+{
+    addMisleadingNames();
+}
+
+void tst_HRSQLiteIndex::messages_areOneLine()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, told);
+    SqliteIndexFixture fixture(false);
+    fixture.context.set(indexFileNameKey, name);
+    QVERIFY(fixture.index.open());
+    QVERIFY(fixture.messages.take(
+        "Creating index database in " + fixture.databaseDirectory() + '/' + told));
+
+    const QString file = fixture.add("A", name + ".xml", "<hintreel key='pen' n='1'/>");
+    QCOMPARE(fixture.found("pen"), QString("1"));
+    QVERIFY(fixture.messages.take("SQL load from " + QString(file).replace(name, told)));
+
+    fixture.rows("CREATE TRIGGER t BEFORE INSERT ON hintreels BEGIN SELECT RAISE(ABORT, '" + name
+        + "'); END");
+    fixture.add("A", "b.xml", "<hintreel key='line'/>");
+    const QStringList messages = fixture.messages.takeMessages();
+    QVERIFY2(messages.join('|').contains("Could not insert item:" + told),
+        qPrintable(messages.join('|')));
+    QCOMPARE(messages.filter(name), QStringList());
 }
 
 void tst_HRSQLiteIndex::packageMap_staysEmpty()

@@ -4,6 +4,7 @@
 #include "video/HRVideoSourceFFMPEG.h"
 
 #include "support/MessageGuard.h"
+#include "support/MisleadingNames.h"
 #include "support/SignalCounter.h"
 #include "support/TestClip.h"
 #include "support/TestFile.h"
@@ -34,6 +35,8 @@ private Q_SLOTS:
     void clipWithoutPictures_isTold_afterItsEnd();
     void clipThatGrowsTooLarge_isTold_afterItsEnd();
     void clipWithoutPictures_isNotTold_whenAskedToStop();
+    void messages_areOneLine_data();
+    void messages_areOneLine();
     void emptySource_closesInSilence();
     void closeAction_closesTheClip();
     void quitAction_endsTheThread();
@@ -47,6 +50,7 @@ private Q_SLOTS:
 private:
     QString path(const QString &name) const { return m_directory.filePath(name); }
     QUrl clip(const QString &name, int pictures = 8);
+    QByteArray growingClip();
 
     QTemporaryDir m_directory;
     QUrl m_clip;
@@ -101,6 +105,15 @@ QUrl tst_HRVideoSourceFFMPEG::clip(const QString &name, int pictures)
     encoded.rate = 25;
     encoded.pictures = pictures;
     return QUrl::fromLocalFile(encoded.write(path(name)));
+}
+
+/// Its last pictures have more than a megapixel.
+QByteArray tst_HRVideoSourceFFMPEG::growingClip()
+{
+    TestClip encoded;
+    const QByteArray small = contentOf(encoded.write(path("small.h264")));
+    encoded.size = QSize(1600, 1000);
+    return small + contentOf(encoded.write(path("large.h264")));
 }
 
 void tst_HRVideoSourceFFMPEG::newSource_hasNothingOpen()
@@ -262,11 +275,7 @@ void tst_HRVideoSourceFFMPEG::clipWithoutPictures_isTold_afterItsEnd()
 
 void tst_HRVideoSourceFFMPEG::clipThatGrowsTooLarge_isTold_afterItsEnd()
 {
-    TestClip encoded;
-    QByteArray content = contentOf(encoded.write(path("small.h264")));
-    encoded.size = QSize(1600, 1000);
-    content += contentOf(encoded.write(path("large.h264")));
-    const QString file = writeFile(path("grows.h264"), content);
+    const QString file = writeFile(path("grows.h264"), growingClip());
     MessageGuard messages;
     Decoding decoding;
     decoding.source.setLargestPicture(1);
@@ -289,6 +298,32 @@ void tst_HRVideoSourceFFMPEG::clipWithoutPictures_isNotTold_whenAskedToStop()
     QVERIFY(decoding.source.setSource(QUrl::fromLocalFile(file)));
     QVERIFY(decoding.source.wait(5000));
     QCOMPARE(decoding.ended.count(), 0);
+}
+
+void tst_HRVideoSourceFFMPEG::messages_areOneLine_data()
+{
+    addMisleadingNames();
+}
+
+void tst_HRVideoSourceFFMPEG::messages_areOneLine()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, told);
+    const QVector<QPair<QString, QString>> failures{
+        { "Could not open media at: %1", path(name) },
+        { "Could not allocate rgb frame in %1", writeFile(path(name + ".h264"), growingClip()) },
+        { "Could not decode any picture in media at: %1", unreadableClip(path(name + ".gif")) },
+    };
+    for (const auto &failure : failures) {
+        MessageGuard messages;
+        Decoding decoding;
+        decoding.source.setLargestPicture(1);
+        QVERIFY(decoding.source.setSource(QUrl::fromLocalFile(failure.second)));
+        QStringList seen;
+        QTRY_VERIFY(!(seen += messages.takeMessages()).isEmpty());
+        QCOMPARE(
+            seen, QStringList{ failure.first.arg(QString(failure.second).replace(name, told)) });
+    }
 }
 
 void tst_HRVideoSourceFFMPEG::emptySource_closesInSilence()
