@@ -136,7 +136,8 @@ bool HRPackageScanner::mayRead(const QString &path, qint64 size) const
         return true;
     if (!m_told.contains(path)) {
         m_told.insert(path);
-        m_refuse(QString("Control file %1 is larger than %2 bytes").arg(path).arg(largestFile));
+        m_refuse(QString("Control file %1 is larger than %2 bytes")
+                     .arg(path, QString::number(largestFile)));
     }
     return false;
 }
@@ -150,15 +151,12 @@ size_t HRPackageScanner::filesWithin(
         return count;
     if (levelsBetween(package, directory) > deepestLevel) {
         m_refuse(QString("Package %1: control files lie more than %2 levels deep")
-                     .arg(package)
-                     .arg(deepestLevel));
+                     .arg(package, QString::number(deepestLevel)));
         return 0;
     }
     if (count > mostFiles)
         m_refuse(QString("Package %1: only the first %2 of %3 control files are read")
-                     .arg(package)
-                     .arg(mostFiles)
-                     .arg(count));
+                     .arg(package, QString::number(mostFiles), QString::number(count)));
     return std::min(count, mostFiles);
 }
 

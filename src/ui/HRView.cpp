@@ -442,8 +442,7 @@ void HRView::scriptStopped(int limit)
     if (m_manager)
         m_manager->handleMessage(messageWarning,
             QStringLiteral("A script of package \"%1\" ran for more than %2 ms and was stopped")
-                .arg(packageName(m_content))
-                .arg(limit));
+                .arg(packageName(m_content), QString::number(limit)));
 }
 
 void HRView::resizeEvent(QResizeEvent *)

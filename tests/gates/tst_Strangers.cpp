@@ -208,14 +208,14 @@ void tst_Strangers::controlFile_isJudgedAgain_whenItHasGrown()
     QFETCH(bool, inDatabase);
     GateFixture f({ { strangersKey, strangers } });
     const QString file
-        = f.packages.writeControl("Grown", "a.xml", "<hintreel key='grown'/>", "locale='en_US'");
+        = f.packages.writeControl("Grown", "%2.xml", "<hintreel key='grown'/>", "locale='en_US'");
     HRContext context;
     context.set(strangersKey, strangers);
     context.set(persistentDirectoryKey, f.packages.path());
     context.set(indexFileNameKey, "index.sqlite");
     HRSQLiteIndex database(&context, {});
     RecordingHost host(context, { f.packages.path() }, inDatabase ? &database : nullptr);
-    f.packages.writeControl("Grown", "a.xml",
+    f.packages.writeControl("Grown", "%2.xml",
         "<hintreel key='grown'/><!--" + QByteArray(8 * 1024 * 1024, ' ') + "-->", "locale='en_US'");
     for (int i = 0; i < 2; ++i)
         QCOMPARE(host.show("grown", QPoint(), nullptr), !strangers);
