@@ -3,6 +3,8 @@
 
 #include "gates/HRSceneGates_p.h"
 
+#include "gates/HRUrlProperties_p.h"
+
 #include <QMutexLocker>
 #include <QPointer>
 #include <QQmlEngine>
@@ -11,8 +13,9 @@
 
 namespace Hintreels {
 
-HRSceneGates::HRSceneGates(QQmlEngine *engine, Report report)
+HRSceneGates::HRSceneGates(QQmlEngine *engine, QQuickItem *root, Report report)
     : m_engine(engine)
+    , m_root(root)
     , m_report(std::move(report))
     , m_urls(m_gate,
           [this](const QString &kind, const QString &path) {
@@ -55,10 +58,13 @@ void HRSceneGates::tellRefusals()
         const QMutexLocker locker(&m_mutex);
         refusals.swap(m_refusals);
     }
+    if (refusals.isEmpty())
+        return;
+    const QHash<QString, QString> properties = urlProperties(m_root);
     const QPointer<HRSceneGates> guarded = this;
     for (const Refusal &refusal : qAsConst(refusals)) {
         if (guarded)
-            refuse(refusal.first, refusal.second);
+            refuse(properties.value(refusal.second, refusal.first), refusal.second);
     }
 }
 

@@ -17,6 +17,7 @@
 
 QT_BEGIN_NAMESPACE
 class QQmlEngine;
+class QQuickItem;
 QT_END_NAMESPACE
 
 namespace Hintreels {
@@ -25,14 +26,17 @@ namespace Hintreels {
 ///
 /// Each file that is refused is told once for each content, with what it was refused for: at once
 /// where the library opens it, and from the event loop where the engine does, since a host must not
-/// be called from inside the engine's loader. GUI thread, but for the gates themselves.
+/// be called from inside the engine's loader. The engine does not tell which property a URL is for;
+/// the one that holds it by then is told, else the kind of the URL. GUI thread, but for the gates
+/// themselves.
 class HRSceneGates : public QObject
 {
 public:
     using Report = std::function<void(const QString &kind, const QString &path)>;
 
     /// @param engine outlives this; loads nothing afterwards
-    HRSceneGates(QQmlEngine *engine, Report report);
+    /// @param root all items of the scene are below it; outlives this
+    HRSceneGates(QQmlEngine *engine, QQuickItem *root, Report report);
     ~HRSceneGates() override;
 
     void setReach(const HRReach &reach) { m_gate->setReach(reach); }
@@ -56,6 +60,7 @@ private:
     void noteRefusal(const Refusal &refusal);
 
     QQmlEngine *m_engine;
+    QQuickItem *m_root;
     Report m_report;
     std::shared_ptr<HRFileGate> m_gate = std::make_shared<HRFileGate>();
     HRUrlGate m_urls;

@@ -95,7 +95,7 @@ HRView::HRView(HRManager *manager, QWindow *parent)
     , m_cursors(std::make_unique<HROverrideCursors>())
     , m_loader(std::make_unique<HRSceneLoader>(
           this, engine(), [this](const QUrl &source) { take(source); }))
-    , m_gates(std::make_unique<HRSceneGates>(engine(),
+    , m_gates(std::make_unique<HRSceneGates>(engine(), contentItem(),
           [this](const QString &kind, const QString &path) {
               reportRefusal(m_manager, m_content, kind, path);
           }))

@@ -4,6 +4,8 @@
 #include "gates/GateFixture.h"
 #include "gates/HRNetworkGate_p.h"
 #include "gates/HRUrlGate_p.h"
+#include "support/TestFile.h"
+#include "ui/HRSceneReach_p.h"
 
 #include <QNetworkReply>
 #include <QQmlEngine>
@@ -65,7 +67,7 @@ private Q_SLOTS:
     void request_writesNoFile();
     void manager_asksNobody_whateverTheOperation_data();
     void manager_asksNobody_whateverTheOperation();
-    void manager_readsFilesAndDataUrls();
+    void manager_readsFilesResourcesAndDataUrls();
     void urlGate_refusesEveryKindOfUrl_data();
     void urlGate_refusesEveryKindOfUrl();
     void links_outOfUrlProperties_goToTheHost();
@@ -82,17 +84,17 @@ void tst_NetworkGate::addWays()
     QTest::addColumn<QString>("refused"); // what is told of it
     const QByteArray none;
     QTest::newRow("Image") << none << QByteArray("Image { source: '%1/a.png' }")
-                           << "url \"%1/a.png\"";
+                           << "source \"%1/a.png\"";
     QTest::newRow("Image, by a binding")
         << none << QByteArray("property string at: '%1'; Image { source: at + '/a.png' }")
-        << "url \"%1/a.png\"";
+        << "source \"%1/a.png\"";
     QTest::newRow("Loader") << none << QByteArray("Loader { source: '%1/a.qml' }")
-                            << "QML file \"%1/a.qml\"";
+                            << "source \"%1/a.qml\"";
     QTest::newRow("import") << QByteArray("import '%1/far'") << none << "qmldir \"%1/far/qmldir\"";
     QTest::newRow("script") << QByteArray("import '%1/a.js' as Far") << none
                             << "script \"%1/a.js\"";
     QTest::newRow("FontLoader") << none << QByteArray("FontLoader { source: '%1/a.ttf' }")
-                                << "url \"%1/a.ttf\"";
+                                << "source \"%1/a.ttf\"";
     QTest::newRow("rich text") << none
                                << QByteArray("Text { textFormat: Text.RichText; "
                                              "text: '<img src=\"%1/a.png\">' }")
@@ -102,9 +104,9 @@ void tst_NetworkGate::addWays()
                                                "text: '<img src=\"%1/a.png\">' }")
                                  << "url \"%1/a.png\"";
     QTest::newRow("AnimatedImage")
-        << none << QByteArray("AnimatedImage { source: '%1/a.gif' }") << "url \"%1/a.gif\"";
+        << none << QByteArray("AnimatedImage { source: '%1/a.gif' }") << "source \"%1/a.gif\"";
     QTest::newRow("BorderImage") << none << QByteArray("BorderImage { source: '%1/a.sci' }")
-                                 << "url \"%1/a.sci\"";
+                                 << "source \"%1/a.sci\"";
     QTest::newRow("XMLHttpRequest")
         << none
         << QByteArray("Component.onCompleted: { var r = new XMLHttpRequest();"
@@ -187,16 +189,22 @@ void tst_NetworkGate::manager_asksNobody_whateverTheOperation()
     QVERIFY(!server.wasCalled());
 }
 
-void tst_NetworkGate::manager_readsFilesAndDataUrls()
+void tst_NetworkGate::manager_readsFilesResourcesAndDataUrls()
 {
     TestPackages files;
     const QUrl file = QUrl::fromLocalFile(files.write("a.txt", "text"));
     HRNetworkAccess access(
         gateWith(false), [](const QString &, const QString &) {}, nullptr);
-    for (const QUrl &url : { file, QUrl("data:,text") }) {
-        std::unique_ptr<QNetworkReply> reply(access.get(QNetworkRequest(url)));
+    const QString resource = builtInUi(false);
+    const QVector<QPair<QUrl, QByteArray>> known{
+        { file, "text" },
+        { QUrl("data:,text"), "text" },
+        { urlOfFile(resource), contentOf(resource) },
+    };
+    for (const auto &url : known) {
+        std::unique_ptr<QNetworkReply> reply(access.get(QNetworkRequest(url.first)));
         QTRY_VERIFY(reply->isFinished());
-        QCOMPARE(reply->readAll(), QByteArray("text"));
+        QCOMPARE(reply->readAll(), url.second);
     }
 }
 

@@ -55,8 +55,8 @@ private Q_SLOTS:
     void ui_mayBeNamedByTheHost();
     void qml_loadsNothingOfOthers_data();
     void qml_loadsNothingOfOthers();
-    void richText_isNotKeptToPackages_data();
-    void richText_isNotKeptToPackages();
+    void pictures_areNotKeptToPackages_data();
+    void pictures_areNotKeptToPackages();
     void qml_importsListedModulesOnly_data();
     void qml_importsListedModulesOnly();
     void reader_looksAtOwnFilesOnly();
@@ -73,6 +73,7 @@ void tst_OwnFiles::findResource_keepsToPackages_data()
     QTest::newRow("up and back") << "../Resources/own.png" << true;
     QTest::newRow("elsewhere in the package") << "../ui/x.png" << true;
     QTest::newRow("of a package that is searched") << "friend.png" << true;
+    QTest::newRow("of the component directory") << "common.png" << true;
     QTest::newRow("out of the package") << "../../secret.png" << false;
     QTest::newRow("another package") << "../../Other.hintreels/Resources/other.png" << false;
     QTest::newRow("absolute") << "%1/secret.png" << false;
@@ -86,6 +87,8 @@ void tst_OwnFiles::findResource_keepsToPackages()
     QFETCH(QString, path);
     QFETCH(bool, allowed);
     GateFixture f({ { ownFilesOnlyKey, true } });
+    f.settings.insert(componentDirectoryKey, f.packages.path() + "/shared");
+    f.packages.write("shared/Resources/common.png", picture());
     f.root += " search='Friend'";
     f.writeUi({});
     for (const char *file : { "Resources/own.png", "Resources/a/b.png", "ui/x.png" })
@@ -142,20 +145,28 @@ void tst_OwnFiles::ui_doesNotComeFromTheWorkingDirectory()
 
 void tst_OwnFiles::ui_doesNotComeFromOtherPackages_data()
 {
-    QTest::addColumn<QByteArray>("ui");
-    QTest::newRow("up") << QByteArray("../Other.hintreels/ui/Other.qml");
-    QTest::newRow("absolute") << QByteArray("%1/Other.hintreels/ui/Other.qml");
+    QTest::addColumn<QString>("attribute");
+    QTest::addColumn<QString>("file");
+    QTest::newRow("up") << "ui"
+                        << "../Other.hintreels/ui/Other.qml";
+    QTest::newRow("absolute") << "ui"
+                              << "%1/Other.hintreels/ui/Other.qml";
+    QTest::newRow("simple") << "simple"
+                            << "../Other.hintreels/ui/Other.qml";
 }
 
 void tst_OwnFiles::ui_doesNotComeFromOtherPackages()
 {
-    QFETCH(QByteArray, ui);
-    GateFixture f({ { ownFilesOnlyKey, true } });
-    f.root = "ui='" + ui.replace("%1", f.packages.path().toUtf8()) + "'";
+    QFETCH(QString, attribute);
+    QFETCH(QString, file);
+    GateFixture f({ { ownFilesOnlyKey, true }, { simpleTooltipKey, attribute == "simple" } });
+    file.replace("%1", f.packages.path());
+    f.root = QString("%1='%2'").arg(attribute, file).toUtf8();
     f.packages.write("Other.hintreels/ui/Other.qml", rectangleQml(20, 20));
     f.show();
     QVERIFY(!f.view()->rootObject());
-    QCOMPARE(f.warnings().size(), 1);
+    const QString wanted = QDir(f.packages.path() + "/Own.hintreels").absoluteFilePath(file);
+    QCOMPARE(f.warnings(), QStringList{ refusal(attribute, wanted) });
 }
 
 void tst_OwnFiles::ui_mayBeNamedByTheHost()
@@ -178,25 +189,25 @@ void tst_OwnFiles::qml_loadsNothingOfOthers_data()
     QTest::addColumn<QString>("kind");
     QTest::addColumn<QString>("file");
     const QByteArray none;
-    const QByteArray url = "file://%1";
     QTest::newRow("Image") << none << QByteArray("Image { source: 'file://%1/secret.png' }")
-                           << "url"
+                           << "source"
                            << "secret.png";
     QTest::newRow("Image, relative")
-        << none << QByteArray("Image { source: '../../secret.png' }") << "url"
+        << none << QByteArray("Image { source: '../../secret.png' }") << "source"
         << "secret.png";
     QTest::newRow("AnimatedImage")
-        << none << QByteArray("AnimatedImage { source: 'file://%1/secret.png' }") << "url"
+        << none << QByteArray("AnimatedImage { source: 'file://%1/secret.png' }") << "source"
         << "secret.png";
     QTest::newRow("BorderImage") << none
                                  << QByteArray("BorderImage { source: 'file://%1/secret.png' }")
-                                 << "url"
+                                 << "source"
                                  << "secret.png";
     QTest::newRow("FontLoader") << none
                                 << QByteArray("FontLoader { source: 'file://%1/secret.png' }")
-                                << "url"
+                                << "source"
                                 << "secret.png";
-    QTest::newRow("Loader") << none << QByteArray("Loader { source: '../../far/Far.qml' }") << "url"
+    QTest::newRow("Loader") << none << QByteArray("Loader { source: '../../far/Far.qml' }")
+                            << "source"
                             << "far/Far.qml";
     QTest::newRow("XMLHttpRequest")
         << none
@@ -212,6 +223,44 @@ void tst_OwnFiles::qml_loadsNothingOfOthers_data()
         << none
         << QByteArray("Component.onCompleted: hintreelView.source = 'file://%1/far/Far.qml'")
         << "ui"
+        << "far/Far.qml";
+    QTest::newRow("own property")
+        << none << QByteArray("property url at: '../../secret.png'; Image { source: at }") << "at"
+        << "secret.png";
+    for (const char *type : { "Image", "BorderImage" }) {
+        QTest::addRow("%s, by a binding", type) << none
+                                                << "property string at: 'file://%1'; "
+                + QByteArray(type) + " { source: at + '/secret.png' }"
+                                                << "source"
+                                                << "secret.png";
+    }
+    QTest::newRow("Loader, by a binding")
+        << none
+        << QByteArray("property string at: 'file://%1'; Loader { source: at + '/far/Far.qml' }")
+        << "source"
+        << "far/Far.qml";
+    QTest::newRow("Image of a Repeater")
+        << none << QByteArray("Repeater { model: 1; Image { source: '../../secret.png' } }")
+        << "source"
+        << "secret.png";
+    QTest::newRow("Image that a script sets")
+        << none
+        << QByteArray("Image { id: image }\nComponent.onCompleted: "
+                      "image.source = '../../secret.png'")
+        << "source"
+        << "secret.png";
+    QTest::newRow("object that is no item")
+        << none << QByteArray("property var part: QtObject { property url at: '../../secret.png' }")
+        << "at"
+        << "secret.png";
+    QTest::newRow("Image outside the scene")
+        << none
+        << QByteArray("Component { id: picture; Image { source: '../../secret.png' } }\n"
+                      "Component.onCompleted: picture.createObject(null)")
+        << "url"
+        << "secret.png";
+    QTest::newRow("type of a qmldir")
+        << QByteArray("import 'near'") << QByteArray("Far {}") << "QML file"
         << "far/Far.qml";
     QTest::newRow("plugin") << QByteArray("import 'plugin'") << none << "qmldir"
                             << "Own.hintreels/ui/plugin/qmldir";
@@ -229,6 +278,7 @@ void tst_OwnFiles::qml_loadsNothingOfOthers()
     f.packages.write("far/Far.qml", rectangleQml(5, 5));
     f.packages.write("far/far.js", "var a = 1\n");
     f.packages.write("far/qmldir", "Far 1.0 Far.qml\n");
+    f.write("ui/near/qmldir", "Far 1.0 ../../../far/Far.qml\n");
     f.write("ui/plugin/qmldir", "module plugin\nplugin far ../../../far\n");
     f.writeUi(body.replace("%1", path), imports.replace("%1", path));
     f.show();
@@ -237,28 +287,29 @@ void tst_OwnFiles::qml_loadsNothingOfOthers()
 }
 
 // What docs/security.md says that no gate holds. Once this fails, that can go.
-void tst_OwnFiles::richText_isNotKeptToPackages_data()
+void tst_OwnFiles::pictures_areNotKeptToPackages_data()
 {
-    QTest::addColumn<QByteArray>("text");
-    QTest::newRow("rich") << QByteArray(
-        "textFormat: Text.RichText; text: '<img src=\"file://%1\">'");
-    QTest::newRow("styled") << QByteArray(
-        "textFormat: Text.StyledText; text: '<img src=\"file://%1\">'");
+    QTest::addColumn<QByteArray>("item");
+    QTest::newRow("rich text") << QByteArray(
+        "Text { id: shown; textFormat: Text.RichText; text: '<img src=\"file://%1\">' }");
+    QTest::newRow("styled text") << QByteArray(
+        "Text { id: shown; textFormat: Text.StyledText; text: '<img src=\"file://%1\">' }");
     QTest::newRow("Markdown") << QByteArray(
-        "textFormat: Text.MarkdownText; text: '![x](file://%1)'");
+        "Text { id: shown; textFormat: Text.MarkdownText; text: '![x](file://%1)' }");
+    QTest::newRow("AnimatedImage, by a binding") << QByteArray(
+        "property string at: '%1'\nAnimatedImage { id: shown; source: 'file://' + at }");
 }
 
-void tst_OwnFiles::richText_isNotKeptToPackages()
+void tst_OwnFiles::pictures_areNotKeptToPackages()
 {
-    QFETCH(QByteArray, text);
+    QFETCH(QByteArray, item);
     GateFixture f({ { ownFilesOnlyKey, true } });
     QImage large(8, 300, QImage::Format_RGB32);
     large.fill(Qt::red);
     QBuffer bytes;
     large.save(&bytes, "PNG");
     const QString secret = f.packages.write("secret.png", bytes.data());
-    f.writeUi("property alias shown: shown.implicitHeight\nText { id: shown; "
-        + text.replace("%1", secret.toUtf8()) + " }");
+    f.writeUi("property alias shown: shown.implicitHeight\n" + item.replace("%1", secret.toUtf8()));
     QVERIFY(f.show());
     QTRY_VERIFY(f.view()->rootObject()->property("shown").toInt() >= 300);
     QCOMPARE(f.warnings(), QStringList());
