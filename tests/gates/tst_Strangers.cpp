@@ -4,11 +4,14 @@
 #include "gates/GateFixture.h"
 #include "gates/HRMediaKind_p.h"
 #include "index/HRSQLiteIndex.h"
+#include "support/TestClip.h"
+#include "ui/HRContentReader_p.h"
 #include "ui/HRSceneReach_p.h"
 
 #include <QBuffer>
 #include <QDir>
 #include <QImage>
+#include <QQmlContext>
 #include <QQuickTextDocument>
 #include <QTextDocument>
 
@@ -25,6 +28,7 @@ private Q_SLOTS:
     void builtInUi_isWhole();
     void format_countsByItsBytes_data();
     void format_countsByItsBytes();
+    void reader_takesFewFormats();
     void links_areAddressesAndTopics_data();
     void links_areAddressesAndTopics();
     void link_tellsItsTarget();
@@ -106,6 +110,29 @@ void tst_Strangers::format_countsByItsBytes()
     QVERIFY(isFormatForStrangers(files.write("a.vtt", "WEBVTT"), HRFileUse::text));
 }
 
+void tst_Strangers::reader_takesFewFormats()
+{
+    GateFixture f({ { strangersKey, true } });
+    QVERIFY(f.show());
+    const QString svg = f.write(
+        "Resources/a.svg", "<svg xmlns='http://www.w3.org/2000/svg' width='8' height='8'/>");
+    const QString resources = QFileInfo(svg).path();
+    const QString png = resources + "/a.png";
+    QImage picture(8, 8, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    QVERIFY(picture.save(png));
+    const QString mp4 = TestClip().write(resources + "/a.mp4");
+    const QString mkv = TestClip().write(resources + "/a.mkv");
+    const auto *reader = qobject_cast<HRContentReader *>(
+        f.view()->rootContext()->contextProperty("hintreelReader").value<QObject *>());
+    QVERIFY(reader->picture(svg).isEmpty());
+    QVERIFY(reader->clip(mkv).isEmpty());
+    QTRY_VERIFY(!reader->picture(png).isEmpty());
+    QTRY_VERIFY(!reader->clip(mp4).isEmpty());
+    const QString told = "Package \"Own\" may not use source \"%1\"";
+    QCOMPARE(f.warnings(), (QStringList{ told.arg(svg), told.arg(mkv) }));
+}
+
 void tst_Strangers::links_areAddressesAndTopics_data()
 {
     QTest::addColumn<QString>("link");
@@ -136,9 +163,10 @@ void tst_Strangers::link_tellsItsTarget()
 {
     for (const bool strangers : { true, false }) {
         GateFixture f({ { strangersKey, strangers }, { localeKey, "en_US" } });
+        f.settings.insert(allowNamedResourcesKey, true);
         f.settings.insert(uiFileKey, ":/hintreels/standard/ui/HintreelUI.qml");
         f.root.clear();
-        f.attributes = " title='t'";
+        f.attributes = " title='t' documentation='https://three.example/'";
         f.content = "<link to='https://one.example/'>bank</link>"
                     "<text>[mail](https://two.example/)</text>";
         QVERIFY(f.show());
@@ -153,6 +181,7 @@ void tst_Strangers::link_tellsItsTarget()
         }
         QCOMPARE(shown.contains("bank (https://one.example/)"), strangers);
         QCOMPARE(shown.contains("mail (https://two.example/)"), strangers);
+        QCOMPARE(shown.contains(" (https://three.example/)"), strangers);
         QVERIFY(shown.contains("bank") && shown.contains("mail"));
     }
 }

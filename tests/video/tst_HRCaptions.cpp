@@ -119,6 +119,7 @@ void tst_HRCaptions::readCaptions_returnsNothing_whenThereIsNoFile()
 
     QVERIFY(readCaptions(files.path() + "/missing.vtt").isEmpty());
     QVERIFY(readCaptions(files.path()).isEmpty());
+    QVERIFY(readCaptions("/dev/zero").isEmpty());
     QVERIFY(readCaptions(QString()).isEmpty());
 }
 
