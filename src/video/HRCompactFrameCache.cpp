@@ -114,13 +114,10 @@ HRVideoFrame HRCompactFrameCache::frame(size_t index)
 {
     if (index >= m_pictures.size())
         return HRVideoFrame();
-    if (m_lastRead.isNull() || index != m_lastReadIndex) {
-        const Picture &picture = m_pictures[index];
-        m_lastRead = picture.tiles ? assemble(picture) : HRVideoFrame(picture.whole, 0);
-        m_lastRead.setPts(picture.pts);
-        m_lastReadIndex = index;
-    }
-    return m_lastRead;
+    const Picture &picture = m_pictures[index];
+    HRVideoFrame frame = picture.tiles ? assemble(picture) : HRVideoFrame(picture.whole, 0);
+    frame.setPts(picture.pts);
+    return frame;
 }
 
 size_t HRCompactFrameCache::length()
@@ -257,7 +254,10 @@ HRCompactFrameCache::TileMap HRCompactFrameCache::lastMap() const
 
 HRVideoFrame HRCompactFrameCache::assemble(const Picture &picture)
 {
-    Buffer buffer = takeBuffer(picture);
+    if (m_buffers[1].tiles == picture.tiles)
+        return m_buffers[1].frame;
+    takeBuffer(picture);
+    Buffer &buffer = m_buffers[1];
     if (buffer.frame.isNull())
         return HRVideoFrame();
     for (int row = 0; row < int(picture.tiles->size()); ++row) {
@@ -267,8 +267,6 @@ HRVideoFrame HRCompactFrameCache::assemble(const Picture &picture)
             assembleRow(*wanted, present, row, &buffer.frame);
     }
     buffer.tiles = picture.tiles;
-    m_buffers[0] = m_buffers[1];
-    m_buffers[1] = buffer;
     return buffer.frame;
 }
 
@@ -292,19 +290,30 @@ void HRCompactFrameCache::assembleRow(
     }
 }
 
-/// What to write a picture to: the one before the last that was put together, if nobody holds it
-/// any more. Memory that is new to the process costs more than all the copying, and most tiles of
-/// the picture are there already.
-HRCompactFrameCache::Buffer HRCompactFrameCache::takeBuffer(const Picture &picture)
+/// Puts last the buffer to write a picture to: what was put together last, or else before that, if
+/// nobody holds it any more. Memory that is new to the process costs more than all the copying, and
+/// most tiles of the picture are there already. Whoever lets go of a picture before he reads the
+/// next makes do with one buffer.
+void HRCompactFrameCache::takeBuffer(const Picture &picture)
 {
-    Buffer buffer;
-    std::swap(buffer, m_buffers[0]);
+    if (isFree(m_buffers[1], picture))
+        return;
+    std::swap(m_buffers[0], m_buffers[1]);
+    if (isFree(m_buffers[1], picture))
+        return;
+    m_buffers[1] = {}; // before there is another
+    m_buffers[1].frame
+        = HRVideoFrame(picture.size.width(), picture.size.height(), picture.format, 0);
+}
+
+bool HRCompactFrameCache::isFree(const Buffer &buffer, const Picture &picture)
+{
     const HRVideoFrame &frame = buffer.frame;
     if (frame.size() != picture.size || frame.format() != picture.format || !frame.isDetached())
-        return { HRVideoFrame(picture.size.width(), picture.size.height(), picture.format, 0), {} };
+        return false;
     // Counting up and down joins this thread with the one that let go last; asking does not.
     const HRVideoFrame counted = frame;
-    return buffer;
+    return true;
 }
 
 /// The number of tiles from @p first on that lie side by side in a whole picture, as in the row.

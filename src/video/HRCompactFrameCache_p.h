@@ -14,9 +14,10 @@ namespace Hintreels {
 ///
 /// Every picture has a map that says where each of its tiles lies, be it in its own store or in
 /// that of an earlier picture, so any picture is put together in one pass, whatever its index. It
-/// comes back bit for bit: size, format, pixels and time. The picture read last is kept, so reading
-/// it again only shares it. Where most of a picture is new it is kept as it is and never put
-/// together; so are pictures that do not have 32 bits a pixel.
+/// comes back bit for bit: size, format, pixels and time. The picture put together last is kept, so
+/// reading it again only shares it; where nobody else holds it any more, the next is made of it.
+/// Where most of a picture is new it is kept as it is and never put together; so are pictures that
+/// do not have 32 bits a pixel.
 class HRCompactFrameCache : public HRVideoFrameCache
 {
     Q_OBJECT
@@ -62,7 +63,8 @@ private:
     std::vector<bool> changedTiles(const HRVideoFrame &image) const;
     TileMap lastMap() const;
     HRVideoFrame assemble(const Picture &picture);
-    Buffer takeBuffer(const Picture &picture);
+    void takeBuffer(const Picture &picture);
+    static bool isFree(const Buffer &buffer, const Picture &picture);
     static QRgb *storeRow(const QImage &image, const std::vector<bool> &changed, int row,
         QRgb *store, std::shared_ptr<const TileRow> *tiles);
     static void assembleRow(
@@ -75,9 +77,7 @@ private:
 
     std::vector<Picture> m_pictures;
     qint64 m_lastAdded = 0; // the last of them, by QImage::cacheKey(); 0 where that was not kept
-    HRVideoFrame m_lastRead;
-    size_t m_lastReadIndex = 0;
-    Buffer m_buffers[2]; // of the last pictures that were put together, the older first
+    Buffer m_buffers[2]; // the last picture that was put together comes second
 };
 
 } // namespace Hintreels

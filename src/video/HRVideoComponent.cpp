@@ -176,11 +176,11 @@ void HRVideoComponent::paint(QPainter *painter)
 
 void HRVideoComponent::frameReady()
 {
-    const HRVideoFrame frame = m_controller->currentFrame();
     // Until the source has taken the new clip, it still answers with the one before.
-    if (frame.isNull() || m_awaitedSources > 0)
+    HRVideoFrame before;
+    const bool isAwaiting = m_awaitedSources > 0;
+    if (!m_controller->replaceByCurrentFrame(isAwaiting ? &before : &m_frame) || isAwaiting)
         return;
-    m_frame = frame;
     setImplicitSize(m_frame.width(), m_frame.height());
     if (m_contentHeightSeen != m_frame.height()) {
         m_contentHeightSeen = m_frame.height();

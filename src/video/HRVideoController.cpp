@@ -246,6 +246,17 @@ HRVideoFrame HRVideoController::currentFrame()
     return d->frame(d->position);
 }
 
+bool HRVideoController::replaceByCurrentFrame(HRVideoFrame *frame)
+{
+    const HRMutexLocker lock(d->controllerMutex);
+    d->displayedIndex = d->position;
+    if (!d->isFrameAvailable(d->position))
+        return false;
+    *frame = HRVideoFrame();
+    *frame = d->frame(d->position);
+    return !frame->isNull();
+}
+
 HRVideoFrame HRVideoController::getFrame(size_t index)
 {
     const HRMutexLocker lock(d->controllerMutex);

@@ -115,6 +115,12 @@ protected:
     void run() override;
 
 private:
+    friend class HRVideoComponent; // shows one picture at a time
+
+    /// Puts the picture at the position, which from now on counts as shown, in place of @p frame.
+    /// That is let go first: the cache makes the new picture out of it.
+    /// @return false where there is none, and @p frame stays; false, too, without memory for it
+    bool replaceByCurrentFrame(HRVideoFrame *frame);
     void presentFrame();
     void pace(HRPacing *pacing, bool advanced, std::chrono::steady_clock::time_point came);
     void sleepUntil(std::chrono::steady_clock::time_point due);

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void frame_returnsNull_beyondTheLast();
     void frame_sharesPixels_whenReadAgain();
     void frame_handsOutPixels_thatLaterReadsLeaveAlone();
+    void frame_isMadeOfTheOneBefore_thatNobodyHolds();
     void addFrame_keepsPixels_whenTheCallerOverwritesItsOwn();
 };
 
@@ -64,6 +65,19 @@ Pictures scribbles(const QSize &size, int count)
         picture.setPts(i * 0.04);
         pictures.push_back(picture);
         scribble(&picture, &random);
+    }
+    return pictures;
+}
+
+/// Each differs from the one before in one pixel.
+Pictures withMovingDot(const QSize &size, int count)
+{
+    HRVideoFrame picture(size.width(), size.height(), QImage::Format_RGB32, 0);
+    picture.fill(Qt::gray);
+    Pictures pictures;
+    for (int i = 0; i < count; ++i) {
+        picture.setPixel(i, i, qRgb(255, 0, 0));
+        pictures.push_back(picture);
     }
     return pictures;
 }
@@ -243,6 +257,23 @@ void tst_HRCompactFrameCache::frame_handsOutPixels_thatLaterReadsLeaveAlone()
     for (size_t i = 0; i < pictures.size(); ++i)
         cache.frame(i);
     QCOMPARE(static_cast<const QImage &>(held), static_cast<const QImage &>(pictures[3]));
+}
+
+void tst_HRCompactFrameCache::frame_isMadeOfTheOneBefore_thatNobodyHolds()
+{
+    const Pictures pictures = withMovingDot(QSize(64, 64), 8);
+    HRCompactFrameCache cache("x");
+    for (const HRVideoFrame &picture : pictures)
+        cache.addFrame(picture);
+    HRVideoFrame shown = cache.frame(1);
+    const uchar *const memory = shown.constBits();
+    for (size_t i : { 2, 5, 3 }) {
+        shown = HRVideoFrame();
+        shown = cache.frame(i);
+        QCOMPARE(shown.constBits(), memory);
+        QCOMPARE(static_cast<const QImage &>(shown), static_cast<const QImage &>(pictures[i]));
+    }
+    QVERIFY(cache.frame(4).constBits() != memory);
 }
 
 void tst_HRCompactFrameCache::addFrame_keepsPixels_whenTheCallerOverwritesItsOwn()

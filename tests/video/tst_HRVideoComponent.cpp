@@ -11,12 +11,14 @@
 #include "ui/HRView.h"
 
 #include <QElapsedTimer>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QQmlComponent>
 #include <QQmlContext>
 #include <QQmlEngine>
 #include <QQmlExpression>
 #include <QQuickItem>
+#include <QSet>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -50,6 +52,7 @@ private Q_SLOTS:
     void heightChanged_comesOncePerHeight();
     void searchPath_isKept();
     void paint_drawsThePictureAtItsOwnSize();
+    void pictures_takeTheMemoryOfTheOneBefore();
     void documentedExample_plays();
     void destruction_isQuick_atAnyMoment();
     void metaObject_keepsItsOrder();
@@ -105,6 +108,51 @@ struct Stage
     HRVideoComponent *item;
     QScopedPointer<SignalCounter> announced;
 };
+
+/// Notes where the pixels lie that are drawn with it.
+class PixelWatch : public QPaintEngine
+{
+public:
+    PixelWatch()
+        : QPaintEngine(AllFeatures)
+    {
+    }
+
+    const uchar *pixels = nullptr;
+
+private:
+    bool begin(QPaintDevice *) override { return true; }
+    bool end() override { return true; }
+    void updateState(const QPaintEngineState &) override { }
+    void drawPixmap(const QRectF &, const QPixmap &, const QRectF &) override { }
+    void drawImage(
+        const QRectF &, const QImage &image, const QRectF &, Qt::ImageConversionFlags) override
+    {
+        pixels = image.constBits();
+    }
+    Type type() const override { return User; }
+};
+
+struct WatchedCanvas : QImage
+{
+    WatchedCanvas()
+        : QImage(64, 48, QImage::Format_RGB32)
+    {
+    }
+
+    QPaintEngine *paintEngine() const override { return &watch; }
+
+    mutable PixelWatch watch;
+};
+
+/// One colour with a square that moves.
+QImage movingSquare(const QSize &size, int number)
+{
+    QImage picture(size, QImage::Format_RGB32);
+    picture.fill(qRgb(200, 200, 200));
+    QPainter(&picture).fillRect(number * 3, 4, 8, 8, Qt::black);
+    return picture;
+}
 
 } // namespace
 
@@ -402,6 +450,29 @@ void tst_HRVideoComponent::paint_drawsThePictureAtItsOwnSize()
     QCOMPARE(qAlpha(image.pixel(63, 47)), 255);
     QCOMPARE(qAlpha(image.pixel(64, 47)), 0);
     QCOMPARE(qAlpha(image.pixel(63, 48)), 0);
+}
+
+void tst_HRVideoComponent::pictures_takeTheMemoryOfTheOneBefore()
+{
+    TestClip encoded;
+    encoded.codec = "gif";
+    encoded.format = "gray";
+    encoded.options = "";
+    encoded.rate = 25;
+    Stage stage;
+    stage.setFile(encoded.write(m_directory.filePath("square.gif"), &movingSquare));
+    QTRY_VERIFY(stage.isDecoded());
+    QSet<const uchar *> places;
+    for (int position : { 2, 3, 4, 5 }) {
+        stage.item->setPosition(position);
+        QTRY_COMPARE(qRound(stage.item->pictureTime() * 25), position);
+        WatchedCanvas canvas;
+        QPainter painter(&canvas);
+        stage.item->paint(&painter);
+        places.insert(canvas.watch.pixels);
+    }
+    QCOMPARE(places.size(), 1);
+    QVERIFY(!places.contains(nullptr));
 }
 
 void tst_HRVideoComponent::documentedExample_plays()
