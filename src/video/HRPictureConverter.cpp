@@ -6,6 +6,8 @@
 #include <QtEndian>
 
 #include <algorithm>
+#include <functional>
+#include <numeric>
 
 namespace Hintreels {
 
@@ -16,13 +18,52 @@ namespace {
 constexpr int rowPixels = 64;
 constexpr int slack = 256; // bytes behind the last row
 
+constexpr QRgb opaque = 0xff000000u;
+
 constexpr int directWidthStep = 16; // pixels; of other widths the scaler leaves columns out
 
 /// Four bytes a pixel from three. Reads one byte past the last pixel: the slack.
 void unpackRow(const uint8_t *rgb, QRgb *target, int width)
 {
     for (int x = 0; x < width; ++x)
-        target[x] = 0xff000000u | qFromBigEndian<quint32>(rgb + 3 * x) >> 8;
+        target[x] = opaque | qFromBigEndian<quint32>(rgb + 3 * x) >> 8;
+}
+
+/// Of a picture of 32 bits.
+const QRgb *row(const AVFrame *picture, int y)
+{
+    return reinterpret_cast<const QRgb *>(picture->data[0] + qint64(y) * picture->linesize[0]);
+}
+
+/// Whether its rows lie as an image has them, and no pixel is transparent.
+bool isImage(const AVFrame *picture)
+{
+    const auto start = reinterpret_cast<quintptr>(picture->data[0]);
+    const int stride = picture->linesize[0];
+    if (stride <= 0 || stride % int(sizeof(QRgb)) != 0 || start % sizeof(QRgb) != 0)
+        return false;
+    for (int y = 0; y < picture->height; ++y) {
+        const QRgb *pixels = row(picture, y);
+        if (std::accumulate(pixels, pixels + picture->width, opaque, std::bit_and<>()) != opaque)
+            return false;
+    }
+    return true;
+}
+
+/// The picture where the decoder has put it, whose memory it keeps; null where that cannot be had.
+HRVideoFrame shared(const AVFrame *picture)
+{
+    HRFFmpegHandle<AVFrame> owner(av_frame_clone(picture));
+    if (!owner)
+        return HRVideoFrame();
+    // Not to be written to: the decoder may go on from it.
+    const uchar *memory = owner->data[0];
+    const QImage image(
+        memory, owner->width, owner->height, owner->linesize[0], QImage::Format_RGB32,
+        [](void *held) { HRFFmpegFree()(static_cast<AVFrame *>(held)); }, owner.get());
+    if (!image.isNull())
+        owner.release(); // to the image
+    return HRVideoFrame(image, 0);
 }
 
 } // namespace
@@ -65,11 +106,14 @@ HRVideoFrame HRPictureConverter::convert(const AVFrame *picture)
     const bool changed = size != m_sourceSize || format != m_sourceFormat;
     if (changed && !prepare(size, format))
         return HRVideoFrame();
+    const bool isReady = has32Bits(picture);
+    if (isReady && isImage(picture))
+        return shared(picture);
     const bool holdsLast = takeTarget();
     if (m_target.isNull())
         return m_target;
     m_target.setDamage(0, QRegion());
-    if (isCopied(picture))
+    if (isReady)
         copy(picture, &m_target);
     else if (!(m_isDirect ? m_direct.convert(picture, holdsLast, &m_target)
                           : convertByRgb24(picture, &m_target)))
@@ -100,12 +144,12 @@ void HRPictureConverter::close()
     m_sourceSize = QSize();
 }
 
-// What a GIF gives: the pixels are ours but for their alpha.
-bool HRPictureConverter::isCopied(const AVFrame *picture) const
+// What a GIF gives: the pixels are ours but for their alpha, and as a rule with it.
+bool HRPictureConverter::has32Bits(const AVFrame *picture) const
 {
-    const bool has32Bits
+    const bool isOfFormat
         = picture->format == AV_PIX_FMT_RGB32 || picture->format == AV_PIX_FMT_0RGB32;
-    return has32Bits && m_sourceSize == m_size;
+    return isOfFormat && m_sourceSize == m_size;
 }
 
 // Measured for 8-bit 4:2:0 of even height, and held by a test over formats and sizes. The others
@@ -120,11 +164,10 @@ bool HRPictureConverter::isDirect(const QSize &size, AVPixelFormat format) const
 void HRPictureConverter::copy(const AVFrame *picture, HRVideoFrame *target)
 {
     for (int y = 0; y < m_size.height(); ++y) {
-        const auto *source
-            = reinterpret_cast<const QRgb *>(picture->data[0] + qint64(y) * picture->linesize[0]);
+        const QRgb *source = row(picture, y);
         std::transform(source, source + m_size.width(),
             reinterpret_cast<QRgb *>(target->scanLine(y)),
-            [](QRgb pixel) { return pixel | 0xff000000u; });
+            [](QRgb pixel) { return pixel | opaque; });
     }
 }
 

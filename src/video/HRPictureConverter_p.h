@@ -14,8 +14,8 @@ namespace Hintreels {
 /// Converts decoded pictures of any format and size to 32-bit RGB of one size.
 ///
 /// The result is what a bicubic conversion to packed RGB24 gives, with opaque alpha. Where
-/// converting straight to 32 bits gives the same pixels, it takes that shorter road. Lock-free;
-/// one thread at a time.
+/// converting straight to 32 bits gives the same pixels, it takes that shorter road; where the
+/// picture has them already, the result shares its memory. Lock-free; one thread at a time.
 class HRPictureConverter
 {
 public:
@@ -35,7 +35,7 @@ public:
 
 private:
     bool takeTarget();
-    bool isCopied(const AVFrame *picture) const;
+    bool has32Bits(const AVFrame *picture) const;
     bool isDirect(const QSize &size, AVPixelFormat format) const;
     void copy(const AVFrame *picture, HRVideoFrame *target);
     bool convertByRgb24(const AVFrame *picture, HRVideoFrame *target);

@@ -26,6 +26,9 @@ private Q_SLOTS:
     void convert_followsEachChange();
     void convert_keepsTheOpenedSize_whenPicturesChange();
     void convert_takesTheMemory_thatNobodyHolds();
+    void convert_leavesOpaquePictures_whereTheyAre_data();
+    void convert_leavesOpaquePictures_whereTheyAre();
+    void convert_sharesNoMemory_toWriteTo();
     void allocate_refuses_data();
     void allocate_refuses();
     void prepare_refuses_data();
@@ -52,6 +55,16 @@ HRFFmpegHandle<AVFrame> noise(AVPixelFormat format, const QSize &size)
             buffer->data[i + 1] = uint8_t(value >> 8);
         }
     }
+    return picture;
+}
+
+/// Of 32 bits a pixel.
+HRFFmpegHandle<AVFrame> opaqueNoise(AVPixelFormat format, const QSize &size)
+{
+    HRFFmpegHandle<AVFrame> picture = noise(format, size);
+    for (int y = 0; y < size.height(); ++y)
+        for (int x = 0; x < size.width(); ++x)
+            picture->data[0][y * picture->linesize[0] + 4 * x + 3] = 255;
     return picture;
 }
 
@@ -182,6 +195,52 @@ void tst_HRPictureConverter::convert_takesTheMemory_thatNobodyHolds()
     QCOMPARE(static_cast<const QImage &>(held), before);
     held = HRVideoFrame();
     QCOMPARE(converter.convert(picture.get()).constBits(), otherMemory);
+}
+
+void tst_HRPictureConverter::convert_leavesOpaquePictures_whereTheyAre_data()
+{
+    QTest::addColumn<int>("format");
+    QTest::addColumn<int>("alpha");
+    QTest::addColumn<bool>("isShared");
+    QTest::newRow("opaque") << int(AV_PIX_FMT_BGRA) << 255 << true;
+    QTest::newRow("a pixel nearly opaque") << int(AV_PIX_FMT_BGRA) << 254 << false;
+    QTest::newRow("without alpha, filled up") << int(AV_PIX_FMT_BGR0) << 255 << true;
+    QTest::newRow("without alpha") << int(AV_PIX_FMT_BGR0) << 0 << false;
+}
+
+void tst_HRPictureConverter::convert_leavesOpaquePictures_whereTheyAre()
+{
+    QFETCH(int, format);
+    QFETCH(int, alpha);
+    QFETCH(bool, isShared);
+    const QSize size(50, 38);
+    HRPictureConverter converter;
+    QVERIFY(converter.allocate(size));
+    QVERIFY(converter.prepare(size, AVPixelFormat(format)));
+    HRFFmpegHandle<AVFrame> picture = opaqueNoise(AVPixelFormat(format), size);
+    picture->data[0][37 * picture->linesize[0] + 49 * 4 + 3] = uint8_t(alpha);
+    const QImage expected = reference(picture.get(), size);
+
+    const HRVideoFrame converted = converter.convert(picture.get());
+    QCOMPARE(converted.constBits() == picture->data[0], isShared);
+    picture.reset();
+    converter.close();
+    QCOMPARE(static_cast<const QImage &>(converted), expected);
+    QCOMPARE(qAlpha(reinterpret_cast<const QRgb *>(converted.constScanLine(37))[49]), 255);
+}
+
+/// The decoder goes on from what it has given out.
+void tst_HRPictureConverter::convert_sharesNoMemory_toWriteTo()
+{
+    const QSize size(50, 38);
+    HRPictureConverter converter;
+    QVERIFY(converter.allocate(size));
+    QVERIFY(converter.prepare(size, AV_PIX_FMT_BGRA));
+    const HRFFmpegHandle<AVFrame> picture = opaqueNoise(AV_PIX_FMT_BGRA, size);
+    const QImage expected = reference(picture.get(), size);
+    HRVideoFrame converted = converter.convert(picture.get());
+    converted.fill(Qt::red);
+    QCOMPARE(static_cast<const QImage &>(converter.convert(picture.get())), expected);
 }
 
 void tst_HRPictureConverter::allocate_refuses_data()
