@@ -16,6 +16,7 @@ namespace {
 
 constexpr qreal lineHeight = 120; // percent; DejaVu and Noto read well with it at 13 px
 constexpr qreal indentPerSpacing = 2.5; // a list's bullet stands clear of the text above it
+constexpr int deepestIndent = 8; // lists below that would have no width for their text
 
 bool isListItem(const QTextBlock &block)
 {
@@ -35,6 +36,15 @@ bool holdsPicture(const QTextBlock &block)
     return block.text().contains(QChar::ObjectReplacementCharacter);
 }
 
+void boundIndent(QTextList *list)
+{
+    QTextListFormat format = list->format();
+    if (format.indent() <= deepestIndent)
+        return;
+    format.setIndent(deepestIndent);
+    list->setFormat(format);
+}
+
 void styleBlock(const QTextBlock &block, const HRTextLook &look)
 {
     QTextBlockFormat format = block.blockFormat();
@@ -48,6 +58,8 @@ void styleBlock(const QTextBlock &block, const HRTextLook &look)
     if (!holdsPicture(block))
         format.setLineHeight(lineHeight, QTextBlockFormat::ProportionalHeight);
     QTextCursor(block).setBlockFormat(format);
+    if (isListItem(block))
+        boundIndent(block.textList());
 }
 
 QTextCharFormat styledFormat(

@@ -35,6 +35,7 @@ private Q_SLOTS:
     void setMarkdown_spacesParagraphsOnlyBetween();
     void setMarkdown_setsListItemsCloser();
     void setMarkdown_keepsNestedLists();
+    void setMarkdown_indentsDeepLists_noFurther();
     void setMarkdown_indentsCode_asOneBlock();
     void setMarkdown_leavesNoEmptyParagraph_whenCodeEndsTheText();
     void setMarkdown_indentsQuotations();
@@ -71,6 +72,20 @@ void tst_HRTextStyle::setMarkdown_keepsNestedLists()
 
     QCOMPARE(styled.block(1).textList()->format().indent(), 2);
     QCOMPARE(styled.block(2).textList(), styled.block(0).textList());
+}
+
+void tst_HRTextStyle::setMarkdown_indentsDeepLists_noFurther()
+{
+    const Styled styled(QString("- ").repeated(30) + "deep");
+
+    QSet<int> indents;
+    for (QTextBlock block = styled.block(0); block.isValid(); block = block.next())
+        indents += block.textList() ? block.textList()->format().indent() : 0;
+    indents -= 0; // what is in no list
+
+    QCOMPARE(indents, (QSet<int>{ 1, 2, 3, 4, 5, 6, 7, 8 }));
+    QCOMPARE(styled.document.lastBlock().textList()->format().indent(), 8);
+    QCOMPARE(styled.document.lastBlock().text(), QString("deep"));
 }
 
 void tst_HRTextStyle::setMarkdown_indentsCode_asOneBlock()
