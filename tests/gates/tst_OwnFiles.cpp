@@ -182,88 +182,97 @@ void tst_OwnFiles::ui_mayBeNamedByTheHost()
     QCOMPARE(f.warnings(), QStringList());
 }
 
+namespace {
+
+/// QML that loads what another package has; %1 stands for the directory of the packages.
+struct ForeignLoad
+{
+    const char *name;
+    QByteArray imports;
+    QByteArray body;
+    QString kind; ///< for which it is refused
+    QString file;
+};
+
+QByteArray sourceOf(const QByteArray &type, const QByteArray &file)
+{
+    return type + " { source: 'file://%1/" + file + "' }";
+}
+
+QByteArray boundSourceOf(const QByteArray &type, const QByteArray &file)
+{
+    return "property string at: 'file://%1'; " + type + " { source: at + '/" + file + "' }";
+}
+
+QVector<ForeignLoad> loadsByItems()
+{
+    const QString file = "secret.png";
+    QVector<ForeignLoad> loads;
+    for (const char *type : { "Image", "AnimatedImage", "BorderImage", "FontLoader" })
+        loads.append({ type, "", sourceOf(type, "secret.png"), "source", file });
+    return loads << ForeignLoad{ "Image, bound", "", boundSourceOf("Image", "secret.png"), "source",
+        file }
+                 << ForeignLoad{ "BorderImage, bound", "",
+                        boundSourceOf("BorderImage", "secret.png"), "source", file }
+                 << ForeignLoad{ "Loader, bound", "", boundSourceOf("Loader", "far/Far.qml"),
+                        "source", "far/Far.qml" }
+                 << ForeignLoad{ "Loader", "", "Loader { source: '../../far/Far.qml' }", "source",
+                        "far/Far.qml" }
+                 << ForeignLoad{ "Image, relative", "", "Image { source: '../../secret.png' }",
+                        "source", file }
+                 << ForeignLoad{ "Image of a Repeater", "",
+                        "Repeater { model: 1; Image { source: '../../secret.png' } }", "source",
+                        file }
+                 << ForeignLoad{ "own property", "",
+                        "property url at: '../../secret.png'; Image { source: at }", "at", file }
+                 << ForeignLoad{ "object that is no item", "",
+                        "property var part: QtObject { property url at: '../../secret.png' }", "at",
+                        file };
+}
+
+QVector<ForeignLoad> loadsByScripts()
+{
+    const QString file = "secret.png";
+    return {
+        { "XMLHttpRequest", "",
+            "Component.onCompleted: { var r = new XMLHttpRequest();"
+            "r.open('GET', 'file://%1/secret.png'); r.send() }",
+            "url", file },
+        { "source of the view", "",
+            "Component.onCompleted: hintreelView.source = 'file://%1/far/Far.qml'", "ui",
+            "far/Far.qml" },
+        { "Image that a script sets", "",
+            "Image { id: image }\nComponent.onCompleted: image.source = '../../secret.png'",
+            "source", file },
+        { "Image outside the scene", "",
+            "Component { id: picture; Image { source: '../../secret.png' } }\n"
+            "Component.onCompleted: picture.createObject(null)",
+            "url", file },
+    };
+}
+
+QVector<ForeignLoad> loadsByImports()
+{
+    return {
+        { "script", "import '../../far/far.js' as Far", "", "script", "far/far.js" },
+        { "directory", "import '../../far'", "", "qmldir", "far/qmldir" },
+        { "type of a qmldir", "import 'near'", "Far {}", "QML file", "far/Far.qml" },
+        { "plugin", "import 'plugin'", "", "qmldir", "Own.hintreels/ui/plugin/qmldir" },
+    };
+}
+
+} // namespace
+
 void tst_OwnFiles::qml_loadsNothingOfOthers_data()
 {
     QTest::addColumn<QByteArray>("imports");
     QTest::addColumn<QByteArray>("body");
     QTest::addColumn<QString>("kind");
     QTest::addColumn<QString>("file");
-    const QByteArray none;
-    QTest::newRow("Image") << none << QByteArray("Image { source: 'file://%1/secret.png' }")
-                           << "source"
-                           << "secret.png";
-    QTest::newRow("Image, relative")
-        << none << QByteArray("Image { source: '../../secret.png' }") << "source"
-        << "secret.png";
-    QTest::newRow("AnimatedImage")
-        << none << QByteArray("AnimatedImage { source: 'file://%1/secret.png' }") << "source"
-        << "secret.png";
-    QTest::newRow("BorderImage") << none
-                                 << QByteArray("BorderImage { source: 'file://%1/secret.png' }")
-                                 << "source"
-                                 << "secret.png";
-    QTest::newRow("FontLoader") << none
-                                << QByteArray("FontLoader { source: 'file://%1/secret.png' }")
-                                << "source"
-                                << "secret.png";
-    QTest::newRow("Loader") << none << QByteArray("Loader { source: '../../far/Far.qml' }")
-                            << "source"
-                            << "far/Far.qml";
-    QTest::newRow("XMLHttpRequest")
-        << none
-        << QByteArray("Component.onCompleted: { var r = new XMLHttpRequest();"
-                      "r.open('GET', 'file://%1/secret.png'); r.send() }")
-        << "url"
-        << "secret.png";
-    QTest::newRow("script") << QByteArray("import '../../far/far.js' as Far") << none << "script"
-                            << "far/far.js";
-    QTest::newRow("directory") << QByteArray("import '../../far'") << none << "qmldir"
-                               << "far/qmldir";
-    QTest::newRow("source of the view")
-        << none
-        << QByteArray("Component.onCompleted: hintreelView.source = 'file://%1/far/Far.qml'")
-        << "ui"
-        << "far/Far.qml";
-    QTest::newRow("own property")
-        << none << QByteArray("property url at: '../../secret.png'; Image { source: at }") << "at"
-        << "secret.png";
-    for (const char *type : { "Image", "BorderImage" }) {
-        QTest::addRow("%s, by a binding", type) << none
-                                                << "property string at: 'file://%1'; "
-                + QByteArray(type) + " { source: at + '/secret.png' }"
-                                                << "source"
-                                                << "secret.png";
-    }
-    QTest::newRow("Loader, by a binding")
-        << none
-        << QByteArray("property string at: 'file://%1'; Loader { source: at + '/far/Far.qml' }")
-        << "source"
-        << "far/Far.qml";
-    QTest::newRow("Image of a Repeater")
-        << none << QByteArray("Repeater { model: 1; Image { source: '../../secret.png' } }")
-        << "source"
-        << "secret.png";
-    QTest::newRow("Image that a script sets")
-        << none
-        << QByteArray("Image { id: image }\nComponent.onCompleted: "
-                      "image.source = '../../secret.png'")
-        << "source"
-        << "secret.png";
-    QTest::newRow("object that is no item")
-        << none << QByteArray("property var part: QtObject { property url at: '../../secret.png' }")
-        << "at"
-        << "secret.png";
-    QTest::newRow("Image outside the scene")
-        << none
-        << QByteArray("Component { id: picture; Image { source: '../../secret.png' } }\n"
-                      "Component.onCompleted: picture.createObject(null)")
-        << "url"
-        << "secret.png";
-    QTest::newRow("type of a qmldir")
-        << QByteArray("import 'near'") << QByteArray("Far {}") << "QML file"
-        << "far/Far.qml";
-    QTest::newRow("plugin") << QByteArray("import 'plugin'") << none << "qmldir"
-                            << "Own.hintreels/ui/plugin/qmldir";
+
+    const QVector<ForeignLoad> loads = loadsByItems() + loadsByScripts() + loadsByImports();
+    for (const ForeignLoad &load : loads)
+        QTest::newRow(load.name) << load.imports << load.body << load.kind << load.file;
 }
 
 void tst_OwnFiles::qml_loadsNothingOfOthers()
