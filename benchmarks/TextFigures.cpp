@@ -6,7 +6,7 @@
 #include "Baselines.h"
 #include "FigureRuns.h"
 #include "Measuring.h"
-#include "manager/HRInterpolation_p.h"
+#include "manager/interpolation_p.h"
 
 #include <QMap>
 #include <QVariant>

@@ -6,7 +6,7 @@
 #include "Measuring.h"
 #include "context/HRContext.h"
 #include "manager/HRManager.h"
-#include "ui/HRWidget.h"
+#include "ui/popup/HRWidget.h"
 
 #include <QCoreApplication>
 #include <QCursor>

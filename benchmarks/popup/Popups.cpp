@@ -3,8 +3,8 @@
 
 #include "popup/Popups.h"
 
-#include "ui/HRView.h"
-#include "ui/HRWidget.h"
+#include "ui/popup/HRView.h"
+#include "ui/popup/HRWidget.h"
 
 #include <QEventLoop>
 #include <QTimer>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "ui/HRView.h"
+#include "ui/popup/HRView.h"
 #include "video/HRVideoComponent.h"
 
 #include <QElapsedTimer>

@@ -6,7 +6,7 @@
 #include "content/HRElementClass_p.h"
 #include "content/HRXmlDocument_p.h"
 #include "content/HRXmlElement.h"
-#include "context/HRPrintable_p.h"
+#include "context/printable_p.h"
 
 #include <QDebug>
 #include <QMap>

@@ -3,8 +3,8 @@
 
 #include "gates/HRFileGate_p.h"
 
-#include "gates/HRQmlImports_p.h"
-#include "index/HRPosixFile_p.h"
+#include "files/HRPosixFile_p.h"
+#include "gates/HRQmlImport_p.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "gates/HRMediaKind_p.h"
+#include "gates/HRFileUse_p.h"
 #include "gates/HRPackageRules_p.h"
 
 #include <QMutex>

@@ -3,7 +3,7 @@
 
 #include "gates/HRPackageRules_p.h"
 
-#include "context/HRSetting_p.h"
+#include "context/setting_p.h"
 
 #include <algorithm>
 

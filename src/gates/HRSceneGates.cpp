@@ -3,7 +3,7 @@
 
 #include "gates/HRSceneGates_p.h"
 
-#include "gates/HRUrlProperties_p.h"
+#include "gates/urlProperties_p.h"
 
 #include <QMutexLocker>
 #include <QPointer>

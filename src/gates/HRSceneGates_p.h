@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "gates/HRNetworkGate_p.h"
+#include "gates/HRNetworkAccess_p.h"
 #include "gates/HRUrlGate_p.h"
 
 #include <QMutex>

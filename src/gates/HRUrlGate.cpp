@@ -3,7 +3,7 @@
 
 #include "gates/HRUrlGate_p.h"
 
-#include "gates/HRNetworkGate_p.h"
+#include "gates/HRNetworkAccess_p.h"
 
 #include <QUrl>
 

@@ -5,10 +5,10 @@
 
 #include "content/HRXmlElement.h"
 #include "content/HRXmlParser.h"
-#include "context/HRSetting_p.h"
-#include "index/HRControlTree_p.h"
-#include "index/HRElementFilters_p.h"
+#include "context/setting_p.h"
 #include "index/HRIndex_p.h"
+#include "index/control/HRControlTree_p.h"
+#include "index/control/elementFilters_p.h"
 
 #include <QDir>
 #include <QFile>

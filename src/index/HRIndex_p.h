@@ -4,12 +4,12 @@
 #pragma once
 
 #include "context/HRContext.h"
-#include "index/HRControlFileProbe_p.h"
-#include "index/HRControlReader_p.h"
-#include "index/HRControlRecords_p.h"
-#include "index/HRDirectoryDepth_p.h"
+#include "files/HRPosixFile_p.h"
+#include "index/HRPackageDepth_p.h"
 #include "index/HRPackageMap_p.h"
-#include "index/HRPosixFile_p.h"
+#include "index/control/HRControlFileProbe_p.h"
+#include "index/control/HRControlPrefilter_p.h"
+#include "index/control/HRControlRecords_p.h"
 
 #include <QPointer>
 #include <QStringList>
@@ -58,10 +58,10 @@ struct HRIndexPrivate
     QPointer<HRContext> context;
     QStringList paths;
     HRControlRecords records;
-    HRControlReader reader;
+    HRControlPrefilter reader;
     HRPackageMap packages;
     HRControlFileProbe probe;
-    HRDirectoryDepth depth;
+    HRPackageDepth depth;
     bool inUpdate = false;
     HRPreparedFile prepared;
     QStringList componentQuestion; // the last one, until another package is mapped
@@ -73,7 +73,7 @@ struct HRIndexPrivate
     /// Whether the first element of the file, which may be a Qt resource, is that of control files.
     bool isControlFile(const QString &path);
 
-    /// As HRDirectoryDepth counts them.
+    /// As HRPackageDepth counts them.
     std::optional<int> levels(const QString &filePath, const QString &packagePath)
     {
         return depth.levels(filePath, packagePath, prepared.is(filePath));

@@ -5,11 +5,11 @@
 
 #include "content/HRXmlElement.h"
 #include "context/HRContext.h"
-#include "context/HRSetting_p.h"
-#include "index/HRDirectorySnapshot_p.h"
-#include "index/HRDirectoryStore_p.h"
+#include "context/setting_p.h"
+#include "files/HRPosixFile_p.h"
 #include "index/HRIndex_p.h"
-#include "index/HRPosixFile_p.h"
+#include "index/database/HRDigestTable_p.h"
+#include "index/database/HRDirectoryDigest_p.h"
 
 #include <QDebug>
 #include <QDir>
@@ -44,9 +44,9 @@ bool makeDirectory(const QString &path)
 struct HRPackageIndexPrivate
 {
     QString path; // of the database's file, as the settings gave it when it was opened
-    std::optional<HRDirectoryStore> store; // none while the database is closed
+    std::optional<HRDigestTable> store; // none while the database is closed
     QString directory; // the one whose files are being indexed, with its slash
-    HRDirectorySnapshot snapshot; // of that directory
+    HRDirectoryDigest snapshot; // of that directory
     bool isChanged = false; // whether the snapshot differs from the stored one
     bool willSave = false;
     bool isDamaged = false;
@@ -180,7 +180,7 @@ QString HRPackageIndex::databaseFilePath()
 
 QStringList HRPackageIndex::tableNames() const
 {
-    return HRSQLiteIndex::tableNames() << HRDirectoryStore::tableName();
+    return HRSQLiteIndex::tableNames() << HRDigestTable::tableName();
 }
 
 bool HRPackageIndex::isOwnPlace(const QString &path) const
@@ -229,7 +229,7 @@ void HRPackageIndex::enterDirectory(const QString &directory)
     d->directory = directory;
     const QByteArray stored = d->store ? d->store->load(d->directory) : QByteArray();
     if (!stored.isEmpty()) {
-        std::optional<HRDirectorySnapshot> snapshot = HRDirectorySnapshot::decoded(stored);
+        std::optional<HRDirectoryDigest> snapshot = HRDirectoryDigest::decoded(stored);
         d->isDamaged = !snapshot;
         if (snapshot)
             d->snapshot = std::move(*snapshot);
@@ -250,7 +250,7 @@ void HRPackageIndex::leaveDirectory()
     }
     if (d->store && d->isChanged)
         d->store->save(d->directory, d->snapshot.encoded());
-    d->snapshot = HRDirectorySnapshot();
+    d->snapshot = HRDirectoryDigest();
     d->directory.clear();
     d->isChanged = false;
 }

@@ -5,14 +5,14 @@
 
 #include "content/HRXmlElement.h"
 #include "context/HRContext.h"
-#include "context/HRPrintable_p.h"
-#include "context/HRSetting_p.h"
-#include "index/HRControlTree_p.h"
-#include "index/HRHeldEntries_p.h"
-#include "index/HRIndexDatabase_p.h"
-#include "index/HRIndexLookup_p.h"
-#include "index/HRIndexUpdate_p.h"
+#include "context/printable_p.h"
+#include "context/setting_p.h"
 #include "index/HRIndex_p.h"
+#include "index/control/HRControlTree_p.h"
+#include "index/database/HRHeldEntries_p.h"
+#include "index/database/HRIndexDatabase_p.h"
+#include "index/database/HRIndexLookup_p.h"
+#include "index/database/HRIndexUpdate_p.h"
 
 #include <QDebug>
 #include <QDir>

@@ -4,7 +4,7 @@
 #include "manager/HRContentLookup_p.h"
 
 #include "content/HRXmlElement.h"
-#include "context/HRSetting_p.h"
+#include "context/setting_p.h"
 #include "index/HRIndex.h"
 
 #include <QDir>

@@ -3,11 +3,11 @@
 
 #include "manager/HRPackageScanner_p.h"
 
-#include "context/HRSetting_p.h"
+#include "context/setting_p.h"
+#include "files/HRPosixFile_p.h"
 #include "gates/HRPackageRules_p.h"
 #include "index/HRIndex.h"
 #include "index/HRIndex_p.h"
-#include "index/HRPosixFile_p.h"
 #include "interface/HRTypes.h"
 
 #include <QDir>

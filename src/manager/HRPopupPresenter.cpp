@@ -4,9 +4,9 @@
 #include "manager/HRPopupPresenter_p.h"
 
 #include "content/HRXmlElement.h"
-#include "context/HRSetting_p.h"
+#include "context/setting_p.h"
 #include "interface/HRInterface.h"
-#include "ui/HRView.h"
+#include "ui/popup/HRView.h"
 
 #include <limits>
 

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "manager/HRContentLookup_p.h"
-#include "ui/HRWidget.h"
+#include "ui/popup/HRWidget.h"
 
 #include <QPoint>
 #include <QPointer>

@@ -3,8 +3,8 @@
 
 #include "manager/HRTranslation_p.h"
 
-#include "index/HRPosixFile_p.h"
-#include "manager/HRTranslationCheck_p.h"
+#include "files/HRPosixFile_p.h"
+#include "manager/translationCheck_p.h"
 
 namespace Hintreels {
 

@@ -3,7 +3,7 @@
 
 #include "video/HRMediaDemuxer_p.h"
 
-#include "video/HRMediaFile_p.h"
+#include "video/mediaFile_p.h"
 
 #include <QRegularExpression>
 

@@ -3,13 +3,13 @@
 
 #include "video/HRVideoComponent.h"
 
-#include "context/HRSetting_p.h"
-#include "gates/HRMediaKind_p.h"
+#include "context/setting_p.h"
+#include "gates/HRFileUse_p.h"
 #include "manager/HRManager.h"
-#include "ui/HRView.h"
-#include "video/HRRetiredSources_p.h"
+#include "ui/popup/HRView.h"
 #include "video/HRVideoController.h"
 #include "video/HRVideoSourceFFMPEG.h"
+#include "video/retiredSources_p.h"
 
 #include <QFileInfo>
 #include <QPainter>

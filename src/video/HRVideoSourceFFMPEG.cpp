@@ -3,12 +3,12 @@
 
 #include "video/HRVideoSourceFFMPEG.h"
 
-#include "context/HRPrintable_p.h"
+#include "context/printable_p.h"
 #include "video/HRCompactFrameCache_p.h"
-#include "video/HRMediaFile_p.h"
-#include "video/HRRetiredSources_p.h"
 #include "video/HRSchedule_p.h"
 #include "video/HRVideoSourceFFMPEG_p.h"
+#include "video/mediaFile_p.h"
+#include "video/retiredSources_p.h"
 
 #include <QDebug>
 

@@ -4,7 +4,7 @@
 #include "fuzz/FuzzTarget.h"
 #include "fuzz/MemoryFile.h"
 #include "support/Promises.h"
-#include "video/HRCaptions_p.h"
+#include "video/captions_p.h"
 
 #include <cmath>
 

@@ -5,10 +5,10 @@
 #include "context/HRContext.h"
 #include "fuzz/FuzzTarget.h"
 #include "fuzz/MemoryFile.h"
-#include "index/HRControlFileProbe_p.h"
-#include "index/HRControlReading_p.h"
-#include "index/HRControlTree_p.h"
 #include "index/HRIndex.h"
+#include "index/control/HRControlDigest_p.h"
+#include "index/control/HRControlFileProbe_p.h"
+#include "index/control/HRControlTree_p.h"
 #include "support/Promises.h"
 
 #include <QBuffer>
@@ -44,8 +44,8 @@ void fuzzControlFile(const QByteArray &input)
 {
     probe(input);
     const MemoryFile file(input);
-    const std::optional<HRControlReading> found = searchControlFile(input);
-    const HRControlReading parsed = parseControlFile(file.path());
+    const std::optional<HRControlDigest> found = searchControlFile(input);
+    const HRControlDigest parsed = parseControlFile(file.path());
     HRContext context;
     HRIndex index(&context, {});
     const QStringList keys = keysOfControlFile(file.path()).mid(0, mostKeys) + QStringList("a");

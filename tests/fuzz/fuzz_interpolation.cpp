@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "fuzz/FuzzTarget.h"
-#include "manager/HRInterpolation_p.h"
+#include "manager/interpolation_p.h"
 #include "support/Promises.h"
 #include "support/RepeatedSearch.h"
 

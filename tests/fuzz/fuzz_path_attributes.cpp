@@ -4,15 +4,15 @@
 #include "content/HRXmlElement.h"
 #include "context/HRContext.h"
 #include "fuzz/FuzzTarget.h"
-#include "gates/HRMediaKind_p.h"
+#include "gates/HRFileUse_p.h"
 #include "index/HRIndex.h"
 #include "interface/HRInterface.h"
-#include "manager/HRExternalResource_p.h"
 #include "manager/HRManager.h"
+#include "manager/externalResource_p.h"
 #include "support/Promises.h"
 #include "support/TestPackage.h"
-#include "ui/HRView.h"
-#include "video/HRCaptions_p.h"
+#include "ui/popup/HRView.h"
+#include "video/captions_p.h"
 
 #include <QFileInfo>
 

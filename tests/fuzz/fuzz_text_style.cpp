@@ -3,7 +3,7 @@
 
 #include "fuzz/FuzzTarget.h"
 #include "support/Promises.h"
-#include "ui/HRTextStyle_p.h"
+#include "ui/reader/textStyle_p.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QDir>

@@ -3,7 +3,7 @@
 
 #include "fuzz/FuzzTarget.h"
 #include "fuzz/MemoryFile.h"
-#include "manager/HRTranslationCheck_p.h"
+#include "manager/translationCheck_p.h"
 
 #include <QTranslator>
 

@@ -7,8 +7,8 @@
 #include "support/MessageGuard.h"
 #include "support/RecordingHost.h"
 #include "support/TestPackage.h"
-#include "ui/HRView.h"
-#include "ui/HRWidget.h"
+#include "ui/popup/HRView.h"
+#include "ui/popup/HRWidget.h"
 
 #include <QQuickItem>
 #include <QtTest>

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 
 #include "gates/GateFixture.h"
-#include "gates/HRNetworkGate_p.h"
+#include "gates/HRNetworkAccess_p.h"
 #include "gates/HRUrlGate_p.h"
 #include "support/TestFile.h"
-#include "ui/HRSceneReach_p.h"
+#include "ui/popup/sceneReach_p.h"
 
 #include <QNetworkReply>
 #include <QQmlEngine>

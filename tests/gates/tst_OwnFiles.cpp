@@ -3,7 +3,7 @@
 
 #include "content/HRXmlElement.h"
 #include "gates/GateFixture.h"
-#include "ui/HRContentReader_p.h"
+#include "ui/reader/HRContentReader_p.h"
 
 #include <QBuffer>
 #include <QDir>

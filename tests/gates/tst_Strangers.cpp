@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 
 #include "gates/GateFixture.h"
-#include "gates/HRMediaKind_p.h"
+#include "gates/HRFileUse_p.h"
 #include "index/HRSQLiteIndex.h"
 #include "support/TestClip.h"
-#include "ui/HRContentReader_p.h"
-#include "ui/HRSceneReach_p.h"
+#include "ui/popup/sceneReach_p.h"
+#include "ui/reader/HRContentReader_p.h"
 
 #include <QBuffer>
 #include <QDir>

@@ -3,10 +3,10 @@
 
 #include "content/HRXmlElement.h"
 #include "context/HRContext.h"
-#include "index/HRDirectorySnapshot_p.h"
-#include "index/HRDirectoryStore_p.h"
+#include "files/HRPosixFile_p.h"
 #include "index/HRPackageIndex.h"
-#include "index/HRPosixFile_p.h"
+#include "index/database/HRDigestTable_p.h"
+#include "index/database/HRDirectoryDigest_p.h"
 #include "manager/HRPackageScanner_p.h"
 #include "support/MessageGuard.h"
 #include "support/TestPackage.h"
@@ -222,12 +222,12 @@ void tst_HRPackageIndex::warmStart_readsOnlyWhatChanged()
         HRStoredFile kept;
         kept.isControlFile = true;
         kept.reading.keys = { keyNumber(QString("kept")) };
-        HRDirectorySnapshot snapshot;
+        HRDirectoryDigest snapshot;
         for (const QString &path : { file, other }) {
             kept.stamp = *stampOfFile(QFile::encodeName(path));
             snapshot.put(QFileInfo(path).fileName().toStdString(), kept);
         }
-        HRDirectoryStore store(QSqlDatabase::database("run"));
+        HRDigestTable store(QSqlDatabase::database("run"));
         store.save(QFileInfo(file).path() + '/', snapshot.encoded());
         store.flush();
     }
@@ -267,7 +267,7 @@ void tst_HRPackageIndex::database_isWritten_withoutClose()
     run.scan(packages.path());
     QCoreApplication::processEvents();
     Run other(packages, "other");
-    HRDirectoryStore store(QSqlDatabase::database("other"));
+    HRDigestTable store(QSqlDatabase::database("other"));
     QVERIFY(store.load(packages.path() + "/A.hintreels/Control/").contains("a.xml"));
     messages.takeMessages();
 }
@@ -283,7 +283,7 @@ void tst_HRPackageIndex::database_isKept_whateverTheSettingsSay()
     run.index.close();
     QVERIFY(QFileInfo(run.file).isFile());
     QVERIFY(run.index.open());
-    HRDirectoryStore store(QSqlDatabase::database("run"));
+    HRDigestTable store(QSqlDatabase::database("run"));
     const QString directory = packages.path() + "/A.hintreels/Control/";
     QVERIFY(!store.load(directory).isEmpty());
     run.index.clear();

@@ -6,8 +6,8 @@
 #include "support/Promises.h"
 #include "support/RecordingHost.h"
 #include "support/TestClip.h"
-#include "ui/HRView.h"
-#include "ui/HRWidget.h"
+#include "ui/popup/HRView.h"
+#include "ui/popup/HRWidget.h"
 
 #include <QtTest>
 

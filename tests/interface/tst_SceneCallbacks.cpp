@@ -6,8 +6,8 @@
 #include "manager/HRManager.h"
 #include "support/MessageGuard.h"
 #include "support/TestPackage.h"
-#include "ui/HRView.h"
-#include "ui/HRWidget.h"
+#include "ui/popup/HRView.h"
+#include "ui/popup/HRWidget.h"
 
 #include <QHelpEvent>
 #include <QQuickItem>

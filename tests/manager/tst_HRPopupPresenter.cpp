@@ -5,8 +5,8 @@
 #include "interface/HRInterface.h"
 #include "manager/HRManager.h"
 #include "support/RecordingHost.h"
-#include "ui/HRView.h"
-#include "ui/HRWidget.h"
+#include "ui/popup/HRView.h"
+#include "ui/popup/HRWidget.h"
 
 #include <QHelpEvent>
 #include <QtTest>

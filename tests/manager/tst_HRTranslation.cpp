@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
-#include "manager/HRTranslationCheck_p.h"
 #include "manager/HRTranslation_p.h"
+#include "manager/translationCheck_p.h"
 
 #include <QtTest>
 

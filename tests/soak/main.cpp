@@ -9,8 +9,8 @@
 #include "soak/Footprint.h"
 #include "support/TestClip.h"
 #include "support/TestPackage.h"
-#include "ui/HRView.h"
-#include "ui/HRWidget.h"
+#include "ui/popup/HRView.h"
+#include "ui/popup/HRWidget.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "support/TestClip.h"
-#include "ui/HRReadableColor_p.h"
 #include "ui/StandardUiFixture.h"
+#include "ui/reader/readableColor_p.h"
 
 #include <QAccessible>
 #include <QFile>

@@ -3,8 +3,8 @@
 
 #include "support/ClipThreads.h"
 #include "support/TestClip.h"
-#include "ui/HRHeapTrim_p.h"
 #include "ui/StandardUiFixture.h"
+#include "ui/popup/heapTrim_p.h"
 
 #include <unistd.h>
 

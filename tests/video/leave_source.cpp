@@ -4,7 +4,7 @@
 // Retires a source that hears nothing until the application is gone, and says when it has ended.
 
 #include "support/FakeSource.h"
-#include "video/HRRetiredSources_p.h"
+#include "video/retiredSources_p.h"
 
 #include <QCoreApplication>
 #include <QSemaphore>

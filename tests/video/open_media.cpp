@@ -5,9 +5,9 @@
 // open_media clip|size|captions PATH. Prints the number of pictures, the size, or the number of
 // captions.
 
-#include "video/HRCaptions_p.h"
-#include "video/HRClipSize_p.h"
 #include "video/HRClip_p.h"
+#include "video/captions_p.h"
+#include "video/clipSize_p.h"
 
 #include <cstdio>
 

@@ -7,8 +7,8 @@
 #include "support/RecordingHost.h"
 #include "support/SignalCounter.h"
 #include "support/TestClip.h"
-#include "ui/HRQmlTypes_p.h"
-#include "ui/HRView.h"
+#include "ui/items/qmlTypes_p.h"
+#include "ui/popup/HRView.h"
 
 #include <QElapsedTimer>
 #include <QPaintEngine>

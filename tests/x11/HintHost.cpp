@@ -5,7 +5,7 @@
 
 #include "interface/HRInterface.h"
 #include "manager/HRManager.h"
-#include "ui/HRWidget.h"
+#include "ui/popup/HRWidget.h"
 #include "x11/RealInput.h"
 
 #include <QProxyStyle>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "manager/HRManager.h"
-#include "ui/HRWidget.h"
+#include "ui/popup/HRWidget.h"
 #include "x11/HintHost.h"
 #include "x11/RealInput.h"
 

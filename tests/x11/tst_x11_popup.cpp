@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
-#include "ui/HRWidget.h"
+#include "ui/popup/HRWidget.h"
 #include "x11/HintHost.h"
 #include "x11/RealInput.h"
 

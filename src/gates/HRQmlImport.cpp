@@ -1,0 +1,191 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "gates/HRQmlImport_p.h"
+
+#include <QStringList>
+
+namespace Hintreels {
+
+namespace {
+
+/// Reads what stands before the first object of a QML file, or the first statement of a script.
+class Head
+{
+public:
+    explicit Head(const QString &text)
+        : m_text(text)
+    {
+    }
+
+    QVector<HRQmlImport> imports()
+    {
+        QVector<HRQmlImport> found;
+        for (;;) {
+            skipBlank();
+            skip('.'); // a script writes its own with a dot before it
+            const QString word = takeWord();
+            if (word == QLatin1String("pragma"))
+                takeNextWord();
+            else if (word != QLatin1String("import"))
+                return found;
+            else
+                takeImport(found);
+        }
+    }
+
+private:
+    void takeImport(QVector<HRQmlImport> &found)
+    {
+        skipBlank();
+        if (at() == '"' || at() == '\'') {
+            skipString();
+        } else {
+            HRQmlImport import;
+            import.module = takeDotted();
+            skipBlank();
+            if (at().isDigit())
+                import.major = takeDotted().section('.', 0, 0).toInt();
+            found.append(import);
+        }
+        skipQualifier();
+    }
+
+    void skipQualifier()
+    {
+        skipBlank();
+        if (at().isDigit())
+            takeDotted();
+        const int before = m_at;
+        if (takeNextWord() == QLatin1String("as"))
+            takeNextWord();
+        else
+            m_at = before;
+    }
+
+    QString takeDotted()
+    {
+        QString name = takeNextWord();
+        for (skipBlank(); at() == '.'; skipBlank()) {
+            skip('.');
+            name += '.' + takeNextWord();
+        }
+        return name;
+    }
+
+    QString takeNextWord()
+    {
+        skipBlank();
+        return takeWord();
+    }
+
+    // A backslash belongs to it: a name that is spelled with escapes is none of those allowed.
+    QString takeWord()
+    {
+        const int begin = m_at;
+        while (at().isLetterOrNumber() || at() == '_' || at() == '\\')
+            ++m_at;
+        return m_text.mid(begin, m_at - begin);
+    }
+
+    void skipString()
+    {
+        const QChar quote = at();
+        for (++m_at; m_at < m_text.size() && at() != quote; ++m_at)
+            m_at += at() == '\\';
+        ++m_at;
+    }
+
+    void skipBlank()
+    {
+        while (m_at < m_text.size()) {
+            if (startsWith("//"))
+                skipPast("\n");
+            else if (startsWith("/*"))
+                skipPast("*/");
+            else if (at().isSpace() || at() == ';' || at() == QChar::ByteOrderMark)
+                ++m_at;
+            else
+                return;
+        }
+    }
+
+    bool startsWith(const char *mark) const
+    {
+        return m_text.midRef(m_at).startsWith(QLatin1String(mark));
+    }
+
+    void skipPast(const char *mark)
+    {
+        const QLatin1String end(mark);
+        const int found = m_text.indexOf(end, m_at + end.size());
+        m_at = found < 0 ? m_text.size() : found + end.size();
+    }
+
+    void skip(char c) { m_at += at() == QLatin1Char(c); }
+    QChar at() const { return m_at < m_text.size() ? m_text[m_at] : QChar(); }
+
+    const QString &m_text;
+    int m_at = 0;
+};
+
+QVector<QStringList> linesOfQmldir(const QString &text)
+{
+    QVector<QStringList> lines;
+    const QStringList rawLines = text.split('\n');
+    for (const QString &line : rawLines) {
+        const QStringList words = line.section('#', 0, 0).simplified().split(' ');
+        if (!words.first().isEmpty())
+            lines.append(words);
+    }
+    return lines;
+}
+
+int majorOf(const QString &version)
+{
+    return version.section('.', 0, 0).toInt();
+}
+
+} // namespace
+
+QVector<HRQmlImport> importsOfQml(const QString &text)
+{
+    return Head(text).imports();
+}
+
+QVector<HRQmlImport> importsOfQmldir(const QString &text)
+{
+    QVector<HRQmlImport> imports;
+    const QVector<QStringList> lines = linesOfQmldir(text);
+    for (const QStringList &words : lines) {
+        if (words.first() == QLatin1String("import") || words.first() == QLatin1String("depends"))
+            imports.append({ words.value(1), majorOf(words.value(2)) });
+    }
+    return imports;
+}
+
+bool loadsPlugin(const QString &qmldir)
+{
+    const QVector<QStringList> lines = linesOfQmldir(qmldir);
+    for (const QStringList &words : lines) {
+        if (words.contains(QStringLiteral("plugin")))
+            return true;
+    }
+    return false;
+}
+
+HRQmlImport moduleInDirectory(const QString &relativePath)
+{
+    HRQmlImport import;
+    QStringList names;
+    const QStringList directories = relativePath.split('/');
+    for (const QString &directory : directories) {
+        const QString version = directory.section('.', 1);
+        import.major = version.isEmpty() ? import.major : majorOf(version);
+        names.append(directory.section('.', 0, 0));
+    }
+    import.module = names.join('.');
+    return import;
+}
+
+} // namespace Hintreels

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "gates/urlProperties_p.h"
+
+#include "gates/HRNetworkAccess_p.h"
+
+#include <QMetaProperty>
+#include <QQuickItem>
+#include <QSet>
+#include <QUrl>
+#include <QVector>
+
+namespace Hintreels {
+
+namespace {
+
+void addProperties(const QObject &object, QHash<QString, QString> &properties)
+{
+    const QMetaObject &type = *object.metaObject();
+    for (int i = 0; i < type.propertyCount(); ++i) {
+        const QMetaProperty property = type.property(i);
+        if (property.userType() != QMetaType::QUrl)
+            continue;
+        const QString text = withoutRefusal(property.read(&object).toUrl().toString());
+        const QUrl url(text);
+        const QString told = url.isLocalFile() ? url.toLocalFile() : text;
+        if (!properties.contains(told))
+            properties.insert(told, QString::fromLatin1(property.name()));
+    }
+}
+
+/// What a Repeater makes is an item below another one, but no child of any object.
+QObjectList below(const QObject *object)
+{
+    QObjectList objects = object->children();
+    if (const auto *item = qobject_cast<const QQuickItem *>(object)) {
+        for (QQuickItem *child : item->childItems())
+            objects.append(child);
+    }
+    return objects;
+}
+
+} // namespace
+
+QHash<QString, QString> urlProperties(QQuickItem *scene)
+{
+    QHash<QString, QString> properties;
+    QVector<const QObject *> objects{ scene };
+    QSet<const QObject *> found{ scene };
+    for (int i = 0; i < objects.size(); ++i) {
+        addProperties(*objects.at(i), properties);
+        for (const QObject *object : below(objects.at(i))) {
+            if (found.contains(object))
+                continue;
+            found.insert(object);
+            objects.append(object);
+        }
+    }
+    return properties;
+}
+
+} // namespace Hintreels

@@ -1,0 +1,197 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "ui/reader/HRContentReader_p.h"
+
+#include "context/printable_p.h"
+#include "ui/popup/heapTrim_p.h"
+#include "ui/reader/HRMeasuring_p.h"
+#include "ui/reader/hintReading_p.h"
+#include "ui/reader/keyCaps_p.h"
+#include "ui/reader/pictureFile_p.h"
+#include "ui/reader/readableColor_p.h"
+#include "ui/reader/textCut_p.h"
+#include "ui/reader/textStyle_p.h"
+#include "video/captions_p.h"
+#include "video/clipSize_p.h"
+
+#include <QQuickTextDocument>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QUrl>
+
+#include <utility>
+
+namespace Hintreels {
+
+namespace {
+
+constexpr int longestCaption = 500;
+constexpr int longestTarget = 200;
+constexpr int mostCaptions = 1'000; // nobody writes as many for a clip of some seconds
+
+QLocale localeOf(const HRXmlElement &element, const HRReaderSettings &settings)
+{
+    const auto *root = qobject_cast<const HRXmlElement *>(element.parent());
+    const QString name = root ? root->attribute("locale") : QString();
+    return name.isEmpty() ? settings.locales.first() : QLocale(name);
+}
+
+/// A text as the UI says it; as it is where the UI has no other, or fails.
+QString said(QJSValue say, const QString &text)
+{
+    if (text.isEmpty() || !say.isCallable())
+        return text;
+    const QJSValue answer = say.call({ text });
+    return answer.isString() ? answer.toString() : text;
+}
+
+QVariantMap sizeMap(const QSize &size)
+{
+    if (size.isEmpty())
+        return {};
+    return { { "width", size.width() }, { "height", size.height() } };
+}
+
+} // namespace
+
+HRContentReader::HRContentReader(SettingsSource settings, QObject *parent, FileGate gate)
+    : QObject(parent)
+    , m_settings(std::move(settings))
+    , m_gate(std::move(gate))
+    , m_pictures(new HRMeasuring([](const QString &path, auto) { return pictureSize(path); }, this))
+    , m_clips(new HRMeasuring(&clipSize, this))
+{
+    connect(m_pictures, &HRMeasuring::measured, this, &HRContentReader::tellMeasured);
+    connect(m_clips, &HRMeasuring::measured, this, &HRContentReader::tellMeasured);
+}
+
+QVariantMap HRContentReader::read(HRXmlElement *element, const QJSValue &say) const
+{
+    if (!element)
+        return {};
+    m_pictures->forget();
+    m_clips->forget();
+    QVariantMap hint = readHint(*element, [&say](const QString &text) { return said(say, text); });
+    const QLocale locale = localeOf(*element, m_settings());
+    hint.insert("rightToLeft", locale.textDirection() == Qt::RightToLeft);
+    return hint;
+}
+
+QVariantList HRContentReader::keyCaps(const QString &shortcut) const
+{
+    QVariantList strokes;
+    const QVector<QStringList> caps = keyCapsOf(shortcut);
+    for (const QStringList &keys : caps)
+        strokes.append(QVariant(keys));
+    return strokes;
+}
+
+QVariantMap HRContentReader::picture(const QString &path) const
+{
+    if (!mayUse(path, HRFileUse::picture))
+        return {};
+    QVariantMap picture = sizeMap(m_pictures->size(path));
+    if (!picture.isEmpty())
+        picture.insert("url", QUrl::fromLocalFile(path));
+    return picture;
+}
+
+QVariantMap HRContentReader::clip(const QString &path) const
+{
+    return mayUse(path, HRFileUse::clip) ? sizeMap(m_clips->size(path)) : QVariantMap();
+}
+
+QStringList HRContentReader::captionFiles(const QString &clip) const
+{
+    return Hintreels::captionFiles(clip, m_settings().locales);
+}
+
+QString HRContentReader::caption(const QString &text) const
+{
+    return cutText(text, longestCaption);
+}
+
+QVariantList HRContentReader::captions(const QString &path) const
+{
+    if (!mayUse(path, HRFileUse::text))
+        return {};
+    QVariantList captions;
+    const QVector<HRCaption> read = readCaptions(path).mid(0, mostCaptions);
+    for (const HRCaption &caption : read) {
+        captions.append(QVariantMap{ { "start", caption.start }, { "end", caption.end },
+            { "text", this->caption(caption.text) } });
+    }
+    return captions;
+}
+
+void HRContentReader::returnMemory() const
+{
+    trimHeap();
+}
+
+QString HRContentReader::shownTarget(const QString &target, const QString &text) const
+{
+    if (!m_settings().showsTargets || target == text)
+        return {};
+    return QStringLiteral(" (%1)").arg(cutText(printable(target), longestTarget));
+}
+
+bool HRContentReader::reducedMotion() const
+{
+    return m_settings().reducedMotion;
+}
+
+QColor HRContentReader::readable(const QColor &wanted, const QColor &background) const
+{
+    return readableColor(wanted, background);
+}
+
+void HRContentReader::tellMeasured()
+{
+    ++m_measured;
+    Q_EMIT measuredChanged();
+}
+
+QVariantMap HRContentReader::showMarkdown(QQuickTextDocument *document, const QString &markdown,
+    const QVariantMap &look, const QJSValue &findPicture) const
+{
+    QTextDocument *text = document ? document->textDocument() : nullptr;
+    if (!text)
+        return {};
+    const auto find = [&](const QString &path) {
+        return pictureInText(findPicture, path, look.value("room").toSizeF());
+    };
+    setMarkdown(*text, markdown,
+        { look.value("link").value<QColor>(), look.value("codeBackground").value<QColor>(),
+            look.value("spacing").toReal() },
+        HRMarkdownGate(find, look.value("links").toInt()));
+    tellTargets(*text);
+    return { { "links", linksIn(*text) }, { "pictures", picturesIn(*text) } };
+}
+
+/// From the last link to the first, so that the positions of the others stay.
+void HRContentReader::tellTargets(QTextDocument &text) const
+{
+    const QVariantList links = m_settings().showsTargets ? linksIn(text) : QVariantList();
+    for (auto it = links.crbegin(); it != links.crend(); ++it) {
+        const QVariantMap link = it->toMap();
+        QTextCursor cursor(&text);
+        cursor.setPosition(link.value("end").toInt());
+        cursor.insertText(shownTarget(link.value("href").toString(), link.value("text").toString()),
+            cursor.block().charFormat());
+    }
+}
+
+HRTextPicture HRContentReader::pictureInText(
+    QJSValue findPicture, const QString &path, const QSizeF &room) const
+{
+    const QJSValue file = findPicture.call({ path });
+    const QVariantMap found = file.isString() ? picture(file.toString()) : QVariantMap();
+    const QSizeF size(found.value("width").toReal(), found.value("height").toReal());
+    return { found.value("url").toUrl(),
+        size.scaled(room.boundedTo(size), Qt::KeepAspectRatio).toSize() };
+}
+
+} // namespace Hintreels

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "ui/reader/HRReaderSettings_p.h"
+
+#include "context/setting_p.h"
+#include "gates/HRPackageRules_p.h"
+#include "manager/HRManager.h"
+
+#include <QApplication>
+#include <QStyle>
+
+namespace Hintreels {
+
+namespace {
+
+// Desktops that are asked to move less let their style animate for no time at all.
+bool desktopReducesMotion()
+{
+    return QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration) == 0;
+}
+
+} // namespace
+
+HRReaderSettings readerSettings(HRManager *manager)
+{
+    if (!manager)
+        return { { QLocale::system() }, desktopReducesMotion() };
+    const HRContext &context = manager->context();
+    const QLocale fallback(setting(context, fallbackLocaleKey, QStringLiteral("en_US")));
+    return { { manager->currentLocale(), fallback },
+        setting(context, reducedMotionKey, desktopReducesMotion()),
+        packageRules(context).fromStrangers };
+}
+
+} // namespace Hintreels

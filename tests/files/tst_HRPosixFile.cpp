@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "files/HRPosixFile_p.h"
+#include "support/TestPackage.h"
+
+#include <QDir>
+#include <QtTest>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Hintreels;
+
+namespace {
+
+QStringList namesIn(const QString &directory)
+{
+    const HRDirectoryListing listing(directory + '/', ".xml");
+    QStringList names;
+    for (const HRListedFile &file : listing.files())
+        names += file.name;
+    return names;
+}
+
+} // namespace
+
+class tst_HRPosixFile : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void doomedFile_isDeleted_unlessReplaced_data();
+    void doomedFile_isDeleted_unlessReplaced();
+    void listing_holdsWhatQDirFinds();
+    void listing_isEmpty_whereThereIsNoDirectory();
+};
+
+void tst_HRPosixFile::listing_holdsWhatQDirFinds()
+{
+    const TestPackages files;
+    const QDir directory(files.path());
+    for (const char *name : { "b.xml", "A.XML", "c.Xml", ".hidden.xml", ".xml", "d.xml.bak", "xml",
+             "\xC3\xA4.xml", "[e] 1.xml", "line\nbreak.xml", "%1.xml" })
+        files.write(QString::fromUtf8(name), "<hintreels/>");
+    QVERIFY(directory.mkdir("directory.xml"));
+    QVERIFY(QFile::link(files.path() + "/b.xml", files.path() + "/link.xml"));
+    QVERIFY(QFile::link("/nowhere", files.path() + "/broken.xml"));
+    const QByteArray native = QFile::encodeName(files.path());
+    QCOMPARE(::mkfifo((native + "/pipe.xml").constData(), S_IRUSR | S_IWUSR), 0);
+    QCOMPARE(::mknod((native + "/\xFF.xml").constData(), S_IFREG | S_IRUSR | S_IWUSR, 0), 0);
+
+    const QStringList expected = directory.entryList(
+        { "*.xml" }, QDir::Files | QDir::NoSymLinks | QDir::Readable, QDir::NoSort);
+    const QStringList names = namesIn(files.path());
+    QCOMPARE(::unlink((native + "/\xFF.xml").constData()), 0); // QTemporaryDir could not
+    QCOMPARE(expected.size(), 7);
+    QCOMPARE(names, expected);
+}
+
+void tst_HRPosixFile::listing_isEmpty_whereThereIsNoDirectory()
+{
+    const TestPackages files;
+    const QString file = files.write("a.xml", "<hintreels/>");
+    QCOMPARE(namesIn(file), QStringList());
+    QCOMPARE(namesIn(files.path() + "/none"), QStringList());
+}
+
+void tst_HRPosixFile::doomedFile_isDeleted_unlessReplaced_data()
+{
+    QTest::addColumn<bool>("before");
+    QTest::addColumn<bool>("after");
+    QTest::newRow("not replaced") << false << false;
+    QTest::newRow("replaced before it is held") << true << false;
+    QTest::newRow("replaced while it is held") << false << true;
+}
+
+void tst_HRPosixFile::doomedFile_isDeleted_unlessReplaced()
+{
+    QFETCH(bool, before);
+    QFETCH(bool, after);
+    const TestPackages files;
+    const QString path = files.write("a", "damaged");
+    const QString other = files.write("b", "new");
+    QFile opened(path);
+    QVERIFY(opened.open(QIODevice::ReadOnly));
+    const auto stamp = stampOfFile(QFile::encodeName(path));
+    QVERIFY(stamp);
+    const auto replace = [&] { return ::rename(qPrintable(other), qPrintable(path)) == 0; };
+    QVERIFY(!before || replace());
+    HRDoomedFile file(path, *stamp);
+    QVERIFY(!after || replace());
+    file.remove();
+    QCOMPARE(QFile::exists(path), before || after);
+}
+
+QTEST_APPLESS_MAIN(tst_HRPosixFile)
+#include "tst_HRPosixFile.moc"

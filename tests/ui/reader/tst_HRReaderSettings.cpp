@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "manager/HRManager.h"
+#include "support/MessageGuard.h"
+#include "support/RecordingHost.h"
+#include "ui/reader/HRReaderSettings_p.h"
+
+#include <QProxyStyle>
+#include <QtTest>
+
+using namespace Hintreels;
+
+namespace {
+
+/// The style of a desktop whose user wants less motion, or of one that moves.
+class MovingStyle : public QProxyStyle
+{
+public:
+    explicit MovingStyle(bool moves)
+        : m_moves(moves)
+    {
+    }
+
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+        QStyleHintReturn *returned) const override
+    {
+        if (hint == SH_Widget_Animation_Duration)
+            return m_moves ? 200 : 0;
+        return QProxyStyle::styleHint(hint, option, widget, returned);
+    }
+
+private:
+    bool m_moves;
+};
+
+} // namespace
+
+class tst_HRReaderSettings : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void locales_beginWithTheCurrentOne();
+    void locales_areThoseOfTheSystem_whenManagerIsNull();
+    void reducedMotion_followsSettingThenDesktop_data();
+    void reducedMotion_followsSettingThenDesktop();
+};
+
+void tst_HRReaderSettings::locales_beginWithTheCurrentOne()
+{
+    HRContext context;
+    context.set(localeKey, "de_DE");
+    RecordingHost host(context, {});
+
+    QCOMPARE(readerSettings(host.manager()).locales,
+        (QVector<QLocale>{ QLocale("de_DE"), QLocale("en_US") }));
+
+    host.context().set(fallbackLocaleKey, "fr_FR");
+    QCOMPARE(readerSettings(host.manager()).locales,
+        (QVector<QLocale>{ QLocale("de_DE"), QLocale("fr_FR") }));
+}
+
+void tst_HRReaderSettings::locales_areThoseOfTheSystem_whenManagerIsNull()
+{
+    QCOMPARE(readerSettings(nullptr).locales, QVector<QLocale>{ QLocale::system() });
+}
+
+void tst_HRReaderSettings::reducedMotion_followsSettingThenDesktop_data()
+{
+    QTest::addColumn<bool>("desktopMoves");
+    QTest::addColumn<QVariant>("setting");
+    QTest::addColumn<bool>("reduced");
+
+    QTest::newRow("desktop moves") << true << QVariant() << false;
+    QTest::newRow("desktop does not move") << false << QVariant() << true;
+    QTest::newRow("setting over a moving desktop") << true << QVariant(true) << true;
+    QTest::newRow("setting over a still desktop") << false << QVariant(false) << false;
+}
+
+void tst_HRReaderSettings::reducedMotion_followsSettingThenDesktop()
+{
+    QFETCH(bool, desktopMoves);
+    QFETCH(QVariant, setting);
+    QFETCH(bool, reduced);
+    QApplication::setStyle(new MovingStyle(desktopMoves));
+    HRContext context;
+    if (setting.isValid())
+        context.set(reducedMotionKey, setting);
+    RecordingHost host(context, {});
+
+    QCOMPARE(readerSettings(host.manager()).reducedMotion, reduced);
+    QCOMPARE(readerSettings(nullptr).reducedMotion, !desktopMoves);
+}
+
+QTEST_MAIN(tst_HRReaderSettings)
+#include "tst_HRReaderSettings.moc"
