@@ -6,6 +6,10 @@
 #include <QtGlobal>
 
 #include <chrono>
+#include <optional>
+
+class QByteArray;
+class QString;
 
 namespace Hintreels {
 
@@ -44,5 +48,12 @@ inline bool isSettled(const HRFileStamp &stamp, qint64 now)
     constexpr qint64 LongestStep = 2'500'000'000;
     return qAbs(now - stamp.modified) > LongestStep && qAbs(now - stamp.changed) > LongestStep;
 }
+
+/// The stamp of a regular file or a link to one; nothing for anything else.
+/// @param path as QFile::encodeName() spells it
+std::optional<HRFileStamp> stampOfFile(const QByteArray &path);
+
+/// The same for a name in a directory, which is given with its slash.
+std::optional<HRFileStamp> stampOfFile(const QString &directory, const QString &name);
 
 } // namespace Hintreels

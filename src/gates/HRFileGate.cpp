@@ -3,7 +3,7 @@
 
 #include "gates/HRFileGate_p.h"
 
-#include "files/HRPosixFile_p.h"
+#include "files/HRRegularFile_p.h"
 #include "gates/HRQmlImport_p.h"
 
 #include <QDir>

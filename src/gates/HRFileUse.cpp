@@ -3,7 +3,7 @@
 
 #include "gates/HRFileUse_p.h"
 
-#include "files/HRPosixFile_p.h"
+#include "files/HRRegularFile_p.h"
 
 #include <QFile>
 

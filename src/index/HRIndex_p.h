@@ -4,7 +4,8 @@
 #pragma once
 
 #include "context/HRContext.h"
-#include "files/HRPosixFile_p.h"
+#include "files/HRDirectoryListing_p.h"
+#include "files/HRRegularFile_p.h"
 #include "index/HRPackageDepth_p.h"
 #include "index/HRPackageMap_p.h"
 #include "index/control/HRControlFileProbe_p.h"

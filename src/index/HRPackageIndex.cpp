@@ -6,7 +6,6 @@
 #include "content/HRXmlElement.h"
 #include "context/HRContext.h"
 #include "context/setting_p.h"
-#include "files/HRPosixFile_p.h"
 #include "index/HRIndex_p.h"
 #include "index/database/HRDigestTable_p.h"
 #include "index/database/HRDirectoryDigest_p.h"
@@ -209,14 +208,14 @@ bool HRPackageIndex::recall(
         if (file.isControlFile && !memory().reader.read(record))
             return false;
         file.stamp = record.stamp;
-        file.reading = record.reading;
+        file.digest = record.digest;
         if (isSettled(file.stamp, now))
             d->snapshot.put(name, file);
         else
             d->snapshot.remove(name);
         d->isChanged = true;
     } else {
-        record.reading = std::move(file.reading);
+        record.digest = std::move(file.digest);
     }
     return file.isControlFile;
 }

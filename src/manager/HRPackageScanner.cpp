@@ -4,7 +4,7 @@
 #include "manager/HRPackageScanner_p.h"
 
 #include "context/setting_p.h"
-#include "files/HRPosixFile_p.h"
+#include "files/HRDirectoryListing_p.h"
 #include "gates/HRPackageRules_p.h"
 #include "index/HRIndex.h"
 #include "index/HRIndex_p.h"

@@ -3,7 +3,7 @@
 
 #include "manager/HRTranslation_p.h"
 
-#include "files/HRPosixFile_p.h"
+#include "files/HRRegularFile_p.h"
 #include "manager/translationCheck_p.h"
 
 namespace Hintreels {

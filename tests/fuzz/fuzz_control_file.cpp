@@ -44,8 +44,8 @@ void fuzzControlFile(const QByteArray &input)
 {
     probe(input);
     const MemoryFile file(input);
-    const std::optional<HRControlDigest> found = searchControlFile(input);
-    const HRControlDigest parsed = parseControlFile(file.path());
+    const std::optional<HRControlDigest> found = digestBySearching(input);
+    const HRControlDigest parsed = digestByParsing(file.path());
     HRContext context;
     HRIndex index(&context, {});
     const QStringList keys = keysOfControlFile(file.path()).mid(0, mostKeys) + QStringList("a");

@@ -3,7 +3,7 @@
 
 #include "content/HRXmlElement.h"
 #include "context/HRContext.h"
-#include "files/HRPosixFile_p.h"
+#include "files/HRFileStamp_p.h"
 #include "index/HRPackageIndex.h"
 #include "index/database/HRDigestTable_p.h"
 #include "index/database/HRDirectoryDigest_p.h"
@@ -221,7 +221,7 @@ void tst_HRPackageIndex::warmStart_readsOnlyWhatChanged()
         Run run(packages);
         HRStoredFile kept;
         kept.isControlFile = true;
-        kept.reading.keys = { keyNumber(QString("kept")) };
+        kept.digest.keys = { keyNumber(QString("kept")) };
         HRDirectoryDigest snapshot;
         for (const QString &path : { file, other }) {
             kept.stamp = *stampOfFile(QFile::encodeName(path));

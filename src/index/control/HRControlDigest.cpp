@@ -20,7 +20,7 @@ namespace {
 /// What the filter notes while a file is parsed.
 struct Notes
 {
-    HRControlDigest reading;
+    HRControlDigest digest;
     bool isInRoot = false;
 };
 
@@ -30,20 +30,20 @@ constexpr int DropAll = 4 | 8;
 void noteRoot(Notes &notes, const QXmlAttributes &attributes)
 {
     // A root in the root may make a file that yields it for any key.
-    notes.reading.mayHoldAnything |= notes.isInRoot;
+    notes.digest.mayHoldAnything |= notes.isInRoot;
     notes.isInRoot = true;
     // Qt's reader lets an attribute stand twice; loading keeps the last one.
     const QByteArray locale
         = HRXmlElement(nullptr, attributes).attribute(QStringLiteral("locale")).toUtf8();
-    notes.reading.locale = HRControlLocale::named({ locale.constData(), size_t(locale.size()) });
+    notes.digest.locale = HRControlLocale::named({ locale.constData(), size_t(locale.size()) });
 }
 
 void noteEntry(Notes &notes, const QXmlAttributes &attributes)
 {
-    notes.reading.mayHoldAnything |= !notes.isInRoot;
+    notes.digest.mayHoldAnything |= !notes.isInRoot;
     for (int i = 0; i < attributes.length(); ++i) {
         if (attributes.qName(i) == QLatin1String("key"))
-            notes.reading.keys.push_back(keyNumber(attributes.value(i)));
+            notes.digest.keys.push_back(keyNumber(attributes.value(i)));
     }
 }
 
@@ -100,12 +100,12 @@ bool HRControlDigest::mayServe(quint32 key, const QLocale &wanted) const
         && (!locale || locale->locale == wanted);
 }
 
-HRControlDigest parseControlFile(const QString &filePath)
+HRControlDigest digestByParsing(const QString &filePath)
 {
     Notes notes;
     HRControlTree(filePath, noteElement, &notes);
-    std::sort(notes.reading.keys.begin(), notes.reading.keys.end());
-    return notes.reading;
+    std::sort(notes.digest.keys.begin(), notes.digest.keys.end());
+    return notes.digest;
 }
 
 } // namespace Hintreels

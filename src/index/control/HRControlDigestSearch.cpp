@@ -130,7 +130,7 @@ bool readTag(Bytes text, Note note)
     return isAtTagEnd(tag);
 }
 
-bool readRoot(Bytes text, HRControlDigest &reading)
+bool readRoot(Bytes text, HRControlDigest &digest)
 {
     bool hasLocale = false;
     return readTag(text, [&](Bytes name, Bytes value) {
@@ -139,17 +139,17 @@ bool readRoot(Bytes text, HRControlDigest &reading)
         if (hasLocale)
             return false;
         hasLocale = true;
-        reading.locale = HRControlLocale::named(value);
+        digest.locale = HRControlLocale::named(value);
         return true;
     });
 }
 
 /// Notes the keys of everything that looks like an entry, be it in a comment.
-bool readEntries(Bytes text, HRControlDigest &reading)
+bool readEntries(Bytes text, HRControlDigest &digest)
 {
     const auto noteKey = [&](Bytes name, Bytes value) {
         if (name == "key")
-            reading.keys.push_back(keyNumber(value.data(), int(value.size())));
+            digest.keys.push_back(keyNumber(value.data(), int(value.size())));
         return true;
     };
     const char *const end = text.data() + text.size();
@@ -183,7 +183,7 @@ bool holdsDroppedCharacters(Bytes text)
 
 } // namespace
 
-std::optional<HRControlDigest> searchControlFile(const QByteArray &bytes)
+std::optional<HRControlDigest> digestBySearching(const QByteArray &bytes)
 {
     Bytes text(bytes.constData(), size_t(bytes.size()));
     if (holdsDroppedCharacters(text) || !skipProlog(text) || !startsWith(text, RootTag))
@@ -191,12 +191,12 @@ std::optional<HRControlDigest> searchControlFile(const QByteArray &bytes)
     text.remove_prefix(RootTag.size());
     if (text.empty() || AfterName.find(text.front()) == Bytes::npos)
         return std::nullopt;
-    HRControlDigest reading;
-    if (!readRoot(text, reading) || !readEntries(text, reading))
+    HRControlDigest digest;
+    if (!readRoot(text, digest) || !readEntries(text, digest))
         return std::nullopt;
-    std::sort(reading.keys.begin(), reading.keys.end());
-    reading.keys.shrink_to_fit();
-    return reading;
+    std::sort(digest.keys.begin(), digest.keys.end());
+    digest.keys.shrink_to_fit();
+    return digest;
 }
 
 } // namespace Hintreels

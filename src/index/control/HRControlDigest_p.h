@@ -29,7 +29,7 @@ struct HRControlLocale
 
 /// What is remembered of a control file: enough to pass the file over for most keys and locales.
 ///
-/// A reading never denies what loading would find. It may promise too much: two keys may share a
+/// A digest never denies what loading would find. It may promise too much: two keys may share a
 /// number, and a key may stand in a comment or twice.
 struct HRControlDigest
 {
@@ -43,10 +43,10 @@ struct HRControlDigest
 /// Finds keys and locale by searching a file's bytes, many times faster than by parsing.
 ///
 /// Nothing where the bytes hold anything but plain tags in UTF-8 around the keys: a document type,
-/// entities, other encodings, nested roots. Such files are left to parseControlFile().
-std::optional<HRControlDigest> searchControlFile(const QByteArray &bytes);
+/// entities, other encodings, nested roots. Such files are left to digestByParsing().
+std::optional<HRControlDigest> digestBySearching(const QByteArray &bytes);
 
-/// Finds keys and locale by parsing a file. An empty reading where it cannot be read.
-HRControlDigest parseControlFile(const QString &filePath);
+/// Finds keys and locale by parsing a file. An empty digest where it cannot be read.
+HRControlDigest digestByParsing(const QString &filePath);
 
 } // namespace Hintreels

@@ -3,7 +3,7 @@
 
 #include "index/control/HRControlPrefilter_p.h"
 
-#include "files/HRPosixFile_p.h"
+#include "files/HRRegularFile_p.h"
 #include "index/control/HRControlRecords_p.h"
 
 #include <QFile>
@@ -30,7 +30,7 @@ bool HRControlPrefilter::mayServe(HRControlRecord &record, quint32 key, const QL
 {
     if (isResource(record))
         return true;
-    return (isCurrent(record) || read(record)) && record.reading.mayServe(key, locale);
+    return (isCurrent(record) || read(record)) && record.digest.mayServe(key, locale);
 }
 
 bool HRControlPrefilter::read(HRControlRecord &record)
@@ -42,10 +42,10 @@ bool HRControlPrefilter::read(HRControlRecord &record)
     if (!file.isOpen() || !m_judge(path, file.stamp().size))
         return false;
     record.stamp = file.stamp();
-    std::optional<HRControlDigest> reading;
+    std::optional<HRControlDigest> digest;
     if (file.readAll(m_bytes))
-        reading = searchControlFile(m_bytes);
-    record.reading = reading ? std::move(*reading) : parseControlFile(path);
+        digest = digestBySearching(m_bytes);
+    record.digest = digest ? std::move(*digest) : digestByParsing(path);
     record.isSettled = isSettled(record.stamp, now);
     return true;
 }

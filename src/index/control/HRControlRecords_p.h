@@ -33,8 +33,8 @@ struct HRControlRecord
     QString name;
     int depth; // levels below the package directory; 1 directly in it
     bool isSettled = false; // whether the stamp will tell of every edit since the reading
-    HRControlDigest reading;
-    HRFileStamp stamp; // of the file when the reading was taken
+    HRControlDigest digest;
+    HRFileStamp stamp; // of the file when the digest was taken
 };
 
 /// The known control files in the order in which they are tried, one for each path and depth.

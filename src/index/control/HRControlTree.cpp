@@ -3,7 +3,7 @@
 
 #include "index/control/HRControlTree_p.h"
 
-#include "files/HRPosixFile_p.h"
+#include "files/HRRegularFile_p.h"
 #include "index/HRIndex.h"
 #include "index/control/elementFilters_p.h"
 

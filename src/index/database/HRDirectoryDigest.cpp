@@ -108,27 +108,27 @@ void decodeFile(std::string_view entry, HRStoredFile &file)
     const std::string_view locale = entry.substr(sizeof head + head.nameLength, head.localeLength);
     file.stamp = stampOf(head);
     file.isControlFile = head.flags & IsControlFile;
-    file.reading.mayHoldAnything = head.flags & MayHoldAnything;
-    file.reading.locale = HRControlLocale::named(locale);
-    decodeKeys(entry.substr(sizeof head + head.nameLength + head.localeLength), file.reading.keys);
+    file.digest.mayHoldAnything = head.flags & MayHoldAnything;
+    file.digest.locale = HRControlLocale::named(locale);
+    decodeKeys(entry.substr(sizeof head + head.nameLength + head.localeLength), file.digest.keys);
 }
 
 QByteArray encodeFile(std::string_view name, const HRStoredFile &file)
 {
-    const HRControlDigest &reading = file.reading;
-    const QByteArray keys = encodeKeys(reading.keys);
-    const QByteArray locale = reading.locale ? reading.locale->name : QByteArray();
+    const HRControlDigest &digest = file.digest;
+    const QByteArray keys = encodeKeys(digest.keys);
+    const QByteArray locale = digest.locale ? digest.locale->name : QByteArray();
     EntryHead head;
     head.length = quint32(sizeof head + name.size() + size_t(locale.size()) + size_t(keys.size()));
     head.flags = (file.isControlFile ? IsControlFile : NoFlag)
-        | (reading.mayHoldAnything ? MayHoldAnything : NoFlag);
+        | (digest.mayHoldAnything ? MayHoldAnything : NoFlag);
     head.inode = file.stamp.inode;
     head.size = file.stamp.size;
     head.modified = file.stamp.modified;
     head.changed = file.stamp.changed;
     head.nameLength = quint16(name.size());
     head.localeLength = quint16(locale.size());
-    head.keyCount = quint32(reading.keys.size());
+    head.keyCount = quint32(digest.keys.size());
     return QByteArray(reinterpret_cast<const char *>(&head), sizeof head)
         + QByteArray(name.data(), int(name.size())) + locale + keys;
 }

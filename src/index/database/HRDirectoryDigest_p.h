@@ -19,8 +19,8 @@ namespace Hintreels {
 struct HRStoredFile
 {
     HRFileStamp stamp; // without the device, whose number may differ in another run
-    bool isControlFile = false; // the reading says nothing where it is not
-    HRControlDigest reading;
+    bool isControlFile = false; // the digest says nothing where it is not
+    HRControlDigest digest;
 };
 
 /// The files of one directory as bytes that a database keeps: names as the operating system spells

@@ -4,7 +4,8 @@
 #include "index/database/HRIndexDatabase_p.h"
 
 #include "context/printable_p.h"
-#include "files/HRPosixFile_p.h"
+#include "files/HRRegularFile_p.h"
+#include "files/ownFile_p.h"
 
 #include <QCoreApplication>
 #include <QDebug>

@@ -3,7 +3,8 @@
 
 #pragma once
 
-#include "files/HRPosixFile_p.h"
+#include "files/HRDoomedFile_p.h"
+#include "files/HRFileStamp_p.h"
 
 #include <QDeadlineTimer>
 #include <QSqlDatabase>

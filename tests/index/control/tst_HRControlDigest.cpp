@@ -35,14 +35,14 @@ namespace {
 const QLocale English("en_US");
 const QLocale German("de_DE");
 
-/// Which of the keys `a`, `b` and `é` a reading may serve to English and German.
-QString served(const HRControlDigest &reading)
+/// Which of the keys `a`, `b` and `é` a digest may serve to English and German.
+QString served(const HRControlDigest &digest)
 {
     QString all;
     for (const char *key : { "a", "b", "\xC3\xA9" }) {
         const quint32 number = keyNumber(QString::fromUtf8(key));
-        all += reading.mayServe(number, English) ? "E" : "-";
-        all += reading.mayServe(number, German) ? "D" : "-";
+        all += digest.mayServe(number, English) ? "E" : "-";
+        all += digest.mayServe(number, German) ? "D" : "-";
     }
     return all;
 }
@@ -86,9 +86,9 @@ void tst_HRControlDigest::search_findsPlainFiles_data()
 void tst_HRControlDigest::search_findsPlainFiles()
 {
     QFETCH(QByteArray, bytes);
-    const std::optional<HRControlDigest> reading = searchControlFile(bytes);
-    QVERIFY(reading);
-    QTEST(served(*reading), "expected");
+    const std::optional<HRControlDigest> digest = digestBySearching(bytes);
+    QVERIFY(digest);
+    QTEST(served(*digest), "expected");
 }
 
 void tst_HRControlDigest::search_leavesUnusualFilesToTheParser_data()
@@ -121,7 +121,7 @@ void tst_HRControlDigest::search_leavesUnusualFilesToTheParser_data()
 void tst_HRControlDigest::search_leavesUnusualFilesToTheParser()
 {
     QFETCH(QByteArray, bytes);
-    QVERIFY(!searchControlFile(bytes));
+    QVERIFY(!digestBySearching(bytes));
 }
 
 void tst_HRControlDigest::search_isQuick_whateverTheFile_data()
@@ -142,7 +142,7 @@ void tst_HRControlDigest::search_isQuick_whateverTheFile()
     QFETCH(QByteArray, bytes);
     QElapsedTimer timer;
     timer.start();
-    searchControlFile(bytes);
+    digestBySearching(bytes);
     QVERIFY2(timer.elapsed() < 500, qPrintable(QString::number(timer.elapsed())));
 }
 
@@ -151,7 +151,7 @@ void tst_HRControlDigest::parse_promisesAnything_whenRootsAreNested()
     const TestPackages packages;
     const QString file = packages.write("a.xml", "<hintreels><hintreels/></hintreels>");
     QVERIFY(loads(file, "whatever", English));
-    QCOMPARE(served(parseControlFile(file)), QString("EDEDED"));
+    QCOMPARE(served(digestByParsing(file)), QString("EDEDED"));
 }
 
 void tst_HRControlDigest::parse_takesTheLastLocale_whenItStandsTwice()
@@ -160,7 +160,7 @@ void tst_HRControlDigest::parse_takesTheLastLocale_whenItStandsTwice()
     const QString file = packages.write(
         "a.xml", "<hintreels locale='de_DE' locale='en_US'><hintreel key='a'/></hintreels>");
     QVERIFY(loads(file, "a", English));
-    QCOMPARE(served(parseControlFile(file)), QString("E-----"));
+    QCOMPARE(served(digestByParsing(file)), QString("E-----"));
 }
 
 void tst_HRControlDigest::readings_neverDenyWhatLoadingFinds()
@@ -183,8 +183,8 @@ void tst_HRControlDigest::readings_neverDenyWhatLoadingFinds()
             bytes += pieces.at(random.bounded(pieces.size()));
         bytes += random.bounded(4) ? "</hintreels>" : "";
         const QString file = packages.write("a.xml", bytes);
-        const auto searched = searchControlFile(bytes);
-        const HRControlDigest parsed = parseControlFile(file);
+        const auto searched = digestBySearching(bytes);
+        const HRControlDigest parsed = digestByParsing(file);
         for (const QString &key : { QString("a"), QString("b"), QString::fromUtf8("\xC3\xA9") }) {
             for (const QLocale &locale : { English, German }) {
                 if (!loads(file, key, locale))

@@ -130,7 +130,7 @@ void tst_HRControlPrefilter::mayServe_trustsASettledReading()
     QTest::qWait(2600);
     QVERIFY(fixture.mayServe("pen"));
     QVERIFY(fixture.record->isSettled);
-    fixture.record->reading.keys = { keyNumber(QString("line")) };
+    fixture.record->digest.keys = { keyNumber(QString("line")) };
     QVERIFY(fixture.mayServe("line"));
     QVERIFY(!fixture.mayServe("pen"));
 }

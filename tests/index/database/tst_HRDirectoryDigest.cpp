@@ -31,8 +31,8 @@ HRStoredFile storedFile()
     file.stamp.modified = 1'700'000'000'123'456'789;
     file.stamp.changed = 1'700'000'001'000'000'000;
     file.isControlFile = true;
-    file.reading.locale = HRControlLocale::named("zh_Hant_TW");
-    file.reading.keys = { 1, 2, 0xffffffff };
+    file.digest.locale = HRControlLocale::named("zh_Hant_TW");
+    file.digest.keys = { 1, 2, 0xffffffff };
     return file;
 }
 
@@ -58,15 +58,15 @@ void tst_HRDirectoryDigest::files_comeBackAsTheyWere()
     QVERIFY(loaded.find("a.xml", file.stamp, found));
     QVERIFY(found.isControlFile);
     QVERIFY(found.stamp == file.stamp);
-    QVERIFY(!found.reading.mayHoldAnything);
-    QVERIFY(found.reading.locale);
-    QCOMPARE(found.reading.locale->name, QByteArray("zh_Hant_TW"));
-    QCOMPARE(found.reading.locale->locale, QLocale("zh_Hant_TW"));
-    QVERIFY(found.reading.keys == file.reading.keys);
+    QVERIFY(!found.digest.mayHoldAnything);
+    QVERIFY(found.digest.locale);
+    QCOMPARE(found.digest.locale->name, QByteArray("zh_Hant_TW"));
+    QCOMPARE(found.digest.locale->locale, QLocale("zh_Hant_TW"));
+    QVERIFY(found.digest.keys == file.digest.keys);
     QVERIFY(loaded.find("b.xml", plain.stamp, found));
     QVERIFY(!found.isControlFile);
-    QVERIFY(!found.reading.locale);
-    QVERIFY(found.reading.keys.empty());
+    QVERIFY(!found.digest.locale);
+    QVERIFY(found.digest.keys.empty());
     QVERIFY(!loaded.find("c.xml", plain.stamp, found));
     QVERIFY(loaded.find("a.xml", file.stamp, found));
 }

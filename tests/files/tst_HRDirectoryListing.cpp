@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
-#include "files/HRPosixFile_p.h"
+#include "files/HRDirectoryListing_p.h"
 #include "support/TestPackage.h"
 
 #include <QDir>
@@ -25,18 +25,16 @@ QStringList namesIn(const QString &directory)
 
 } // namespace
 
-class tst_HRPosixFile : public QObject
+class tst_HRDirectoryListing : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void doomedFile_isDeleted_unlessReplaced_data();
-    void doomedFile_isDeleted_unlessReplaced();
-    void listing_holdsWhatQDirFinds();
-    void listing_isEmpty_whereThereIsNoDirectory();
+    void holdsWhatQDirFinds();
+    void isEmpty_whereThereIsNoDirectory();
 };
 
-void tst_HRPosixFile::listing_holdsWhatQDirFinds()
+void tst_HRDirectoryListing::holdsWhatQDirFinds()
 {
     const TestPackages files;
     const QDir directory(files.path());
@@ -58,7 +56,7 @@ void tst_HRPosixFile::listing_holdsWhatQDirFinds()
     QCOMPARE(names, expected);
 }
 
-void tst_HRPosixFile::listing_isEmpty_whereThereIsNoDirectory()
+void tst_HRDirectoryListing::isEmpty_whereThereIsNoDirectory()
 {
     const TestPackages files;
     const QString file = files.write("a.xml", "<hintreels/>");
@@ -66,33 +64,5 @@ void tst_HRPosixFile::listing_isEmpty_whereThereIsNoDirectory()
     QCOMPARE(namesIn(files.path() + "/none"), QStringList());
 }
 
-void tst_HRPosixFile::doomedFile_isDeleted_unlessReplaced_data()
-{
-    QTest::addColumn<bool>("before");
-    QTest::addColumn<bool>("after");
-    QTest::newRow("not replaced") << false << false;
-    QTest::newRow("replaced before it is held") << true << false;
-    QTest::newRow("replaced while it is held") << false << true;
-}
-
-void tst_HRPosixFile::doomedFile_isDeleted_unlessReplaced()
-{
-    QFETCH(bool, before);
-    QFETCH(bool, after);
-    const TestPackages files;
-    const QString path = files.write("a", "damaged");
-    const QString other = files.write("b", "new");
-    QFile opened(path);
-    QVERIFY(opened.open(QIODevice::ReadOnly));
-    const auto stamp = stampOfFile(QFile::encodeName(path));
-    QVERIFY(stamp);
-    const auto replace = [&] { return ::rename(qPrintable(other), qPrintable(path)) == 0; };
-    QVERIFY(!before || replace());
-    HRDoomedFile file(path, *stamp);
-    QVERIFY(!after || replace());
-    file.remove();
-    QCOMPARE(QFile::exists(path), before || after);
-}
-
-QTEST_APPLESS_MAIN(tst_HRPosixFile)
-#include "tst_HRPosixFile.moc"
+QTEST_APPLESS_MAIN(tst_HRDirectoryListing)
+#include "tst_HRDirectoryListing.moc"
