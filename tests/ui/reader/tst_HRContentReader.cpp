@@ -77,6 +77,8 @@ private Q_SLOTS:
     void captions_areMapsInTheirOrder();
     void captions_areCut_whereNobodyCouldReadThem();
     void captionFiles_followTheReadersLocales();
+    void shownTarget_isOneShortLine_data();
+    void shownTarget_isOneShortLine();
     void reducedMotion_isAskedAnew();
     void showMarkdown_findsNothing_whenDocumentIsNull();
 };
@@ -306,6 +308,30 @@ void tst_HRContentReader::captionFiles_followTheReadersLocales()
 {
     QCOMPARE(germanReader().captionFiles("clip.mp4"),
         (QStringList{ "clip.de_DE.vtt", "clip.en_US.vtt", "clip.vtt" }));
+}
+
+void tst_HRContentReader::shownTarget_isOneShortLine_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("as it is") << "https://a.example/"
+                              << " (https://a.example/)";
+    QTest::newRow("the link's text") << "text"
+                                     << "";
+    QTest::newRow("two lines") << "a\nb"
+                               << " (a\\nb)";
+    QTest::newRow("turned round") << QString("a") + QChar(0x202E) + "b"
+                                  << " (a\\u202eb)";
+    QTest::newRow("long") << QString(1000, 'a') << " (" + QString(199, 'a') + QChar(0x2026) + ")";
+}
+
+void tst_HRContentReader::shownTarget_isOneShortLine()
+{
+    QFETCH(QString, target);
+    const HRContentReader reader([] {
+        return HRReaderSettings{ { QLocale("en_US") }, false, true };
+    });
+    QTEST(reader.shownTarget(target, "text"), "shown");
 }
 
 void tst_HRContentReader::reducedMotion_isAskedAnew()
