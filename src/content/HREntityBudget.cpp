@@ -55,11 +55,11 @@ bool HREntityBudget::spend(const QString &name)
 HREntityBudget::References HREntityBudget::referencesIn(const QStringRef &text)
 {
     References references;
-    for (int start = text.indexOf('&'); start >= 0; start = text.indexOf('&', start)) {
+    for (int start = text.indexOf(u'&'); start >= 0; start = text.indexOf(u'&', start)) {
         const int nameStart = ++start;
-        while (start < text.size() && text.at(start) != ';' && text.at(start) != '&')
+        while (start < text.size() && text.at(start) != u';' && text.at(start) != u'&')
             ++start;
-        if (start < text.size() && text.at(start) == ';')
+        if (start < text.size() && text.at(start) == u';')
             ++references[text.mid(nameStart, start - nameStart).toString()];
     }
     return references;

@@ -78,7 +78,7 @@ const QChar *HRXmlDocument::skippedPieceEnd()
 {
     const QChar *const begin = m_next;
     // "]]>" means something, and "\r\n" is one line end: nothing may come to stand together.
-    const bool isAfterSign = begin[-1] == QLatin1Char(']') || begin[-1] == QLatin1Char('\r');
+    const bool isAfterSign = begin[-1] == u']' || begin[-1] == u'\r';
     while (!isAfterSign && m_next != m_end && isSkipped(*m_next))
         ++m_next;
     if (m_next != begin) {
@@ -97,7 +97,7 @@ const QChar *HRXmlDocument::textPieceEnd()
         m_skipped = Skipped::cData;
         return m_next + cDataStart.size();
     }
-    if (m_next != m_end && (*m_next == QLatin1Char('<') || *m_next == QLatin1Char('&')))
+    if (m_next != m_end && (*m_next == u'<' || *m_next == u'&'))
         m_skipped = Skipped::nothing;
     return qMin(m_next + 1, m_end);
 }
@@ -105,8 +105,7 @@ const QChar *HRXmlDocument::textPieceEnd()
 /// A single character. Behind the last one of the section its element's text goes on.
 const QChar *HRXmlDocument::cDataPieceEnd()
 {
-    if (m_next != m_end && *m_next == QLatin1Char('>') && m_next[-1] == QLatin1Char(']')
-        && m_next[-2] == QLatin1Char(']'))
+    if (m_next != m_end && *m_next == u'>' && m_next[-1] == u']' && m_next[-2] == u']')
         m_skipped = Skipped::text;
     return qMin(m_next + 1, m_end);
 }
@@ -114,7 +113,7 @@ const QChar *HRXmlDocument::cDataPieceEnd()
 void HRXmlDocument::skipText()
 {
     // The reader must stand right behind a tag, and not in it, nor ahead.
-    if (m_keepsEverything || m_next == m_text.cbegin() || m_next[-1] != QLatin1Char('>'))
+    if (m_keepsEverything || m_next == m_text.cbegin() || m_next[-1] != u'>')
         return;
     m_skipped = Skipped::text;
     m_pieceEnd = m_next; // to be asked again
@@ -145,9 +144,8 @@ int HRXmlDocument::skippedInLine() const
 
 bool HRXmlDocument::hasLineEnd(const QChar *begin, const QChar *end)
 {
-    return std::any_of(begin, qMax(begin, end), [](QChar character) {
-        return character == QLatin1Char('\n') || character == QLatin1Char('\r');
-    });
+    return std::any_of(begin, qMax(begin, end),
+        [](QChar character) { return character == u'\n' || character == u'\r'; });
 }
 
 } // namespace Hintreels

@@ -84,7 +84,7 @@ QString attributeText(const HRXmlElement &element)
     const QStringList names = element.attributeNames();
     for (const QString &name : names)
         items.append(QStringLiteral("%1=\"%2\"").arg(name).arg(element.attribute(name)));
-    return items.isEmpty() ? QString() : QLatin1Char(' ') + items.join(QLatin1Char(' '));
+    return items.isEmpty() ? QString() : u' ' + items.join(u' ');
 }
 
 QString openingLine(const HRXmlElement &element, const QString &indent, bool isLeaf)
@@ -108,10 +108,7 @@ struct Pending
     int indentation;
     bool isOpen;
 
-    QString indent() const
-    {
-        return QString(qBound(0, indentation, maximumIndentation), QLatin1Char(' '));
-    }
+    QString indent() const { return QString(qBound(0, indentation, maximumIndentation), u' '); }
     int childIndentation() const { return qMin(indentation, maximumIndentation) + 2; }
 };
 
@@ -234,7 +231,7 @@ QString HRXmlElement::toXml(int index) const
         for (auto child = children.crbegin(); child != children.crend(); ++child)
             pending.append({ *child, entry.childIndentation(), false });
     }
-    return lines.join(QLatin1Char('\n'));
+    return lines.join(u'\n');
 }
 
 } // namespace Hintreels

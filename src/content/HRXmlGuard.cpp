@@ -39,8 +39,8 @@ bool HRXmlGuard::allowsElement()
 
 bool HRXmlGuard::allowsEntity(const QString &name, const QString &value)
 {
-    const bool isParameter = name.startsWith(QLatin1Char('%'));
-    const bool isFlat = !isParameter || value.count(QLatin1Char('(')) <= maximumGroups;
+    const bool isParameter = name.startsWith(u'%');
+    const bool isFlat = !isParameter || value.count(u'(') <= maximumGroups;
     return refuseUnless(isFlat, nestingReason)
         && refuseUnless(m_entities.declare(name.mid(isParameter ? 1 : 0), value),
             "too many entities are declared");

@@ -4,6 +4,7 @@
 #include "content/HRXmlParser.h"
 
 #include "content/HRElementClass_p.h"
+#include "content/HRFilterAnswer_p.h"
 #include "content/HRXmlDocument_p.h"
 #include "content/HRXmlElement.h"
 #include "context/printable_p.h"
@@ -21,25 +22,19 @@ namespace Hintreels {
 
 namespace {
 
-// The modes of reading, and the bits of a filter's answer.
-const int askMode = 1;
-const int takeMode = 2;
-const int dropBit = 4; // in answers only
-const int skipMode = 8;
-
 /// An element that was opened and not yet closed.
 struct OpenElement
 {
     QPointer<QObject> object; // null where the element makes none
     const HRElementClass *elementClass; // of the object
-    int mode; // that of its children
+    HRFilterAnswer mode; // for its children
 };
 
-int modeOfAnswer(int answer)
+HRFilterAnswer modeOfAnswer(int answer)
 {
-    if (answer & skipMode)
-        return skipMode;
-    return answer & takeMode ? takeMode : askMode;
+    if (answer & dropChildren)
+        return dropChildren;
+    return answer & takeAll ? takeAll : askForChildren;
 }
 
 void log(const QString &message)
@@ -55,12 +50,13 @@ bool writeProperties(
         const QString name = attributes.localName(i);
         const int index = metaObject.indexOfProperty(name.toLatin1().constData());
         if (index < 0) {
-            log(QStringLiteral("No Property named %1 on %2").arg(name, metaObject.className()));
+            log(QStringLiteral("No Property named %1 on %2")
+                    .arg(name, QLatin1String(metaObject.className())));
             return false;
         }
         if (!metaObject.property(index).write(object, attributes.value(i))) {
             log(QStringLiteral("Could not write \"%1\" to property %2 of %3")
-                    .arg(attributes.value(i), name, metaObject.className()));
+                    .arg(attributes.value(i), name, QLatin1String(metaObject.className())));
         }
     }
     return true;
@@ -99,13 +95,13 @@ struct HRXmlParserPrivate
     HRXmlParser::Filter callback;
     void *context;
     QVector<OpenElement> stack; // the root comes first
-    int mode; // of the elements read next
+    HRFilterAnswer mode; // of the elements read next
     std::map<const QMetaObject *, std::unique_ptr<HRElementClass>> classes; // used until now
     std::unique_ptr<HRXmlDocument> document; // the one read last, or being read
 
     int answerFor(const QString &qName, const QXmlAttributes &attributes) const
     {
-        return callback && (mode & askMode) ? callback(qName, attributes, context) : mode;
+        return callback && (mode & askForChildren) ? callback(qName, attributes, context) : mode;
     }
 
     /// The object nearest around the next element: elements that make none are seen through.
@@ -140,7 +136,7 @@ struct HRXmlParserPrivate
             document->skipText();
     }
 
-    void push(QObject *object, const HRElementClass *elementClass, int childMode)
+    void push(QObject *object, const HRElementClass *elementClass, HRFilterAnswer childMode)
     {
         stack.append({ object, elementClass, childMode });
         mode = childMode;
@@ -149,7 +145,7 @@ struct HRXmlParserPrivate
 
 HRXmlParser::HRXmlParser(Filter callback, void *context)
     : d(new HRXmlParserPrivate{
-        {}, &HRXmlElement::staticMetaObject, callback, context, {}, askMode, {}, nullptr })
+        {}, &HRXmlElement::staticMetaObject, callback, context, {}, askForChildren, {}, nullptr })
 {
 }
 
@@ -204,13 +200,13 @@ bool HRXmlParser::startElement(const QString &namespaceURI, const QString &local
 {
     if (!d->document->guard().allowsElement())
         return false;
-    if (d->mode & skipMode) {
-        d->push(nullptr, nullptr, skipMode);
+    if (d->mode & dropChildren) {
+        d->push(nullptr, nullptr, dropChildren);
         d->skipText();
         return true;
     }
     const int answer = d->answerFor(qName, attributes);
-    if (answer & dropBit) {
+    if (answer & dropElement) {
         d->push(nullptr, nullptr, modeOfAnswer(answer));
         d->skipText();
         return true;
@@ -291,7 +287,7 @@ bool HRXmlParser::endDTD()
 QList<QObject *> HRXmlParser::readDocument(std::unique_ptr<HRXmlDocument> document)
 {
     d->stack.clear();
-    d->push(new HRXmlElement, nullptr, askMode);
+    d->push(new HRXmlElement, nullptr, askForChildren);
     setContentHandler(this);
     setErrorHandler(this);
     setDeclHandler(this);

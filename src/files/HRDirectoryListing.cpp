@@ -25,8 +25,8 @@ namespace {
 /// and that of everybody leave it open.
 bool isReadable(int directory, const char *name, const struct stat &status)
 {
-    constexpr mode_t Everybody = S_IRUSR | S_IRGRP | S_IROTH;
-    return (status.st_mode & Everybody) == Everybody || ::faccessat(directory, name, R_OK, 0) == 0;
+    constexpr mode_t everybody = S_IRUSR | S_IRGRP | S_IROTH;
+    return (status.st_mode & everybody) == everybody || ::faccessat(directory, name, R_OK, 0) == 0;
 }
 
 /// Whether a directory's entry is a regular file and no link, without a look at it where the
@@ -99,7 +99,7 @@ void sortIgnoringCase(std::vector<HRListedFile> &files)
 
 HRDirectoryListing::HRDirectoryListing(const QString &directory, const QByteArray &suffix)
 {
-    if (directory.startsWith(QLatin1Char(':'))) {
+    if (directory.startsWith(u':')) {
         const QStringList names
             = QDir(directory).entryList({ QLatin1String("*" + suffix) }, QDir::Files, QDir::NoSort);
         for (const QString &name : names)

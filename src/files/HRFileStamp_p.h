@@ -45,8 +45,8 @@ inline qint64 nanosecondsNow()
 /// stamp leaves no trace in it. Version-control systems go by the same rule.
 inline bool isSettled(const HRFileStamp &stamp, qint64 now)
 {
-    constexpr qint64 LongestStep = 2'500'000'000;
-    return qAbs(now - stamp.modified) > LongestStep && qAbs(now - stamp.changed) > LongestStep;
+    constexpr qint64 longestStep = 2'500'000'000;
+    return qAbs(now - stamp.modified) > longestStep && qAbs(now - stamp.changed) > longestStep;
 }
 
 /// The stamp of a regular file or a link to one; nothing for anything else.

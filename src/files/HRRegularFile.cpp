@@ -56,15 +56,15 @@ qint64 HRRegularFile::read(char *buffer, qint64 size)
 
 bool HRRegularFile::readAll(QByteArray &bytes)
 {
-    constexpr qint64 LargestFile = std::numeric_limits<int>::max() / 4;
-    if (m_stamp.size > LargestFile)
+    constexpr qint64 largestFile = std::numeric_limits<int>::max() / 4;
+    if (m_stamp.size > largestFile)
         return false;
     bytes.resize(int(m_stamp.size) + 1); // one more, to meet the end without another round
     int length = 0;
     qint64 got = 0;
     while ((got = read(bytes.data() + length, bytes.size() - length)) > 0) {
         length += int(got);
-        if (length > LargestFile)
+        if (length > largestFile)
             return false;
         if (length == bytes.size())
             bytes.resize(2 * length); // the file is growing
@@ -75,7 +75,7 @@ bool HRRegularFile::readAll(QByteArray &bytes)
 
 bool openRegularFile(QFile &file, const QString &path)
 {
-    if (path.startsWith(QLatin1Char(':'))) {
+    if (path.startsWith(u':')) {
         file.setFileName(path);
         return file.open(QIODevice::ReadOnly);
     }
@@ -91,7 +91,7 @@ bool openRegularFile(QFile &file, const QString &path)
 
 bool readRegularFile(const QString &path, QByteArray &bytes)
 {
-    if (!path.startsWith(QLatin1Char(':'))) {
+    if (!path.startsWith(u':')) {
         HRRegularFile file(QFile::encodeName(path));
         return file.isOpen() && file.readAll(bytes);
     }

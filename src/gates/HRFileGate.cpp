@@ -25,7 +25,7 @@ bool isBelow(const QString &canonicalPath, const QString &directory)
 {
     const QString parent = canonical(directory);
     return !parent.isEmpty()
-        && canonicalPath.startsWith(parent.endsWith('/') ? parent : parent + '/');
+        && canonicalPath.startsWith(parent.endsWith(u'/') ? parent : parent + u'/');
 }
 
 /// Whether a file belongs to an installed module that may be imported.

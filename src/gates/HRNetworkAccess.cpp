@@ -14,7 +14,7 @@ namespace {
 
 const QString refusal = QStringLiteral("qrc:/hintreels/refused?");
 const QString farScheme = QStringLiteral("hintreels-far");
-const QString far = farScheme + ":?";
+const QString far = farScheme + QLatin1String(":?");
 
 // Of those, none asks another machine; pictures of an image provider come from the host itself.
 const QStringList localSchemes{

@@ -31,7 +31,7 @@ const QStringList wholeModules{
 
 bool isWithin(const QString &module, const QString &whole)
 {
-    return module == whole || module.startsWith(whole + QLatin1Char('.'));
+    return module == whole || module.startsWith(whole + u'.');
 }
 
 bool isWithinAny(const QString &module, const QStringList &wholes)

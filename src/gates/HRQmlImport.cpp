@@ -38,14 +38,14 @@ private:
     void takeImport(QVector<HRQmlImport> &found)
     {
         skipBlank();
-        if (at() == '"' || at() == '\'') {
+        if (at() == u'"' || at() == u'\'') {
             skipString();
         } else {
             HRQmlImport import;
             import.module = takeDotted();
             skipBlank();
             if (at().isDigit())
-                import.major = takeDotted().section('.', 0, 0).toInt();
+                import.major = takeDotted().section(u'.', 0, 0).toInt();
             found.append(import);
         }
         skipQualifier();
@@ -66,9 +66,9 @@ private:
     QString takeDotted()
     {
         QString name = takeNextWord();
-        for (skipBlank(); at() == '.'; skipBlank()) {
+        for (skipBlank(); at() == u'.'; skipBlank()) {
             skip('.');
-            name += '.' + takeNextWord();
+            name += u'.' + takeNextWord();
         }
         return name;
     }
@@ -83,7 +83,7 @@ private:
     QString takeWord()
     {
         const int begin = m_at;
-        while (at().isLetterOrNumber() || at() == '_' || at() == '\\')
+        while (at().isLetterOrNumber() || at() == u'_' || at() == u'\\')
             ++m_at;
         return m_text.mid(begin, m_at - begin);
     }
@@ -92,7 +92,7 @@ private:
     {
         const QChar quote = at();
         for (++m_at; m_at < m_text.size() && at() != quote; ++m_at)
-            m_at += at() == '\\';
+            m_at += at() == u'\\';
         ++m_at;
     }
 
@@ -103,7 +103,7 @@ private:
                 skipPast("\n");
             else if (startsWith("/*"))
                 skipPast("*/");
-            else if (at().isSpace() || at() == ';' || at() == QChar::ByteOrderMark)
+            else if (at().isSpace() || at() == u';' || at() == QChar::ByteOrderMark)
                 ++m_at;
             else
                 return;
@@ -132,9 +132,9 @@ private:
 QVector<QStringList> linesOfQmldir(const QString &text)
 {
     QVector<QStringList> lines;
-    const QStringList rawLines = text.split('\n');
+    const QStringList rawLines = text.split(u'\n');
     for (const QString &line : rawLines) {
-        const QStringList words = line.section('#', 0, 0).simplified().split(' ');
+        const QStringList words = line.section(u'#', 0, 0).simplified().split(u' ');
         if (!words.first().isEmpty())
             lines.append(words);
     }
@@ -143,7 +143,7 @@ QVector<QStringList> linesOfQmldir(const QString &text)
 
 int majorOf(const QString &version)
 {
-    return version.section('.', 0, 0).toInt();
+    return version.section(u'.', 0, 0).toInt();
 }
 
 } // namespace
@@ -178,13 +178,13 @@ HRQmlImport moduleInDirectory(const QString &relativePath)
 {
     HRQmlImport import;
     QStringList names;
-    const QStringList directories = relativePath.split('/');
+    const QStringList directories = relativePath.split(u'/');
     for (const QString &directory : directories) {
-        const QString version = directory.section('.', 1);
+        const QString version = directory.section(u'.', 1);
         import.major = version.isEmpty() ? import.major : majorOf(version);
-        names.append(directory.section('.', 0, 0));
+        names.append(directory.section(u'.', 0, 0));
     }
-    import.module = names.join('.');
+    import.module = names.join(u'.');
     return import;
 }
 

@@ -3,6 +3,7 @@
 
 #include "index/HRIndex.h"
 
+#include "content/HRFilterAnswer_p.h"
 #include "content/HRXmlElement.h"
 #include "content/HRXmlParser.h"
 #include "context/setting_p.h"
@@ -31,7 +32,7 @@ void HRIndexPrivate::follow(HRContext *settings, HRIndex *index)
 
 bool HRIndexPrivate::isControlFile(const QString &path)
 {
-    if (path.startsWith(QLatin1Char(':'))) {
+    if (path.startsWith(u':')) {
         QFile resource(path);
         return resource.open(QIODevice::ReadOnly)
             && probe.isControlFile(
@@ -240,7 +241,7 @@ QStringList HRIndex::findComponentPaths(
 int HRIndex::indexDataShouldGenerateElement(const QString &tag, const QXmlAttributes &, void *)
 {
     const bool isIndexed = tag == QLatin1String("hintreels") || tag == QLatin1String("hintreel");
-    return isIndexed ? 1 : 4;
+    return isIndexed ? askForChildren : dropElement;
 }
 
 bool HRIndex::prepare(const HRDirectoryListing &listing, const HRListedFile &file)

@@ -18,10 +18,10 @@ QString canonicalDirectory(const QString &path)
 std::optional<int> levelsOfCanonical(const QString &filePath, const QString &packagePath)
 {
     // The root's path is the only one that ends in a slash.
-    const int length = packagePath.size() - (packagePath.endsWith(QLatin1Char('/')) ? 1 : 0);
+    const int length = packagePath.size() - (packagePath.endsWith(u'/') ? 1 : 0);
     if (!filePath.startsWith(packagePath) || filePath.midRef(length, 1) != QLatin1String("/"))
         return std::nullopt;
-    return filePath.midRef(length).count(QLatin1Char('/'));
+    return filePath.midRef(length).count(u'/');
 }
 
 } // namespace
@@ -49,7 +49,7 @@ std::optional<int> levelsBelowPackage(const QString &filePath, const QString &pa
 std::optional<int> HRPackageDepth::levels(
     const QString &filePath, const QString &packagePath, bool isCanonical)
 {
-    const QStringRef directory = filePath.leftRef(filePath.lastIndexOf(QLatin1Char('/')) + 1);
+    const QStringRef directory = filePath.leftRef(filePath.lastIndexOf(u'/') + 1);
     if (!directory.isEmpty() && directory == m_directory && packagePath == m_package)
         return m_levels;
     const std::optional<int> levels = isCanonical ? levelsOfCanonical(filePath, packagePath)

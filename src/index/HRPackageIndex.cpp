@@ -25,7 +25,7 @@ namespace Hintreels {
 
 namespace {
 
-const QString DefaultName = QStringLiteral("HintreelsPackages.sqlite");
+const QString defaultName = QStringLiteral("HintreelsPackages.sqlite");
 
 QString defaultDirectory()
 {
@@ -173,7 +173,7 @@ QString HRPackageIndex::databaseFilePath()
         return QString();
     }
     const QString name = setting(context(), indexFileNameKey, QString());
-    d->path = QDir(directory).absoluteFilePath(name.isEmpty() ? DefaultName : name);
+    d->path = QDir(directory).absoluteFilePath(name.isEmpty() ? defaultName : name);
     return d->path;
 }
 
@@ -184,7 +184,7 @@ QStringList HRPackageIndex::tableNames() const
 
 bool HRPackageIndex::isOwnPlace(const QString &path) const
 {
-    return path == QDir(defaultDirectory()).absoluteFilePath(DefaultName);
+    return path == QDir(defaultDirectory()).absoluteFilePath(defaultName);
 }
 
 bool HRPackageIndex::openAnew(const QString &path)

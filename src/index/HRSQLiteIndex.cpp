@@ -43,8 +43,8 @@ constexpr const char *Pragmas[] = { "PRAGMA synchronous=OFF", "PRAGMA count_chan
 // earlier runs stored, would answer from it.
 constexpr char JournalOnDisk[] = "PRAGMA journal_mode=DELETE";
 
-const QString Keys = QStringLiteral("SELECT hrkey FROM hintreels");
-const QString KeysAndLocales = QStringLiteral("SELECT hrkey, tlocale FROM hintreels");
+const QString selectKeys = QStringLiteral("SELECT hrkey FROM hintreels");
+const QString selectKeysAndLocales = QStringLiteral("SELECT hrkey, tlocale FROM hintreels");
 
 bool isUsableDirectory(const QString &path)
 {
@@ -84,7 +84,7 @@ QStringList HRSQLiteIndexPrivate::keys()
 {
     QSqlQuery query(database.handle());
     query.setForwardOnly(true);
-    if (!query.exec(held.isEmpty() ? Keys : KeysAndLocales))
+    if (!query.exec(held.isEmpty() ? selectKeys : selectKeysAndLocales))
         reportSqlError("Could not retrieve keys:", query.lastError());
     QStringList keys;
     while (query.next()) {

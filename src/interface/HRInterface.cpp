@@ -22,13 +22,13 @@ QString messageLabel(HRMessageType type)
 {
     switch (type) {
     case messageError:
-        return "ERROR";
+        return QStringLiteral("ERROR");
     case messageWarning:
-        return "Warning";
+        return QStringLiteral("Warning");
     case messageInformation:
-        return "Information";
+        return QStringLiteral("Information");
     case messageDebug:
-        return "DEBUG";
+        return QStringLiteral("DEBUG");
     }
     return QString::number(type);
 }
@@ -60,7 +60,7 @@ bool HRInterface::openExternalResource(HRExternalResourceType type, const QStrin
 
 void HRInterface::handleMessage(HRMessageType type, const QString &message)
 {
-    qDebug().noquote() << messageLabel(type) + ':' + message;
+    qDebug().noquote() << messageLabel(type) + u':' + message;
 }
 
 QString HRInterface::translateString(const QString &text, const QString &context)

@@ -60,7 +60,7 @@ HRXmlElement *HRContentLookup::retrieve(
     if (!element)
         element = m_index.retrieve(key, fallbackLocale(), path, depth, root);
     if (element)
-        m_report(QString("Retrieved %1 in %2 seconds")
+        m_report(QStringLiteral("Retrieved %1 in %2 seconds")
                      .arg(key, QString::number(timer.elapsed() / 1000.0)));
     return element;
 }

@@ -109,7 +109,7 @@ HRManager::HRManager(
     timer.start();
     loadDataPath(dataPaths);
     handleMessage(messageInformation,
-        QString("Indexed packages in %1 seconds").arg(timer.elapsed() / 1000.0));
+        QStringLiteral("Indexed packages in %1 seconds").arg(timer.elapsed() / 1000.0));
 
     registerQmlTypes();
     if (qApp && setting(d->context, applicationFilterKey, false)) {
@@ -198,10 +198,11 @@ QString HRManager::translateString(const QString &text, const QString &context)
         return text;
     const std::shared_ptr<HRManagerPrivate> work
         = d; // the host may be told of a file that is refused
-    const QString baseName = setting(d->context, translationBaseNameKey, QString("Hintreels"));
-    const QString fileName = QString("%1_%2.qm").arg(baseName, currentLocale().name());
-    const QString path
-        = widget()->view()->findComponent("l10n_name", translationDirectoryKey, "l10n", fileName);
+    const QString baseName
+        = setting(d->context, translationBaseNameKey, QStringLiteral("Hintreels"));
+    const QString fileName = QStringLiteral("%1_%2.qm").arg(baseName, currentLocale().name());
+    const QString path = widget()->view()->findComponent(
+        QStringLiteral("l10n_name"), translationDirectoryKey, QStringLiteral("l10n"), fileName);
     return path.isEmpty() ? text : work->translation.translate(path, text, context);
 }
 
@@ -217,7 +218,7 @@ bool HRManager::show(const QString &key, const QPoint &globalPos, QObject *objec
     const std::shared_ptr<HRManagerPrivate> work = d;
     const QPointer<HRManager> guarded = this;
     const HRHover hover{ key, globalPos, object };
-    handleMessage(messageInformation, "looking for Hintreel for key:" + key);
+    handleMessage(messageInformation, QStringLiteral("looking for Hintreel for key:") + key);
     if (!guarded || setting(d->context, disabledKey, false))
         return false;
     const int modifiers = setting(d->context, modifierKey, 0);
@@ -236,7 +237,8 @@ bool HRManager::canRender()
         return true;
     if (!std::exchange(d->toldWhyNothingShows, true))
         handleMessage(messageWarning,
-            "No hints are shown: there is no OpenGL, and software rendering is forbidden");
+            QStringLiteral(
+                "No hints are shown: there is no OpenGL, and software rendering is forbidden"));
     return false;
 }
 
@@ -301,7 +303,7 @@ bool HRManager::openExternalResource(const QString &resource)
     const contextKey permission
         = type == resourceName ? allowNamedResourcesKey : allowUrlResourcesKey;
     if (packageRules(d->context).fromStrangers && !mayStrangersOpen(resource)) {
-        handleMessage(messageWarning, QString("May not open link \"%1\"").arg(resource));
+        handleMessage(messageWarning, QStringLiteral("May not open link \"%1\"").arg(resource));
         return false;
     }
     return setting(d->context, permission, true)

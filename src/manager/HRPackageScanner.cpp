@@ -22,7 +22,7 @@ namespace {
 
 bool isWildcard(QChar c)
 {
-    return c == '*' || c == '?' || c == '[' || c == ']';
+    return c == u'*' || c == u'?' || c == u'[' || c == u']';
 }
 
 /// The directories with this suffix. QDir's own filter is slow to make, and only needed where the
@@ -32,7 +32,7 @@ QFileInfoList packagesIn(const QDir &directory, const QString &suffix)
     constexpr QDir::Filters kind
         = QDir::Dirs | QDir::NoSymLinks | QDir::Readable | QDir::NoDotAndDotDot;
     if (std::any_of(suffix.begin(), suffix.end(), isWildcard))
-        return directory.entryInfoList({ '*' + suffix }, kind, QDir::NoSort);
+        return directory.entryInfoList({ u'*' + suffix }, kind, QDir::NoSort);
     QFileInfoList packages = directory.entryInfoList(kind, QDir::NoSort);
     const auto isOther = [&suffix](const QFileInfo &info) {
         return !info.fileName().endsWith(suffix, Qt::CaseInsensitive);
@@ -48,7 +48,7 @@ constexpr int deepestLevel = 20; // below the package
 
 int levelsBetween(const QString &package, const QString &directory)
 {
-    return QDir(package).relativeFilePath(directory).count('/') + 1;
+    return QDir(package).relativeFilePath(directory).count(u'/') + 1;
 }
 
 } // namespace
@@ -77,9 +77,9 @@ void HRPackageScanner::scanDataPaths(const QStringList &paths)
 void HRPackageScanner::scanDataPath(const QString &path)
 {
     const QDir directory(QFileInfo(path).absoluteFilePath());
-    const QString suffix = '.' + setting(m_context, packageSuffixKey, QString("hintreels"));
-    const QString filter = '*' + suffix;
-    m_report(QString("indexing packages (%2) in %1 ").arg(directory.absolutePath(), filter));
+    const QString suffix = u'.' + setting(m_context, packageSuffixKey, QStringLiteral("hintreels"));
+    const QString filter = u'*' + suffix;
+    m_report(QStringLiteral("indexing packages (%2) in %1 ").arg(directory.absolutePath(), filter));
 
     for (const QFileInfo &package : packagesIn(directory, suffix))
         scanPackage(package);
@@ -92,9 +92,9 @@ void HRPackageScanner::scanDataPath(const QString &path)
 void HRPackageScanner::scanPackage(const QFileInfo &package)
 {
     const QDir directory(package.absoluteFilePath());
-    m_report(QString("indexing control files in %1").arg(directory.absolutePath()));
+    m_report(QStringLiteral("indexing control files in %1").arg(directory.absolutePath()));
 
-    const QString control = setting(m_context, controlDirectoryKey, QString("Control"));
+    const QString control = setting(m_context, controlDirectoryKey, QStringLiteral("Control"));
     indexFiles(QFileInfo(directory.absoluteFilePath(control)), package.canonicalFilePath());
 }
 
@@ -102,13 +102,13 @@ void HRPackageScanner::scanPackage(const QFileInfo &package)
 // package's own business and is not looked at.
 void HRPackageScanner::indexFiles(const QFileInfo &directory, const QString &packagePath)
 {
-    m_report(QString("looking for control files in :%1").arg(directory.absoluteFilePath()));
+    m_report(QStringLiteral("looking for control files in :%1").arg(directory.absoluteFilePath()));
 
     // A listed file is no link, so its canonical path follows from the directory's.
     const QString canonicalPath = directory.canonicalFilePath();
     if (canonicalPath.isEmpty())
         return;
-    const QString place = canonicalPath + '/';
+    const QString place = canonicalPath + u'/';
     const HRDirectoryListing listing(place, ".xml");
     // Asked once: the text for each of thousands of files costs more than the rest of its scan.
     const bool isReported
@@ -123,7 +123,7 @@ void HRPackageScanner::indexFiles(const QFileInfo &directory, const QString &pac
             || !m_index.prepare(listing, file))
             continue;
         if (isReported)
-            m_report("found control file :" + prepared.path);
+            m_report(QStringLiteral("found control file :") + prepared.path);
         m_index.indexControlFile(prepared.path, packagePath);
     }
     prepared.forget();
@@ -136,7 +136,7 @@ bool HRPackageScanner::mayRead(const QString &path, qint64 size) const
         return true;
     if (!m_told.contains(path)) {
         m_told.insert(path);
-        m_refuse(QString("Control file %1 is larger than %2 bytes")
+        m_refuse(QStringLiteral("Control file %1 is larger than %2 bytes")
                      .arg(path, QString::number(largestFile)));
     }
     return false;
@@ -150,12 +150,12 @@ size_t HRPackageScanner::filesWithin(
     if (!packageRules(m_context).fromStrangers)
         return count;
     if (levelsBetween(package, directory) > deepestLevel) {
-        m_refuse(QString("Package %1: control files lie more than %2 levels deep")
+        m_refuse(QStringLiteral("Package %1: control files lie more than %2 levels deep")
                      .arg(package, QString::number(deepestLevel)));
         return 0;
     }
     if (count > mostFiles)
-        m_refuse(QString("Package %1: only the first %2 of %3 control files are read")
+        m_refuse(QStringLiteral("Package %1: only the first %2 of %3 control files are read")
                      .arg(package, QString::number(mostFiles), QString::number(count)));
     return std::min(count, mostFiles);
 }

@@ -36,8 +36,8 @@ int coordinateSum(qint64 a, qint64 b)
 HRXmlElement *shownContent(const HRWidget *popup, const QString &key)
 {
     HRXmlElement *content = popup && popup->view() ? popup->view()->content() : nullptr;
-    const bool isWanted
-        = content && content->hasAttribute("key") && content->attribute("key") == key;
+    const bool isWanted = content && content->hasAttribute(QStringLiteral("key"))
+        && content->attribute(QStringLiteral("key")) == key;
     return isWanted ? content : nullptr;
 }
 
@@ -136,10 +136,10 @@ bool HRPopupPresenter::present(const HRHover &hover, const HRFoundContent &found
 void HRPopupPresenter::nameShortcut(const HRHover &hover, HRXmlElement *element)
 {
     const QPointer<HRXmlElement> guarded = element;
-    const QString shortcut
-        = m_interface->shortCutForObject(hover.key, hover.object, element->attribute("shortcut"));
+    const QString shortcut = m_interface->shortCutForObject(
+        hover.key, hover.object, element->attribute(QStringLiteral("shortcut")));
     if (guarded && !shortcut.isEmpty())
-        guarded->setAttribute("shortcut", shortcut);
+        guarded->setAttribute(QStringLiteral("shortcut"), shortcut);
 }
 
 } // namespace Hintreels

@@ -12,7 +12,7 @@ HRExternalResourceType externalResourceType(const QString &resource)
     const QUrl url(resource, QUrl::StrictMode);
     if (url.isValid() && !url.scheme().isEmpty())
         return resourceUrl;
-    return resource.contains('/') ? resourcePath : resourceName;
+    return resource.contains(u'/') ? resourcePath : resourceName;
 }
 
 bool mayStrangersOpen(const QString &resource)

@@ -58,7 +58,7 @@ public:
             skip(1);
             return;
         }
-        const int found = m_text.indexOf('%', m_position + 1);
+        const int found = m_text.indexOf(u'%', m_position + 1);
         const int end = found < 0 ? m_text.size() : found;
         result.append(m_text.midRef(m_position, end - m_position));
         m_position = end;
@@ -68,12 +68,12 @@ public:
     QString placeholder() const
     {
         QString name;
-        if (at(0) != '%' || at(1) != '(')
+        if (at(0) != u'%' || at(1) != u'(')
             return name;
         int end = 2;
         for (; isNameCharacter(at(end)); ++end)
             name.append(at(end));
-        return at(end) == ')' && at(end + 1) == 's' ? name : QString();
+        return at(end) == u')' && at(end + 1) == u's' ? name : QString();
     }
 
 private:
@@ -99,7 +99,7 @@ QString interpolated(const QString &text, const QMap<QString, QVariant> &values)
             continue;
         }
         input.skip(name.size() + lengthAroundName);
-        if (value.contains('%'))
+        if (value.contains(u'%'))
             input.insert(value);
         else
             result.append(value);

@@ -35,8 +35,8 @@ HRFFmpegHandle<AVCodecContext> openDecoder(const AVFormatContext &input)
 
 bool isEscapedBrace(const QString &text, int at)
 {
-    return text.at(at) == '\\' && at + 1 < text.size()
-        && (text.at(at + 1) == '{' || text.at(at + 1) == '}');
+    return text.at(at) == u'\\' && at + 1 < text.size()
+        && (text.at(at + 1) == u'{' || text.at(at + 1) == u'}');
 }
 
 /// A text without what stands in braces. Those of the text itself come with a backslash.
@@ -44,7 +44,7 @@ QString withoutOverrides(const QString &text)
 {
     QString plain;
     for (int i = 0; i < text.size(); ++i) {
-        const int close = text.at(i) == '{' ? text.indexOf('}', i) : -1;
+        const int close = text.at(i) == u'{' ? text.indexOf(u'}', i) : -1;
         if (close >= 0)
             i = close;
         else
@@ -57,8 +57,10 @@ QString withoutOverrides(const QString &text)
 /// the overrides in braces.
 QString plainText(const char *dialogue)
 {
-    QString text = withoutOverrides(QString::fromUtf8(dialogue).section(',', 8));
-    return text.replace("\\N", "\n").replace("\\h", " ").trimmed();
+    QString text = withoutOverrides(QString::fromUtf8(dialogue).section(u',', 8));
+    return text.replace(QStringLiteral("\\N"), QStringLiteral("\n"))
+        .replace(QStringLiteral("\\h"), QStringLiteral(" "))
+        .trimmed();
 }
 
 QString textOf(const AVSubtitle &subtitle)
@@ -68,7 +70,7 @@ QString textOf(const AVSubtitle &subtitle)
         if (subtitle.rects[i]->ass)
             lines.append(plainText(subtitle.rects[i]->ass));
     }
-    return lines.join('\n');
+    return lines.join(u'\n');
 }
 
 QString decode(AVCodecContext *decoder, AVPacket *packet)
@@ -102,12 +104,12 @@ QVector<HRCaption> readCaptions(const QString &path)
 
 QStringList captionFiles(const QString &clip, const QVector<QLocale> &locales)
 {
-    const int dot = clip.lastIndexOf('.');
-    const QString base = dot > clip.lastIndexOf('/') ? clip.left(dot) : clip;
+    const int dot = clip.lastIndexOf(u'.');
+    const QString base = dot > clip.lastIndexOf(u'/') ? clip.left(dot) : clip;
     QStringList files;
     for (const QLocale &locale : locales)
         files.append(QStringLiteral("%1.%2.vtt").arg(base, locale.name()));
-    files.append(base + ".vtt");
+    files.append(base + QLatin1String(".vtt"));
     files.removeDuplicates();
     return files;
 }

@@ -3,6 +3,7 @@
 
 #include "index/control/HRControlDigest_p.h"
 
+#include "content/HRFilterAnswer_p.h"
 #include "content/HRXmlElement.h"
 #include "index/control/HRControlTree_p.h"
 
@@ -23,9 +24,6 @@ struct Notes
     HRControlDigest digest;
     bool isInRoot = false;
 };
-
-constexpr int AskChildren = 1;
-constexpr int DropAll = 4 | 8;
 
 void noteRoot(Notes &notes, const QXmlAttributes &attributes)
 {
@@ -53,11 +51,11 @@ int noteElement(const QString &tag, const QXmlAttributes &attributes, void *data
     Notes &notes = *static_cast<Notes *>(data);
     if (tag == QLatin1String("hintreels")) {
         noteRoot(notes, attributes);
-        return AskChildren;
+        return askForChildren;
     }
     if (tag == QLatin1String("hintreel"))
         noteEntry(notes, attributes);
-    return DropAll;
+    return dropAll;
 }
 
 } // namespace

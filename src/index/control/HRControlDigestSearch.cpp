@@ -15,13 +15,13 @@ namespace {
 
 using Bytes = std::string_view;
 
-constexpr Bytes RootTag = "<hintreels";
-constexpr Bytes EntryTag = "<hintreel";
-constexpr Bytes White = " \t\r\n";
-constexpr Bytes AfterName = " \t\r\n/>";
+constexpr Bytes rootTag = "<hintreels";
+constexpr Bytes entryTag = "<hintreel";
+constexpr Bytes whiteSpace = " \t\r\n";
+constexpr Bytes afterName = " \t\r\n/>";
 
 // Real tags are shorter; a limit keeps a file of endless tags from costing more than parsing it.
-constexpr size_t LongestTag = 4096;
+constexpr size_t longestTag = 4096;
 
 bool startsWith(Bytes text, Bytes start)
 {
@@ -30,7 +30,7 @@ bool startsWith(Bytes text, Bytes start)
 
 void skipWhite(Bytes &text)
 {
-    text.remove_prefix(std::min(text.find_first_not_of(White), text.size()));
+    text.remove_prefix(std::min(text.find_first_not_of(whiteSpace), text.size()));
 }
 
 /// Removes what comes up to the end of @p mark; false where the mark is missing.
@@ -120,7 +120,7 @@ bool isPlain(Bytes value)
 template <typename Note>
 bool readTag(Bytes text, Note note)
 {
-    Bytes tag = text.substr(0, LongestTag);
+    Bytes tag = text.substr(0, longestTag);
     Bytes name;
     Bytes value;
     while (takeAttribute(tag, name, value)) {
@@ -157,12 +157,12 @@ bool readEntries(Bytes text, HRControlDigest &digest)
     while ((at = static_cast<const char *>(std::memchr(at, '<', size_t(end - at))))) {
         const Bytes tag(at, size_t(end - at));
         ++at;
-        if (!startsWith(tag, EntryTag))
+        if (!startsWith(tag, entryTag))
             continue;
-        if (startsWith(tag, RootTag))
+        if (startsWith(tag, rootTag))
             return false;
-        const Bytes rest = tag.substr(EntryTag.size());
-        if (!rest.empty() && AfterName.find(rest.front()) != Bytes::npos && !readTag(rest, noteKey))
+        const Bytes rest = tag.substr(entryTag.size());
+        if (!rest.empty() && afterName.find(rest.front()) != Bytes::npos && !readTag(rest, noteKey))
             return false;
     }
     return true;
@@ -186,10 +186,10 @@ bool holdsDroppedCharacters(Bytes text)
 std::optional<HRControlDigest> digestBySearching(const QByteArray &bytes)
 {
     Bytes text(bytes.constData(), size_t(bytes.size()));
-    if (holdsDroppedCharacters(text) || !skipProlog(text) || !startsWith(text, RootTag))
+    if (holdsDroppedCharacters(text) || !skipProlog(text) || !startsWith(text, rootTag))
         return std::nullopt;
-    text.remove_prefix(RootTag.size());
-    if (text.empty() || AfterName.find(text.front()) == Bytes::npos)
+    text.remove_prefix(rootTag.size());
+    if (text.empty() || afterName.find(text.front()) == Bytes::npos)
         return std::nullopt;
     HRControlDigest digest;
     if (!readRoot(text, digest) || !readEntries(text, digest))

@@ -10,7 +10,7 @@ namespace Hintreels {
 
 namespace {
 
-constexpr size_t LongestPiece = 1024;
+constexpr size_t longestPiece = 1024;
 
 /// Cuts a file into lines, and lines into pieces.
 class Pieces
@@ -38,11 +38,11 @@ private:
     /// Zero where more of the file is needed to tell.
     size_t pieceLength() const
     {
-        const size_t available = std::min(m_end - m_begin, LongestPiece);
+        const size_t available = std::min(m_end - m_begin, longestPiece);
         const void *lineBreak = std::memchr(m_buffer + m_begin, '\n', available);
         if (lineBreak)
             return size_t(static_cast<const char *>(lineBreak) - m_buffer) - m_begin + 1;
-        return available == LongestPiece ? LongestPiece : 0;
+        return available == longestPiece ? longestPiece : 0;
     }
 
     bool fill()
@@ -50,13 +50,13 @@ private:
         std::memmove(m_buffer, m_buffer + m_begin, m_end - m_begin);
         m_end -= m_begin;
         m_begin = 0; // less than a piece is left, so another one has room
-        const qint64 got = m_read(m_buffer + m_end, LongestPiece);
+        const qint64 got = m_read(m_buffer + m_end, longestPiece);
         m_end += size_t(std::max<qint64>(got, 0));
         return got > 0;
     }
 
     const HRControlFileProbe::Read &m_read;
-    char m_buffer[2 * LongestPiece];
+    char m_buffer[2 * longestPiece];
     size_t m_begin = 0;
     size_t m_end = 0;
 };

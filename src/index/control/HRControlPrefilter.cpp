@@ -15,7 +15,7 @@ namespace {
 /// Qt's resources are no files to the operating system; they have no stamp and are always tried.
 bool isResource(const HRControlRecord &record)
 {
-    return record.directory.startsWith(QLatin1Char(':'));
+    return record.directory.startsWith(u':');
 }
 
 } // namespace

@@ -14,8 +14,8 @@ namespace {
 
 uint hashOf(const HRControlRecord &record)
 {
-    constexpr uint Seed = 1; // only with one does Qt hash by the processor's own instruction
-    return qHash(record.name, qHash(record.directory, Seed) | Seed) ^ uint(record.depth);
+    constexpr uint seed = 1; // only with one does Qt hash by the processor's own instruction
+    return qHash(record.name, qHash(record.directory, seed) | seed) ^ uint(record.depth);
 }
 
 bool isSame(const HRControlRecord &a, const HRControlRecord &b)
@@ -26,8 +26,8 @@ bool isSame(const HRControlRecord &a, const HRControlRecord &b)
 } // namespace
 
 HRControlRecord::HRControlRecord(const QString &path, int levels)
-    : HRControlRecord(path.left(path.lastIndexOf(QLatin1Char('/')) + 1),
-        path.mid(path.lastIndexOf(QLatin1Char('/')) + 1), levels)
+    : HRControlRecord(
+        path.left(path.lastIndexOf(u'/') + 1), path.mid(path.lastIndexOf(u'/') + 1), levels)
 {
 }
 
@@ -63,9 +63,9 @@ bool HRControlRecords::learn(const HRControlRecord &record)
 
 void HRControlRecords::makeRoom()
 {
-    constexpr size_t Least = 64; // a power of two, as all sizes are
+    constexpr size_t least = 64; // a power of two, as all sizes are
     const std::vector<Known> before
-        = std::exchange(m_known, std::vector<Known>(std::max(Least, 2 * m_known.size()), Known{}));
+        = std::exchange(m_known, std::vector<Known>(std::max(least, 2 * m_known.size()), Known{}));
     for (const Known &known : before) {
         if (known.record)
             place(*known.record, known.hash) = known;

@@ -3,16 +3,14 @@
 
 #include "index/control/elementFilters_p.h"
 
+#include "content/HRFilterAnswer_p.h"
+
 #include <QString>
 #include <QXmlAttributes>
 
 namespace Hintreels {
 
 namespace {
-
-constexpr int AskChildren = 1;
-constexpr int TakeAll = 1 | 2;
-constexpr int DropAll = 4 | 8;
 
 /// An absent attribute matches no key, not even the empty one.
 bool hasValue(const QXmlAttributes &attributes, QLatin1String name, const QString &value)
@@ -26,21 +24,21 @@ bool hasValue(const QXmlAttributes &attributes, QLatin1String name, const QStrin
 int generateContentElement(const QString &tag, const QXmlAttributes &attributes, void *key)
 {
     if (tag == QLatin1String("hintreels"))
-        return AskChildren;
+        return askForChildren;
     const QString &wanted = *static_cast<const QString *>(key);
     const bool isWanted
         = tag == QLatin1String("hintreel") && hasValue(attributes, QLatin1String("key"), wanted);
-    return isWanted ? TakeAll : DropAll;
+    return isWanted ? askForChildren | takeAll : dropAll;
 }
 
 int generateKeyDataElement(const QString &tag, const QXmlAttributes &attributes, void *key)
 {
     if (tag == QLatin1String("hintreelkeys"))
-        return AskChildren;
+        return askForChildren;
     const QString &wanted = *static_cast<const QString *>(key);
     const bool isWanted
         = tag == QLatin1String("key") && hasValue(attributes, QLatin1String("name"), wanted);
-    return isWanted ? TakeAll : DropAll;
+    return isWanted ? askForChildren | takeAll : dropAll;
 }
 
 } // namespace Hintreels

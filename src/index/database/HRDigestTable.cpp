@@ -16,9 +16,9 @@ namespace Hintreels {
 namespace {
 
 // Enough to make the costs of a transaction small against those of what it writes.
-constexpr int MostUnsavedBytes = 1 << 20;
+constexpr int mostUnsavedBytes = 1 << 20;
 
-const QString ReadAll = QStringLiteral("SELECT path, files FROM control_directories");
+const QString selectAll = QStringLiteral("SELECT path, files FROM control_directories");
 
 } // namespace
 
@@ -36,7 +36,7 @@ HRDigestTable::HRDigestTable(const QSqlDatabase &database)
     query.exec(QStringLiteral("PRAGMA synchronous=OFF"));
     // Everything is read once: keeping more pages than these (in KiB) only costs fresh memory.
     query.exec(QStringLiteral("PRAGMA cache_size=-128"));
-    m_isUsable = query.prepare(ReadAll) || makeTable();
+    m_isUsable = query.prepare(selectAll) || makeTable();
 }
 
 QByteArray HRDigestTable::load(const QString &directory)
@@ -51,7 +51,7 @@ void HRDigestTable::save(const QString &directory, const QByteArray &snapshot)
     m_snapshots.insert(directory, snapshot);
     m_unsaved.insert(directory, snapshot);
     m_unsavedBytes += snapshot.size();
-    if (m_unsavedBytes > MostUnsavedBytes)
+    if (m_unsavedBytes > mostUnsavedBytes)
         write();
 }
 
@@ -118,7 +118,7 @@ void HRDigestTable::readAll()
 {
     QSqlQuery query(m_database);
     query.setForwardOnly(true);
-    query.prepare(ReadAll);
+    query.prepare(selectAll);
     if (!run(query))
         return;
     while (query.next())

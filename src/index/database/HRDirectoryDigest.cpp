@@ -13,12 +13,12 @@ namespace Hintreels {
 namespace {
 
 // A snapshot is the format's number, the checksum of all that follows, and the entries.
-constexpr quint32 Format = 1;
-constexpr int HeadSize = sizeof(quint32) + sizeof(quint64);
+constexpr quint32 format = 1;
+constexpr int headSize = sizeof(quint32) + sizeof(quint64);
 
-constexpr quint32 NoFlag = 0;
-constexpr quint32 IsControlFile = 1;
-constexpr quint32 MayHoldAnything = 2;
+constexpr quint32 noFlag = 0;
+constexpr quint32 isControlFileFlag = 1;
+constexpr quint32 mayHoldAnythingFlag = 2;
 
 /// The fixed part of an entry; its name, its locale and its keys follow.
 struct EntryHead
@@ -107,8 +107,8 @@ void decodeFile(std::string_view entry, HRStoredFile &file)
     const EntryHead head = headOf(entry);
     const std::string_view locale = entry.substr(sizeof head + head.nameLength, head.localeLength);
     file.stamp = stampOf(head);
-    file.isControlFile = head.flags & IsControlFile;
-    file.digest.mayHoldAnything = head.flags & MayHoldAnything;
+    file.isControlFile = head.flags & isControlFileFlag;
+    file.digest.mayHoldAnything = head.flags & mayHoldAnythingFlag;
     file.digest.locale = HRControlLocale::named(locale);
     decodeKeys(entry.substr(sizeof head + head.nameLength + head.localeLength), file.digest.keys);
 }
@@ -120,8 +120,8 @@ QByteArray encodeFile(std::string_view name, const HRStoredFile &file)
     const QByteArray locale = digest.locale ? digest.locale->name : QByteArray();
     EntryHead head;
     head.length = quint32(sizeof head + name.size() + size_t(locale.size()) + size_t(keys.size()));
-    head.flags = (file.isControlFile ? IsControlFile : NoFlag)
-        | (digest.mayHoldAnything ? MayHoldAnything : NoFlag);
+    head.flags = (file.isControlFile ? isControlFileFlag : noFlag)
+        | (digest.mayHoldAnything ? mayHoldAnythingFlag : noFlag);
     head.inode = file.stamp.inode;
     head.size = file.stamp.size;
     head.modified = file.stamp.modified;
@@ -143,9 +143,9 @@ std::string_view HRDirectoryDigest::Slot::name() const
 std::optional<HRDirectoryDigest> HRDirectoryDigest::decoded(const QByteArray &bytes)
 {
     HRDirectoryDigest snapshot;
-    if (bytes.size() < HeadSize)
+    if (bytes.size() < headSize)
         return std::nullopt;
-    if (qFromLittleEndian<quint32>(bytes.constData()) != Format)
+    if (qFromLittleEndian<quint32>(bytes.constData()) != format)
         return snapshot;
     snapshot.m_loaded = bytes;
     if (!snapshot.split())
@@ -155,12 +155,12 @@ std::optional<HRDirectoryDigest> HRDirectoryDigest::decoded(const QByteArray &by
 
 QByteArray HRDirectoryDigest::encoded() const
 {
-    QByteArray bytes(HeadSize, Qt::Uninitialized);
+    QByteArray bytes(headSize, Qt::Uninitialized);
     for (const Slot &slot : m_slots)
         bytes.append(slot.bytes.data(), int(slot.bytes.size()));
-    const std::string_view entries(bytes.constData() + HeadSize, size_t(bytes.size() - HeadSize));
-    qToLittleEndian(Format, bytes.data());
-    qToLittleEndian(checksum(entries), bytes.data() + sizeof Format);
+    const std::string_view entries(bytes.constData() + headSize, size_t(bytes.size() - headSize));
+    qToLittleEndian(format, bytes.data());
+    qToLittleEndian(checksum(entries), bytes.data() + sizeof format);
     return bytes;
 }
 
@@ -208,8 +208,8 @@ std::vector<QByteArray> HRDirectoryDigest::untouched() const
 bool HRDirectoryDigest::split()
 {
     std::string_view rest(m_loaded.constData(), size_t(m_loaded.size()));
-    const auto sum = qFromLittleEndian<quint64>(rest.data() + sizeof Format);
-    rest.remove_prefix(HeadSize);
+    const auto sum = qFromLittleEndian<quint64>(rest.data() + sizeof format);
+    rest.remove_prefix(headSize);
     if (checksum(rest) != sum)
         return false;
     while (!rest.empty()) {

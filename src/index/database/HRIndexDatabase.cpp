@@ -20,17 +20,17 @@ namespace {
 
 // A statement on a locked database waits this long, where Qt's own five seconds for each of a
 // start's ten statements would look like a hang.
-const QString ConnectOptions = QStringLiteral("QSQLITE_BUSY_TIMEOUT=100");
-const QString Wait = QStringLiteral("PRAGMA busy_timeout=100");
-const QString DoNotWait = QStringLiteral("PRAGMA busy_timeout=0");
+const QString connectOptions = QStringLiteral("QSQLITE_BUSY_TIMEOUT=100");
+const QString waitForLocks = QStringLiteral("PRAGMA busy_timeout=100");
+const QString doNotWaitForLocks = QStringLiteral("PRAGMA busy_timeout=0");
 
 // Whoever holds the database may hold it for long, and a start asks for it once a control file.
-constexpr int HasteMilliseconds = 1000;
+constexpr int hasteMilliseconds = 1000;
 
 // SQLite's primary result codes; extended ones carry them in the lowest byte.
-constexpr int BusyCode = 5;
-constexpr int CorruptCode = 11;
-constexpr int NoDatabaseCode = 26;
+constexpr int busyCode = 5;
+constexpr int corruptCode = 11;
+constexpr int noDatabaseCode = 26;
 
 int primaryCode(const QSqlError &error)
 {
@@ -38,9 +38,9 @@ int primaryCode(const QSqlError &error)
 }
 
 // What our files carry in bytes 68 to 71 of their header: "HtRl".
-constexpr int ApplicationId = 0x4874526c;
-constexpr int ApplicationIdOffset = 68;
-const QByteArray ApplicationIdBytes("HtRl");
+constexpr int applicationId = 0x4874526c;
+constexpr int applicationIdOffset = 68;
+const QByteArray applicationIdBytes("HtRl");
 
 bool isAllZeros(QFile &file)
 {
@@ -61,7 +61,7 @@ bool looksLikeOurs(const QString &path)
     if (!openRegularFile(file, path))
         return false;
     const QByteArray page = file.read(4096);
-    if (page.mid(ApplicationIdOffset, ApplicationIdBytes.size()) == ApplicationIdBytes
+    if (page.mid(applicationIdOffset, applicationIdBytes.size()) == applicationIdBytes
         || page.contains("CREATE TABLE hintreels")
         || page.contains("CREATE TABLE control_directories"))
         return true;
@@ -88,12 +88,12 @@ void reportSqlError(const char *message, const QSqlError &error)
 bool isDamage(const QSqlError &error)
 {
     const int code = primaryCode(error);
-    return code == CorruptCode || code == NoDatabaseCode;
+    return code == corruptCode || code == noDatabaseCode;
 }
 
 bool isRefusal(const QSqlError &error)
 {
-    return primaryCode(error) == BusyCode;
+    return primaryCode(error) == busyCode;
 }
 
 bool markAsOurs(QSqlQuery &query)
@@ -102,7 +102,7 @@ bool markAsOurs(QSqlQuery &query)
         return false;
     const bool isMarked = query.next() && query.value(0).toInt() != 0;
     query.finish();
-    return isMarked || query.exec(QStringLiteral("PRAGMA application_id=%1").arg(ApplicationId));
+    return isMarked || query.exec(QStringLiteral("PRAGMA application_id=%1").arg(applicationId));
 }
 
 HRIndexDatabase::~HRIndexDatabase()
@@ -121,7 +121,7 @@ bool HRIndexDatabase::open(
     m_isFailing = false;
     m_haste = QDeadlineTimer();
     m_handle = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection);
-    m_handle.setConnectOptions(ConnectOptions);
+    m_handle.setConnectOptions(connectOptions);
     m_handle.setDatabaseName(path);
     const bool isOwn = takeOwnFile(path);
     m_found = stampOfFile(QFile::encodeName(path));
@@ -202,7 +202,7 @@ bool HRIndexDatabase::commit(const char *message)
     if (m_isFailing) {
         noteDamage(isDamage(error));
         reportSqlError(message, error);
-        m_haste.setRemainingTime(HasteMilliseconds);
+        m_haste.setRemainingTime(hasteMilliseconds);
     }
     if (error.isValid())
         m_handle.rollback();
@@ -224,15 +224,15 @@ QSqlError HRIndexDatabase::ask(const char *statement, const char *message)
 {
     const bool hurries = !m_haste.hasExpired();
     if (hurries)
-        QSqlQuery(m_handle).exec(DoNotWait);
+        QSqlQuery(m_handle).exec(doNotWaitForLocks);
     QSqlQuery &query = prepared(statement);
     const QSqlError error = query.exec() ? QSqlError() : query.lastError();
     query.finish();
     if (hurries)
-        QSqlQuery(m_handle).exec(Wait);
+        QSqlQuery(m_handle).exec(waitForLocks);
     else if (isRefusal(error)) {
         reportSqlError(message, error);
-        m_haste.setRemainingTime(HasteMilliseconds);
+        m_haste.setRemainingTime(hasteMilliseconds);
     }
     return error;
 }

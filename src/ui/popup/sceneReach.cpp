@@ -79,7 +79,7 @@ bool mayBecomeScene(const QUrl &source, const HRReach &reach)
     if (!reach.rules.ownFilesOnly || source.isEmpty())
         return true;
     if (reach.rules.fromStrangers)
-        return source.toString().startsWith("qrc" + builtInDirectory);
+        return source.toString().startsWith(QLatin1String("qrc") + builtInDirectory);
     return source.scheme() == QLatin1String("qrc")
         || isInside(source.toLocalFile(), reach.packages);
 }
@@ -87,12 +87,14 @@ bool mayBecomeScene(const QUrl &source, const HRReach &reach)
 QString builtInUi(bool simple)
 {
     registerStandardUi(); // a program that links the library statically would leave it out
-    return builtInDirectory + (simple ? "SimpleTooltip.qml" : "HintreelUI.qml");
+    return builtInDirectory
+        + (simple ? QStringLiteral("SimpleTooltip.qml") : QStringLiteral("HintreelUI.qml"));
 }
 
 QUrl urlOfFile(const QString &path)
 {
-    return path.startsWith(QLatin1String(":/")) ? QUrl("qrc" + path) : QUrl::fromLocalFile(path);
+    return path.startsWith(QLatin1String(":/")) ? QUrl(QStringLiteral("qrc") + path)
+                                                : QUrl::fromLocalFile(path);
 }
 
 int scriptLimit(const HRManager *manager)

@@ -34,7 +34,7 @@ constexpr int mostCaptions = 1'000; // nobody writes as many for a clip of some 
 QLocale localeOf(const HRXmlElement &element, const HRReaderSettings &settings)
 {
     const auto *root = qobject_cast<const HRXmlElement *>(element.parent());
-    const QString name = root ? root->attribute("locale") : QString();
+    const QString name = root ? root->attribute(QStringLiteral("locale")) : QString();
     return name.isEmpty() ? settings.locales.first() : QLocale(name);
 }
 
@@ -51,7 +51,8 @@ QVariantMap sizeMap(const QSize &size)
 {
     if (size.isEmpty())
         return {};
-    return { { "width", size.width() }, { "height", size.height() } };
+    return { { QStringLiteral("width"), size.width() },
+        { QStringLiteral("height"), size.height() } };
 }
 
 } // namespace
@@ -75,7 +76,7 @@ QVariantMap HRContentReader::read(HRXmlElement *element, const QJSValue &say) co
     m_clips->forget();
     QVariantMap hint = readHint(*element, [&say](const QString &text) { return said(say, text); });
     const QLocale locale = localeOf(*element, m_settings());
-    hint.insert("rightToLeft", locale.textDirection() == Qt::RightToLeft);
+    hint.insert(QStringLiteral("rightToLeft"), locale.textDirection() == Qt::RightToLeft);
     return hint;
 }
 
@@ -94,7 +95,7 @@ QVariantMap HRContentReader::picture(const QString &path) const
         return {};
     QVariantMap picture = sizeMap(m_pictures->size(path));
     if (!picture.isEmpty())
-        picture.insert("url", QUrl::fromLocalFile(path));
+        picture.insert(QStringLiteral("url"), QUrl::fromLocalFile(path));
     return picture;
 }
 
@@ -120,8 +121,9 @@ QVariantList HRContentReader::captions(const QString &path) const
     QVariantList captions;
     const QVector<HRCaption> read = readCaptions(path).mid(0, mostCaptions);
     for (const HRCaption &caption : read) {
-        captions.append(QVariantMap{ { "start", caption.start }, { "end", caption.end },
-            { "text", this->caption(caption.text) } });
+        captions.append(QVariantMap{ { QStringLiteral("start"), caption.start },
+            { QStringLiteral("end"), caption.end },
+            { QStringLiteral("text"), this->caption(caption.text) } });
     }
     return captions;
 }
@@ -161,14 +163,16 @@ QVariantMap HRContentReader::showMarkdown(QQuickTextDocument *document, const QS
     if (!text)
         return {};
     const auto find = [&](const QString &path) {
-        return pictureInText(findPicture, path, look.value("room").toSizeF());
+        return pictureInText(findPicture, path, look.value(QStringLiteral("room")).toSizeF());
     };
     setMarkdown(*text, markdown,
-        { look.value("link").value<QColor>(), look.value("codeBackground").value<QColor>(),
-            look.value("spacing").toReal() },
-        HRMarkdownGate(find, look.value("links").toInt()));
+        { look.value(QStringLiteral("link")).value<QColor>(),
+            look.value(QStringLiteral("codeBackground")).value<QColor>(),
+            look.value(QStringLiteral("spacing")).toReal() },
+        HRMarkdownGate(find, look.value(QStringLiteral("links")).toInt()));
     tellTargets(*text);
-    return { { "links", linksIn(*text) }, { "pictures", picturesIn(*text) } };
+    return { { QStringLiteral("links"), linksIn(*text) },
+        { QStringLiteral("pictures"), picturesIn(*text) } };
 }
 
 /// From the last link to the first, so that the positions of the others stay.
@@ -178,8 +182,9 @@ void HRContentReader::tellTargets(QTextDocument &text) const
     for (auto it = links.crbegin(); it != links.crend(); ++it) {
         const QVariantMap link = it->toMap();
         QTextCursor cursor(&text);
-        cursor.setPosition(link.value("end").toInt());
-        cursor.insertText(shownTarget(link.value("href").toString(), link.value("text").toString()),
+        cursor.setPosition(link.value(QStringLiteral("end")).toInt());
+        cursor.insertText(shownTarget(link.value(QStringLiteral("href")).toString(),
+                              link.value(QStringLiteral("text")).toString()),
             cursor.block().charFormat());
     }
 }
@@ -189,8 +194,9 @@ HRTextPicture HRContentReader::pictureInText(
 {
     const QJSValue file = findPicture.call({ path });
     const QVariantMap found = file.isString() ? picture(file.toString()) : QVariantMap();
-    const QSizeF size(found.value("width").toReal(), found.value("height").toReal());
-    return { found.value("url").toUrl(),
+    const QSizeF size(found.value(QStringLiteral("width")).toReal(),
+        found.value(QStringLiteral("height")).toReal());
+    return { found.value(QStringLiteral("url")).toUrl(),
         size.scaled(room.boundedTo(size), Qt::KeepAspectRatio).toSize() };
 }
 

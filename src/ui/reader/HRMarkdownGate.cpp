@@ -62,8 +62,8 @@ void collectPictures(const QTextBlock &block, QVector<Picture> *pictures)
 QString resourcePath(const QString &target)
 {
     const QString path = QUrl::fromPercentEncoding(target.toUtf8());
-    const bool elsewhere = QDir::isAbsolutePath(path) || path.contains(':')
-        || path.split('/').contains(QStringLiteral(".."));
+    const bool elsewhere = QDir::isAbsolutePath(path) || path.contains(u':')
+        || path.split(u'/').contains(QStringLiteral(".."));
     return elsewhere ? QString() : path;
 }
 

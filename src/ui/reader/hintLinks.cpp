@@ -19,16 +19,17 @@ constexpr int mostLinks = 100;
 
 bool isOfKind(const QVariantMap &block, const char *kind)
 {
-    return block.value("block") == QLatin1String(kind);
+    return block.value(QStringLiteral("block")) == QLatin1String(kind);
 }
 
 /// Never fewer than there are, and quick to find: each one is closed by a bracket, or is an
 /// address.
 int mostLinksIn(const QVariantMap &block)
 {
-    const QString text = block.value("text").toString();
+    const QString text = block.value(QStringLiteral("text")).toString();
     if (isOfKind(block, "text") || isOfKind(block, "note"))
-        return text.count(']') + text.count(':') + text.count('@') + text.count("www.");
+        return text.count(u']') + text.count(u':') + text.count(u'@')
+            + text.count(QStringLiteral("www."));
     return isOfKind(block, "link") ? 1 : 0;
 }
 
@@ -36,15 +37,16 @@ int linksIn(const QVariantMap &block)
 {
     return isOfKind(block, "link") || mostLinksIn(block) == 0
         ? mostLinksIn(block)
-        : countLinks(block.value("text").toString());
+        : countLinks(block.value(QStringLiteral("text")).toString());
 }
 
 QVariantMap limited(QVariantMap block, int links)
 {
     if (isOfKind(block, "link") && links == 0)
-        return { { "block", "text" }, { "text", QString(ellipsis) } };
+        return { { QStringLiteral("block"), QStringLiteral("text") },
+            { QStringLiteral("text"), QString(ellipsis) } };
     if (!isOfKind(block, "link"))
-        block.insert("links", links);
+        block.insert(QStringLiteral("links"), links);
     return block;
 }
 

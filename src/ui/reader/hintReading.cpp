@@ -96,14 +96,14 @@ QVariantMap readBlock(const HRXmlElement &element)
             block.insert(name, element.attribute(name));
     }
     const QString content = cutText(element.content(), longestSource);
-    block.insert("text", isMarkdown(tag) ? dedent(content) : content.simplified());
-    block.insert("block", tag);
+    block.insert(QStringLiteral("text"), isMarkdown(tag) ? dedent(content) : content.simplified());
+    block.insert(QStringLiteral("block"), tag);
     return block;
 }
 
 bool showsSomething(const QVariantMap &block)
 {
-    const auto needed = neededOfBlock.constFind(block.value("block").toString());
+    const auto needed = neededOfBlock.constFind(block.value(QStringLiteral("block")).toString());
     return needed != neededOfBlock.constEnd() && !isBlank(block.value(*needed).toString());
 }
 
@@ -111,7 +111,7 @@ bool showsSomething(const QVariantMap &block)
 QString cutLines(const QString &markdown)
 {
     static const QRegularExpression itemEnd(
-        R"(\n|[-*+.)][ \t>]++(?=(?:[-*+]|[0-9]{1,9}[.)])[ \t\n]))");
+        QStringLiteral(R"(\n|[-*+.)][ \t>]++(?=(?:[-*+]|[0-9]{1,9}[.)])[ \t\n]))"));
     auto ends = itemEnd.globalMatch(markdown);
     for (int item = 1; item < longestList && ends.hasNext(); ++item)
         ends.next();
@@ -137,17 +137,21 @@ QVariantMap taken(QVariantMap block, const HRSay &say, HRHintRoom *room)
 {
     takeLine(&block, QStringLiteral("alt"), say, room);
     takeLine(&block, QStringLiteral("press"), say, room);
-    takeKeys(block.value("press").toString(), room);
-    const bool unnamedLink = block.value("block") == "link" && block.value("text") == "";
-    const QString text = block.value(unnamedLink ? "to" : "text").toString();
+    takeKeys(block.value(QStringLiteral("press")).toString(), room);
+    const bool unnamedLink = block.value(QStringLiteral("block")) == QLatin1String("link")
+        && block.value(QStringLiteral("text")) == QLatin1String("");
+    const QString text
+        = block.value(unnamedLink ? QStringLiteral("to") : QStringLiteral("text")).toString();
     const QString shown = room->take(say(cutText(text, longestSource)), longestBlock);
-    block.insert("text", isMarkdown(block.value("block").toString()) ? cutLines(shown) : shown);
+    block.insert(QStringLiteral("text"),
+        isMarkdown(block.value(QStringLiteral("block")).toString()) ? cutLines(shown) : shown);
     return block;
 }
 
 QVariantList withEllipsis(const QVariantList &blocks)
 {
-    const QVariantMap last{ { "block", "text" }, { "text", QString(ellipsis) } };
+    const QVariantMap last{ { QStringLiteral("block"), QStringLiteral("text") },
+        { QStringLiteral("text"), QString(ellipsis) } };
     return blocks.mid(0, mostBlocks - 1) << last;
 }
 
@@ -183,22 +187,25 @@ QString readSummary(const HRXmlElement &element)
 QVariantMap readHint(const HRXmlElement &element, const HRSay &say)
 {
     HRHintRoom room;
-    const QString title = room.take(say(oneLine(element.attribute("title"))), longestTitle);
-    const QString shortcut = room.take(oneLine(element.attribute("shortcut")), longestLine);
+    const QString title
+        = room.take(say(oneLine(element.attribute(QStringLiteral("title")))), longestTitle);
+    const QString shortcut
+        = room.take(oneLine(element.attribute(QStringLiteral("shortcut"))), longestLine);
     takeKeys(shortcut, &room);
     const QString summary = room.take(say(readSummary(element)), longestLine);
     return {
-        { "title", title },
-        { "shortcut", shortcut },
-        { "documentation", element.attribute("documentation").trimmed() },
-        { "summary", summary },
-        { "blocks", limitLinks(readBlocks(element, say, &room)) },
+        { QStringLiteral("title"), title },
+        { QStringLiteral("shortcut"), shortcut },
+        { QStringLiteral("documentation"),
+            element.attribute(QStringLiteral("documentation")).trimmed() },
+        { QStringLiteral("summary"), summary },
+        { QStringLiteral("blocks"), limitLinks(readBlocks(element, say, &room)) },
     };
 }
 
 QString dedent(const QString &text)
 {
-    QStringList lines = text.split('\n');
+    QStringList lines = text.split(u'\n');
     if (!isBlank(lines.first()))
         lines.first() = lines.first().trimmed().prepend(sharedIndentation(lines.mid(1)));
     const QString shared = sharedIndentation(lines);
@@ -208,7 +215,7 @@ QString dedent(const QString &text)
         lines.removeFirst();
     while (!lines.isEmpty() && lines.last().isEmpty())
         lines.removeLast();
-    return lines.join('\n');
+    return lines.join(u'\n');
 }
 
 } // namespace Hintreels

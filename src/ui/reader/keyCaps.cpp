@@ -26,7 +26,7 @@ QStringList keysOfStroke(const QString &stroke)
     QStringList keys;
     QString key;
     for (const QChar c : stroke) {
-        const bool joins = c == '+' && !key.trimmed().isEmpty();
+        const bool joins = c == u'+' && !key.trimmed().isEmpty();
         if (joins)
             keys.append(cutText(key.trimmed(), longestKey));
         key = joins ? QString() : key + c;

@@ -28,10 +28,10 @@ constexpr QChar namedBracket(0xfdd3);
 // A comment longer than that stays: each one that is never closed would be looked for to the end.
 const QRegularExpression &htmlPattern()
 {
-    static const QRegularExpression pattern(
+    static const QRegularExpression pattern(QStringLiteral(
         R"(<[A-Za-z][A-Za-z0-9-]*+(?:\s++[\w:][\w.:-]*+(?:\s*+=\s*+(?:[^\s"'=<>`]++|'[^']*+'|"[^"]*+"))?+)*+\s*+/?>)"
         R"(|</[A-Za-z][A-Za-z0-9-]*+\s*+>|<!--.{0,1000}?-->|<\?.{0,1000}?\?>)"
-        R"(|<![A-Za-z][^<>]*+>|<!\[CDATA\[.{0,1000}?\]\]>)");
+        R"(|<![A-Za-z][^<>]*+>|<!\[CDATA\[.{0,1000}?\]\]>)"));
     return pattern;
 }
 
@@ -41,7 +41,7 @@ QString withMarks(const QString &markdown)
     QString marked;
     for (int i = 0; i < markdown.size(); ++i) {
         const QStringRef rest = markdown.midRef(i);
-        const bool escape = rest.startsWith('\\');
+        const bool escape = rest.startsWith(u'\\');
         const bool named = rest.startsWith(QLatin1String("&lt;"));
         if (named || rest.startsWith(QLatin1String("\\<")))
             marked += named ? namedBracket : escapedBracket;
@@ -54,8 +54,8 @@ QString withMarks(const QString &markdown)
 
 QString withoutMarks(QString text, bool code)
 {
-    text.replace(escapedBracket, QString(code ? "\\<" : "<"));
-    return text.replace(namedBracket, QString(code ? "&lt;" : "<"));
+    text.replace(escapedBracket, code ? QStringLiteral("\\<") : QStringLiteral("<"));
+    return text.replace(namedBracket, code ? QStringLiteral("&lt;") : QStringLiteral("<"));
 }
 
 QTextCursor selected(QTextDocument *document, int position, int length)
@@ -74,7 +74,7 @@ QString proseOf(const QTextBlock &block)
     for (const HRTextRun &run : runs) {
         if (isCode(block) || isCode(run.format) || run.format.isImageFormat())
             prose.replace(
-                run.position - block.position(), run.length(), QString(run.length(), ' '));
+                run.position - block.position(), run.length(), QString(run.length(), u' '));
     }
     return prose;
 }
@@ -88,7 +88,7 @@ struct Piece
 QVector<Piece> htmlIn(const QTextBlock &block)
 {
     QVector<Piece> pieces;
-    if (!block.text().contains('<'))
+    if (!block.text().contains(u'<'))
         return pieces;
     const QString prose = proseOf(block);
     for (auto it = htmlPattern().globalMatch(prose); it.hasNext();) {
@@ -161,7 +161,7 @@ void setMarkdownWithoutHtml(QTextDocument *document, const QString &markdown)
 {
     const QString marked = withMarks(markdown);
     document->setMarkdown(marked, flavour);
-    if (marked.contains('<'))
+    if (marked.contains(u'<'))
         changeBlocks(document, takeHtmlOut);
     if (marked != markdown)
         changeBlocks(document, qOverload<QTextDocument *, const QTextBlock &>(&takeMarksOut));

@@ -97,8 +97,9 @@ bool SvgWalk::open(const QXmlStreamReader &svg)
     const QXmlStreamAttributes attributes = svg.attributes();
     const bool copies = svg.name() == QLatin1String("use");
     if (copies)
-        m_copied.append(attributes.value(xlink, "href").toString().section('#', 1));
-    m_open.append({ attributes.value("id").toString(), 1, copies });
+        m_copied.append(
+            attributes.value(xlink, QStringLiteral("href")).toString().section(u'#', 1));
+    m_open.append({ attributes.value(QStringLiteral("id")).toString(), 1, copies });
     return m_open.size() <= deepest && ++m_steps <= mostSteps
         && svg.name() != QLatin1String("image");
 }

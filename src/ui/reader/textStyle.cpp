@@ -128,8 +128,9 @@ QVariantList linksIn(const QTextDocument &document)
         for (const HRTextRun &run : runs) {
             if (!run.format.isAnchor())
                 continue;
-            links.append(QVariantMap{ { "href", run.format.anchorHref() }, { "text", run.text },
-                { "start", run.position }, { "end", run.end() } });
+            links.append(QVariantMap{ { QStringLiteral("href"), run.format.anchorHref() },
+                { QStringLiteral("text"), run.text }, { QStringLiteral("start"), run.position },
+                { QStringLiteral("end"), run.end() } });
         }
     }
     return links;
@@ -143,10 +144,12 @@ QVariantList picturesIn(const QTextDocument &document)
         for (const HRTextRun &run : runs) {
             const QTextImageFormat picture = run.format.toImageFormat();
             if (picture.isValid())
-                pictures.append(QVariantMap{ { "url", HRMarkdownGate::pictureIn(picture) },
-                    { "text", picture.property(QTextFormat::ImageAltText) },
-                    { "start", run.position }, { "width", picture.width() },
-                    { "height", picture.height() } });
+                pictures.append(
+                    QVariantMap{ { QStringLiteral("url"), HRMarkdownGate::pictureIn(picture) },
+                        { QStringLiteral("text"), picture.property(QTextFormat::ImageAltText) },
+                        { QStringLiteral("start"), run.position },
+                        { QStringLiteral("width"), picture.width() },
+                        { QStringLiteral("height"), picture.height() } });
         }
     }
     return pictures;
