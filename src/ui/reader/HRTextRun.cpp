@@ -3,8 +3,6 @@
 
 #include "ui/reader/HRTextRun_p.h"
 
-#include <QFontDatabase>
-
 namespace Hintreels {
 
 QVector<HRTextRun> runsOf(const QTextBlock &block)
@@ -25,10 +23,8 @@ bool isCode(const QTextBlock &block)
 
 bool isCode(const QTextCharFormat &format)
 {
-    // What Qt's Markdown reader sets code in; it does not always come with the fixed-pitch
-    // property.
-    return format.fontFixedPitch()
-        || format.fontFamily() == QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
+    // Qt's Markdown reader names a family for code only; not always is it of fixed pitch.
+    return format.fontFixedPitch() || format.hasProperty(QTextFormat::FontFamily);
 }
 
 } // namespace Hintreels
