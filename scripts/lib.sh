@@ -8,15 +8,22 @@
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
-command_name=scripts/$(basename "$0")
-current_step="start"
+command_name=$(realpath --relative-to="$root" "$0")
+current_step=
+step_began=0
 started_processes=()
 temporary_directory=
 
-# Names what happens from here on.
+# Names what happens from here on, and tells how long the step before took.
 step() {
+    tell_time
     current_step=$1
+    step_began=$SECONDS
     printf '== %s\n' "$current_step"
+}
+
+tell_time() {
+    [[ -z $current_step ]] || printf -- '-- %s: %d s\n' "$current_step" $((SECONDS - step_began))
 }
 
 # Ends the command with a message.
@@ -33,7 +40,9 @@ finish() {
         wait "${started_processes[i]}" 2>/dev/null || true
     done
     [[ -z $temporary_directory ]] || rm -rf "$temporary_directory"
-    ((status == 0)) || printf '%s: failed at: %s\n' "$command_name" "$current_step" >&2
+    tell_time
+    [[ -z $current_step ]] || printf -- '-- %s in all: %d s\n' "$command_name" "$SECONDS"
+    ((status == 0)) || printf '%s: failed at: %s\n' "$command_name" "${current_step:-start}" >&2
     exit "$status"
 }
 trap finish EXIT
