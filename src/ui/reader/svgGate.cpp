@@ -8,6 +8,8 @@
 #include <QVector>
 #include <QXmlStreamReader>
 
+#include <algorithm>
+
 #include <zlib.h>
 
 namespace Hintreels {
@@ -16,6 +18,8 @@ namespace {
 
 constexpr int largestSvg = 8 * 1024 * 1024; // bytes
 constexpr int mostSteps = 100'000; // elements, those of copies included
+// Qt holds each rule of a style sheet against each element, and against those around it.
+constexpr qint64 mostMatching = 200'000'000; // letters of sheets, by elements, by levels
 constexpr int deepest = 250; // Qt draws by recursion, in a thread
 
 const QString xlink = QStringLiteral("http://www.w3.org/1999/xlink");
@@ -53,12 +57,16 @@ public:
     /// Whether the copies, too, are drawn in few enough steps.
     bool isShort() const;
 
+    /// Whether style sheets are small enough for as many elements.
+    bool isSoonStyled() const { return m_sheets * m_steps * m_levels <= mostMatching; }
+
 private:
     struct Open
     {
         QString id;
         int steps;
         bool copies;
+        bool isSheet;
     };
     struct Part
     {
@@ -73,6 +81,8 @@ private:
     QHash<QString, Part> m_parts;
     QStringList m_copied;
     int m_steps = 0;
+    int m_levels = 0;
+    qint64 m_sheets = 0; // letters
 };
 
 bool SvgWalk::take(const QXmlStreamReader &svg)
@@ -82,6 +92,9 @@ bool SvgWalk::take(const QXmlStreamReader &svg)
         return open(svg);
     case QXmlStreamReader::EndElement:
         close();
+        return true;
+    case QXmlStreamReader::Characters:
+        m_sheets += !m_open.isEmpty() && m_open.last().isSheet ? svg.text().size() : 0;
         return true;
     case QXmlStreamReader::DTD:
         return svg.entityDeclarations().isEmpty();
@@ -99,7 +112,10 @@ bool SvgWalk::open(const QXmlStreamReader &svg)
     if (copies)
         m_copied.append(
             attributes.value(xlink, QStringLiteral("href")).toString().section(u'#', 1));
-    m_open.append({ attributes.value(QStringLiteral("id")).toString(), 1, copies });
+    const bool isSheet
+        = svg.name() == QLatin1String("style") || (!m_open.isEmpty() && m_open.last().isSheet);
+    m_open.append({ attributes.value(QStringLiteral("id")).toString(), 1, copies, isSheet });
+    m_levels = std::max(m_levels, m_open.size());
     return m_open.size() <= deepest && ++m_steps <= mostSteps
         && svg.name() != QLatin1String("image");
 }
@@ -148,7 +164,7 @@ bool isHarmlessSvg(const QByteArray &svg)
         if (!walk.take(reader))
             return false;
     }
-    return !reader.hasError() && walk.isShort();
+    return !reader.hasError() && walk.isShort() && walk.isSoonStyled();
 }
 
 } // namespace Hintreels

@@ -107,6 +107,15 @@ void tst_pictureFile::pictureSize_isThatOfAPicture_data()
                                      << false;
     QTest::newRow("too many elements")
         << "a.svg" << svg(QByteArray("<g/>").repeated(100'000)) << false;
+    const QByteArray rules = QByteArray(".a{fill:red}").repeated(1'000);
+    QTest::newRow("style sheet of few elements")
+        << "a.svg" << svg("<style>" + rules + "</style>" + line.repeated(1'000)) << true;
+    QTest::newRow("style sheet of many elements")
+        << "a.svg" << svg("<style>" + rules + "</style>" + line.repeated(10'000)) << false;
+    QTest::newRow("style sheet in pieces") << "a.svg"
+                                           << svg("<style><![CDATA[" + rules + "]]><a>" + rules
+                                                  + "</a></style>" + line.repeated(5'000))
+                                           << false;
     QTest::newRow("nested deep") << "a.svg"
                                  << svg(QByteArray("<g>").repeated(300)
                                         + QByteArray("</g>").repeated(300))
