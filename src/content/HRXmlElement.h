@@ -33,10 +33,13 @@ class HINTREELS_EXPORT HRXmlElement : public QObject
     Q_OBJECT
     // QML and the builder see signals, methods and properties in the order in which they stand
     // here.
+    ///@{
+    /// What QML reads and writes; the operations behind it say more.
     Q_PROPERTY(QString tagName READ getTagName WRITE setTagName NOTIFY tagNameChanged)
     Q_PROPERTY(
         QString tagNameSpace READ getTagNameSpace WRITE setTagNameSpace NOTIFY tagNameSpaceChanged)
     Q_PROPERTY(QString content READ content NOTIFY contentChanged)
+    ///@}
 
 public:
     /// Makes an element with @p attrs under their qualified names and without tag name or text.
@@ -84,6 +87,7 @@ public:
     /// The attribute's value, or a null string without such an attribute.
     Q_INVOKABLE QString attribute(const QString &name) const;
 
+    /// Whether the element has an attribute of this name, even an empty one.
     Q_INVOKABLE bool hasAttribute(const QString &name) const;
 
     /// Adds text as it is at the end of the text and emits contentChanged().
@@ -97,9 +101,12 @@ public:
     Q_INVOKABLE QString toXml(int index = 0) const;
 
 Q_SIGNALS:
+    ///@{
+    /// The property of its name was set, or has changed.
     void tagNameChanged();
     void tagNameSpaceChanged();
     void contentChanged();
+    ///@}
 
 private:
     std::unique_ptr<HRXmlElementPrivate> d;

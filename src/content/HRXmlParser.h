@@ -57,10 +57,12 @@ public:
 
     /// Makes objects of @p metaObject for elements with this local name from now on.
     void registerElement(const QString &localName, const QMetaObject *metaObject);
+    /// Makes objects of the default class for elements with this local name from now on.
     void unregisterElement(const QString &localName);
 
     /// The class of elements that are not registered.
     void setDefaultElement(const QMetaObject *metaObject);
+    /// The class of elements that are not registered; null where none was set.
     const QMetaObject *defaultElement() const;
 
     /// The class registered under this name, or null; the default class does not count.
@@ -71,6 +73,7 @@ public:
     /// After an error this is what was built until then. The elements that were open at the error
     /// go with the parser: guard the result by a QPointer, or be done with it before.
     QList<QObject *> read(const QXmlInputSource *source);
+    /// The same for a source by reference.
     QList<QObject *> read(const QXmlInputSource &source);
 
     /// Reads a document that is in memory whole, which is much quicker than from a source. The

@@ -89,6 +89,7 @@ class HINTREELS_EXPORT HRContext : public QObject
     Q_OBJECT
 
 public:
+    /// Makes an empty store.
     explicit HRContext(QObject *parent = nullptr);
     /// Copies the settings only: the copy has no parent and none of the connections.
     HRContext(const HRContext &other);
@@ -102,13 +103,16 @@ public:
     /// Stores a value between the two signals, which are sent also when it equals the old one.
     void set(const int &key, const QVariant &value);
 
+    /// Whether a value is stored under a key, even an invalid one.
     bool contains(const int &key);
 
     /// All keys in ascending order.
     QList<int> keys();
 
 Q_SIGNALS:
+    /// A value is about to be stored: get() still returns the old one.
     void settingWillChange(const HRContextKey &key);
+    /// A value has been stored.
     void settingDidChange(const HRContextKey &key);
 
 private:

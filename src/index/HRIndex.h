@@ -42,6 +42,7 @@ public:
     /// The settings that the index reads. Where none were given, or theirs are gone, an empty
     /// context that the index owns.
     HRContext &context();
+    /// The same, to be read only.
     const HRContext &context() const;
 
     // The order of the virtual operations is part of the interface.
@@ -77,6 +78,7 @@ public:
 
     /// Brackets a run of store() calls.
     virtual void startUpdate();
+    /// Ends what startUpdate() began.
     virtual void endUpdate();
 
     /// Every key of every control file, repeated where several files or locales hold it. Reads all
@@ -126,6 +128,7 @@ public:
         const QString &tag, const QXmlAttributes &attributes, void *data);
 
 protected:
+    /// Whether an update has begun and not ended.
     bool isInUpdate() const;
 
     /// What the index knows in memory, for the indexes of this library.

@@ -51,6 +51,7 @@ public:
     bool store(
         HRXmlElement *entry, const QLocale &locale, const QString &filePath, int depth) override;
     void startUpdate() override;
+    /// Ends what startUpdate() began.
     void endUpdate() override;
     QStringList keys() override;
     void indexControlFile(const QString &filePath, const QString &packagePath) override;

@@ -72,6 +72,7 @@ public:
 
     /// Brackets one transaction. Brackets do not nest: the first endUpdate() ends the update.
     void startUpdate() override;
+    /// Commits the transaction, where one is open.
     void endUpdate() override;
 
     /// Every key, once for each locale; from the database while it is open.

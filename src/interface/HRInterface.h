@@ -88,6 +88,7 @@ public:
 
     /// The settings that the library works with; changes take effect from the next reading on.
     HRContext &context();
+    /// The same, to be read only.
     const HRContext &context() const;
 
     /// One attribute of a key's content, without showing it.

@@ -47,9 +47,13 @@ public:
         HRInterface *interface, HRContext &context, const QStringList &dataPaths, HRIndex *index);
     ~HRManager() override;
 
+    /// The manager's copy of the settings; changes take effect from the next reading on.
     HRContext &context();
+    /// The same, to be read only.
     const HRContext &context() const;
+    /// The index that answers for keys.
     HRIndex *index() const;
+    /// What receives the callbacks.
     HRInterface *interface() const;
 
     /// The current popup; null before the first hint and never a detached one.
@@ -91,7 +95,9 @@ public:
     /// See HRInterface::show().
     bool show(const QString &key, const QPoint &globalPos, QObject *object);
 
+    /// See HRInterface::keyForObject().
     QString keyForObject(QObject *object);
+    /// See HRInterface::keys().
     QStringList keys();
 
     /// Where the popup's top left corner goes for a pointer position, both global.
@@ -111,6 +117,7 @@ public:
     /// Hands a URL, path or name to the host if the settings allow its kind.
     bool openExternalResource(const QString &resource);
 
+    /// Shows, follows and hides by the application's events, with the setting applicationFilterKey.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
     /// See HRInterface::mouseMoveEventFilter().

@@ -23,18 +23,23 @@ public:
     HRVideoFrame(int width, int height, QImage::Format format, size_t pts);
     /// Shares the pixels of @p image.
     HRVideoFrame(const QImage &image, size_t pts);
+    /// Shares the pixels, and knows the same damage.
     HRVideoFrame(const HRVideoFrame &other);
+    /// Shares the pixels, and knows the same damage.
     HRVideoFrame &operator=(const HRVideoFrame &other);
     ~HRVideoFrame() override;
 
     /// The presentation time in seconds. A source's clock runs on from clip to clip.
     double pts() const { return m_pts; }
+    /// Sets the presentation time in seconds.
     void setPts(double pts) { m_pts = pts; }
 
     /// The picture, by its QImage::cacheKey(), that this one is known to be alike outside of
     /// damage(); 0 where nothing is known, as after writing to it.
     qint64 damageBase() const { return cacheKey() == m_damaged ? m_damageBase : 0; }
+    /// Where the picture differs from damageBase(), at most.
     QRegion damage() const { return m_damage; }
+    /// Remembers both for the pixels as they are now.
     void setDamage(qint64 base, const QRegion &damage);
 
 private:

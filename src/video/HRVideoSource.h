@@ -39,6 +39,7 @@ public:
         idleAction = 5 ///< rests until a request comes in
     };
 
+    /// Starts nothing: start() is left to whoever makes the source.
     explicit HRVideoSource(QObject *parent = nullptr);
     /// Quits the thread first.
     ~HRVideoSource() override;
@@ -47,6 +48,7 @@ public:
 
     /// Does nothing here; a derived source releases its media first, then calls this.
     virtual void close();
+    /// Whether the media is open.
     virtual bool isOpen() = 0;
     /// Wall-clock time in seconds.
     virtual double getTime() = 0;
@@ -87,8 +89,11 @@ public:
 
     // Queries, from any thread.
 
+    /// The URL in effect.
     QUrl source();
+    /// What the thread does now.
     Action action();
+    /// Whether the thread was asked to end.
     bool shouldQuit();
 
     // Pictures, from any thread, under the frame lock.
@@ -97,6 +102,7 @@ public:
     void pushFrame(const HRVideoFrame &frame);
     /// The picture at @p index, or a null one where there is none.
     HRVideoFrame getFrame(unsigned int index);
+    /// Whether the picture at @p index is decoded.
     bool isFrameAvailable(size_t index);
     /// The number of pictures decoded so far.
     size_t loadedFrameCount();
@@ -116,10 +122,13 @@ public:
 Q_SIGNALS:
     // Listeners rely on this order.
     void frameReady(); ///< for derived sources; none of the library's emits it
+    /// Another URL is in effect, with a fresh cache.
     void sourceChanged();
     void streamEnded(); ///< the whole clip is in the cache
     void sourceLoaded(); ///< the media is open; its sizes and rates are known
+    /// The thread's action was set.
     void actionChanged();
+    /// Decoding goes on from another picture.
     void positionChanged();
     void loadProgressChanged(); ///< for derived sources; none of the library's emits it
 
@@ -148,6 +157,7 @@ private:
 /// A change of a source's action that was asked for, on its way to the source's thread.
 struct HINTREELS_EXPORT HRVideoSourceChange
 {
+    /// Asks for @p action.
     explicit HRVideoSourceChange(HRVideoSource::Action action);
     virtual ~HRVideoSourceChange();
 
@@ -156,17 +166,20 @@ struct HINTREELS_EXPORT HRVideoSourceChange
     /// Carries the change out. On the source's thread, with no lock held.
     virtual void apply(HRVideoSource *source);
 
+    /// What is asked for.
     HRVideoSource::Action action;
 };
 
 /// A change of a source's URL, which is loaded then.
 struct HINTREELS_EXPORT HRVideoSourceSourceChange : public HRVideoSourceChange
 {
+    /// Asks for the clip at @p url.
     explicit HRVideoSourceSourceChange(const QUrl &url);
 
     int type() const override;
     void apply(HRVideoSource *source) override;
 
+    /// The clip that is asked for.
     QUrl url;
 };
 

@@ -40,6 +40,7 @@ public:
     /// In pixels; 150 while no media is open. Never waits for a picture being decoded.
     double frameHeight() const override;
 
+    /// The limit of setLargestPicture() where none was set.
     static constexpr int standardLargestPicture = 64; // megapixels
     /// Clips that are opened from now on are refused, or end, where a picture has more than this.
     /// From any thread.
@@ -55,6 +56,7 @@ public:
     virtual double progress();
 
 protected:
+    /// Carries out what is asked for, until it is to end.
     void run() override;
     bool loadSource() override;
     void dropClip() override;

@@ -16,11 +16,15 @@ namespace Hintreels {
 class HINTREELS_EXPORT HRStyledRectangleComponent : public QQuickPaintedItem
 {
     Q_OBJECT
+    ///@{
+    /// What QML reads and writes; the operations behind it say more.
     Q_PROPERTY(QString element READ element WRITE setElement NOTIFY elementChanged)
     Q_PROPERTY(QColor textColor READ textColor NOTIFY textColorChanged)
     Q_PROPERTY(bool toolTipStyle READ toolTipStyle WRITE setToolTipStyle NOTIFY toolTipStyleChanged)
+    ///@}
 
 public:
+    /// Makes a rectangle in the colour of windows.
     explicit HRStyledRectangleComponent(QQuickPaintedItem *parent = nullptr);
 
     /// Name of the style's primitive, "PE_Widget" or "PE_Frame". It does not change what is
@@ -39,12 +43,16 @@ public:
     /// Emits toolTipStyleChanged() and textColorChanged(), also for the same value.
     void setToolTipStyle(bool toolTipStyle);
 
+    /// Fills the item.
     void paint(QPainter *painter) override;
 
 Q_SIGNALS:
+    ///@{
+    /// The property of its name was set, or has changed.
     void elementChanged();
     void textColorChanged();
     void toolTipStyleChanged();
+    ///@}
 
 private:
     void followPalette();

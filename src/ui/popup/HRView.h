@@ -37,6 +37,7 @@ public:
     int qt_metacall(QMetaObject::Call call, int id, void **arguments) override;
 
 protected:
+    /// Loads what a script asks QQuickView's slot for.
     virtual void load(const QUrl &source) = 0;
 };
 
@@ -51,6 +52,8 @@ class HINTREELS_EXPORT HRView : public HRSceneWindow
 {
     Q_OBJECT
     // QML sees signals, slots, methods and properties in the order in which they stand here.
+    ///@{
+    /// What QML reads and writes; the operations behind it say more.
     Q_PROPERTY(bool stayOpen READ stayOpen WRITE setStayOpen NOTIFY stayOpenChanged)
     Q_PROPERTY(bool reserved READ reserved WRITE setReserved NOTIFY reservedChanged)
     Q_PROPERTY(Hintreels::HRXmlElement *content READ content WRITE setContent NOTIFY contentChanged)
@@ -60,6 +63,7 @@ class HINTREELS_EXPORT HRView : public HRSceneWindow
     Q_PROPERTY(QString resourceDirectory READ resourceDirectoryPath)
     // Instead of the one that comes with QQuickView, which deletes a scene that is at work.
     Q_PROPERTY(QUrl source READ source WRITE setSource)
+    ///@}
 
 public:
     /// @param manager not owned; may be null
@@ -68,6 +72,7 @@ public:
     /// Deletes the content, together with the root element that it was read with.
     ~HRView() override;
 
+    /// Null where there is none, or where it is gone.
     HRManager *manager() const;
 
     /// The QML root file, also while it waits to be loaded; see setSource().
@@ -117,9 +122,11 @@ public:
     /// Name of the directory for resources: the content's attribute "resource", else the setting.
     QString resourceDirectoryPath() const;
 
+    ///@{
     /// The directory of the current package.
     QDir packageRoot() const;
     void setPackageRoot(const QDir &directory);
+    ///@}
 
     /// Moves the window, in coordinates of its parent.
     void setViewPos(int x, int y);
@@ -146,20 +153,27 @@ public:
     /// Pauses or resumes the decoding of all clips in the view, of those to come as well. The popup
     /// does so when it hides and shows; a view that was never in a shown popup decodes.
     void setDecodingPaused(bool paused);
+    /// What setDecodingPaused() was last told.
     bool isDecodingPaused() const;
 
 Q_SIGNALS:
+    /// The property of its name was set, or has changed.
     void stayOpenChanged();
+    /// The property of its name was set, or has changed.
     void reservedChanged();
     /// Never emitted: QML binds to `hintreel`.
     void contentChanged();
+    /// The window has another size.
     void contentSizeChanged();
+    /// The setting allowNamedResourcesKey has been stored.
     void documentationAvailableChanged();
     /// Never emitted: QML binds to `hintreel`.
     void resourceDirectoryChanged();
 
 public Q_SLOTS:
+    /// Passes what QML complains of on as messages.
     void handleWarnings(const QList<QQmlError> &warnings);
+    /// Passes the errors of a file that could not be loaded on as messages.
     void statusHasChanged(QQuickView::Status s);
 
     /// Loads a QML file unless it is the one that is loaded; a missing file changes nothing.
@@ -167,6 +181,7 @@ public Q_SLOTS:
 
     /// Sets the root item's state to the base state.
     void resetState();
+    /// Follows the manager's settings.
     void managerContextSettingDidChange(const HRContextKey &key);
 
 public:
@@ -176,13 +191,17 @@ public:
     Q_INVOKABLE void setItemCursor(
         QQuickPaintedItem *object, const QString &shape, const QString &tag);
 
+    /// Sends a message of type messageDebug.
     Q_INVOKABLE void debugLog(const QString &msg);
+    /// See HRManager::openExternalResource().
     Q_INVOKABLE void openExternalResource(const QString &resourceLocator);
+    /// See HRManager::interpolate().
     Q_INVOKABLE QString interpolate(const QString &string);
 
     /// Sets the application's cursor by name until restoreOverrideCursor(), or until the popup
     /// hides.
     Q_INVOKABLE void setOverrideCursor(const QString &shape);
+    /// Takes back the last cursor that setOverrideCursor() has set.
     Q_INVOKABLE void restoreOverrideCursor();
 
     /// The host's translation; null where the package's translation file lacks the text.
@@ -190,14 +209,19 @@ public:
 
     /// Absolute path of a resource of the content's packages, or the resource directory's name.
     Q_INVOKABLE QString findResource(const QString &relativePath);
+    /// See HRManager::getScaledSize().
     Q_INVOKABLE int getScaledSize(int size);
 
 protected:
+    /// The same as setSource().
     void load(const QUrl &source) override;
+    /// Holds events back that the scene must not see now.
     bool event(QEvent *event) override;
+    /// Paints anew and emits contentSizeChanged().
     // The base is left out: the window follows its root item, and UI files never size from the
     // window.
     void resizeEvent(QResizeEvent *event) override;
+    /// Lets an item become active wherever the focus comes from.
     void focusInEvent(QFocusEvent *event) override;
 
 private:

@@ -38,7 +38,9 @@ public:
     /// Deletes the view and the content in it.
     ~HRWidget() override;
 
+    /// Null where there is none, or where it is gone.
     HRManager *manager() const;
+    /// What shows the content; null before setView().
     HRView *view() const;
 
     /// Takes the view over and deletes the one before it.
@@ -60,6 +62,7 @@ public:
     /// Ends a fade-out, so that the popup stays; does nothing otherwise.
     void cancelHiding();
 
+    /// Shows or hides the popup without a fade.
     void setVisible(bool visible) override;
 
     // Others may find these slots by their order.
@@ -77,8 +80,11 @@ public Q_SLOTS:
     /// Top and left are corrected first, bottom and right last: what is larger than the screen
     /// keeps its lower right corner in sight.
     void reposition();
+    /// Fades the popup out as the setting hideAnimationDurationKey says, then hides it.
     void hideAnimated();
+    /// Resets the state of the scene and hides the popup at once.
     void hideAnimationFinished();
+    /// Shows the popup and fades it in as the setting showAnimationDurationKey says.
     void showAnimated();
 
     /// Starts the time until the popup hides anew, unless its view is to stay open.
@@ -95,7 +101,9 @@ public Q_SLOTS:
     QRect findVisibleGeometry(QRect geometry, bool *move = nullptr);
 
 protected:
+    /// Starts the time until the popup hides, and what works only while it shows.
     void showEvent(QShowEvent *event) override;
+    /// Ends what showEvent() has started, and takes back the override cursors of QML.
     void hideEvent(QHideEvent *event) override;
 
 private:
