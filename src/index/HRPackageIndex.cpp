@@ -45,10 +45,10 @@ struct HRPackageIndexPrivate
     QString path; // of the database's file, as the settings gave it when it was opened
     std::optional<HRDigestTable> store; // none while the database is closed
     QString directory; // the one whose files are being indexed, with its slash
-    HRDirectoryDigest snapshot; // of that directory
-    bool isChanged = false; // whether the snapshot differs from the stored one
+    HRDirectoryDigest digest; // of that directory
+    bool isChanged = false; // whether the digest differs from the stored one
     bool willSave = false;
-    bool isDamaged = false;
+    bool isCorrupt = false;
     bool isRebuilt = false;
 };
 
@@ -67,10 +67,10 @@ bool HRPackageIndex::open()
 {
     leaveDirectory();
     d->store.reset();
-    d->isDamaged = false;
+    d->isCorrupt = false;
     if (HRSQLiteIndex::open())
         return true;
-    if (!d->isDamaged || d->isRebuilt)
+    if (!d->isCorrupt || d->isRebuilt)
         return false;
     rebuild();
     return d->store.has_value();
@@ -83,9 +83,9 @@ bool HRPackageIndex::setup()
     d->store.emplace(database());
     if (d->store->isUsable())
         return true;
-    d->isDamaged = d->store->isDamaged();
-    if (d->isDamaged)
-        holdDamagedFile();
+    d->isCorrupt = d->store->isCorrupt();
+    if (d->isCorrupt)
+        holdCorruptFile();
     d->store.reset();
     return false;
 }
@@ -200,7 +200,7 @@ bool HRPackageIndex::recall(
     HRControlRecord &record, std::string_view name, const HRFileStamp &stamp)
 {
     HRStoredFile file;
-    record.isSettled = d->snapshot.find(name, stamp, file);
+    record.isSettled = d->digest.find(name, stamp, file);
     record.stamp = stamp;
     if (!record.isSettled) {
         const qint64 now = nanosecondsNow();
@@ -210,9 +210,9 @@ bool HRPackageIndex::recall(
         file.stamp = record.stamp;
         file.digest = record.digest;
         if (isSettled(file.stamp, now))
-            d->snapshot.put(name, file);
+            d->digest.put(name, file);
         else
-            d->snapshot.remove(name);
+            d->digest.remove(name);
         d->isChanged = true;
     } else {
         record.digest = std::move(file.digest);
@@ -228,12 +228,12 @@ void HRPackageIndex::enterDirectory(const QString &directory)
     d->directory = directory;
     const QByteArray stored = d->store ? d->store->load(d->directory) : QByteArray();
     if (!stored.isEmpty()) {
-        std::optional<HRDirectoryDigest> snapshot = HRDirectoryDigest::decoded(stored);
-        d->isDamaged = !snapshot;
-        if (snapshot)
-            d->snapshot = std::move(*snapshot);
+        std::optional<HRDirectoryDigest> digest = HRDirectoryDigest::decoded(stored);
+        d->isCorrupt = !digest;
+        if (digest)
+            d->digest = std::move(*digest);
     }
-    rebuildIfDamaged();
+    rebuildIfCorrupt();
     saveSoon();
 }
 
@@ -241,15 +241,15 @@ void HRPackageIndex::leaveDirectory()
 {
     if (d->directory.isEmpty())
         return;
-    for (const QByteArray &name : d->snapshot.untouched()) {
+    for (const QByteArray &name : d->digest.untouched()) {
         if (stampOfFile(QFile::encodeName(d->directory) + name))
             continue;
-        d->snapshot.remove({ name.constData(), size_t(name.size()) });
+        d->digest.remove({ name.constData(), size_t(name.size()) });
         d->isChanged = true;
     }
     if (d->store && d->isChanged)
-        d->store->save(d->directory, d->snapshot.encoded());
-    d->snapshot = HRDirectoryDigest();
+        d->store->save(d->directory, d->digest.encoded());
+    d->digest = HRDirectoryDigest();
     d->directory.clear();
     d->isChanged = false;
 }
@@ -273,26 +273,26 @@ void HRPackageIndex::saveNow()
     leaveDirectory();
     if (d->store)
         d->store->flush();
-    rebuildIfDamaged();
+    rebuildIfCorrupt();
 }
 
-void HRPackageIndex::rebuildIfDamaged()
+void HRPackageIndex::rebuildIfCorrupt()
 {
-    d->isDamaged = d->isDamaged || (d->store && d->store->isDamaged());
-    if (d->isDamaged)
+    d->isCorrupt = d->isCorrupt || (d->store && d->store->isCorrupt());
+    if (d->isCorrupt)
         rebuild();
 }
 
-/// Once in a run: a disk that damages what was just written is not worth a second try.
+/// Once in a run: a disk that corrupts what was just written is not worth a second try.
 void HRPackageIndex::rebuild()
 {
-    d->isDamaged = false;
+    d->isCorrupt = false;
     d->store.reset();
     if (database().isValid())
-        holdDamagedFile();
+        holdCorruptFile();
     closeDatabase();
     if (d->isRebuilt)
-        removeDamagedFile();
+        removeCorruptFile();
     else
         openAnew(d->path);
 }

@@ -23,7 +23,7 @@ struct HRPackageIndexPrivate;
 /// next look-up, packages are mapped, and files without a locale serve every locale.
 ///
 /// The database is written between events while the program runs; nothing depends on close().
-/// Several processes may share it. A damaged one is made anew, which one line in Qt's debug output
+/// Several processes may share it. A corrupt one is made anew, which one line in Qt's debug output
 /// tells; without any, the index works from memory. The settings clearIndexKey and
 /// removeIndexOnCloseKey are not read. The file lies in the setting persistentDirectoryKey, else in
 /// the user's cache location, under the setting indexFileNameKey, else as
@@ -68,7 +68,7 @@ private:
     void leaveDirectory();
     void saveSoon();
     void saveNow();
-    void rebuildIfDamaged();
+    void rebuildIfCorrupt();
     void rebuild();
 
     std::unique_ptr<HRPackageIndexPrivate> d;

@@ -114,7 +114,7 @@ bool HRSQLiteIndex::open()
     const QString path = databaseFilePath();
     if (path.isEmpty())
         return false;
-    return openAt(path) || (d->database.isDamaged() && openAnew(path));
+    return openAt(path) || (d->database.isCorrupt() && openAnew(path));
 }
 
 bool HRSQLiteIndex::setup()
@@ -137,7 +137,7 @@ bool HRSQLiteIndex::setup()
         QSqlQuery(d->database.handle()).exec(QLatin1String(pragma));
     if (!setting(context(), clearIndexKey, true))
         QSqlQuery(d->database.handle()).exec(QLatin1String(JournalOnDisk));
-    return made && !d->database.isDamaged();
+    return made && !d->database.isCorrupt();
 }
 
 bool HRSQLiteIndex::clear()
@@ -281,22 +281,22 @@ bool HRSQLiteIndex::isOwnPlace(const QString &) const
     return false;
 }
 
-// A process that is killed while it fills the database may leave it damaged; without a new one no
+// A process that is killed while it fills the database may leave it corrupt; without a new one no
 // later start would come through.
 bool HRSQLiteIndex::openAnew(const QString &path)
 {
-    removeDamagedFile();
+    removeCorruptFile();
     return openAt(path);
 }
 
-void HRSQLiteIndex::holdDamagedFile()
+void HRSQLiteIndex::holdCorruptFile()
 {
-    d->database.holdDamagedFile();
+    d->database.holdCorruptFile();
 }
 
-void HRSQLiteIndex::removeDamagedFile()
+void HRSQLiteIndex::removeCorruptFile()
 {
-    d->database.removeDamagedFile();
+    d->database.removeCorruptFile();
 }
 
 QSqlDatabase HRSQLiteIndex::database() const
@@ -310,7 +310,7 @@ bool HRSQLiteIndex::openAt(const QString &path)
         = setting(context(), indexConnectionKey, QStringLiteral("__Hintreels_Index__"));
     qDebug().noquote() << printable(QStringLiteral("Creating index database in ") + path);
     if (!d->database.open(connection, path, tableNames(), isOwnPlace(path))) {
-        if (!d->database.isDamaged())
+        if (!d->database.isCorrupt())
             qDebug().noquote() << "Could not open index database. Index will be disabled";
         return false;
     }

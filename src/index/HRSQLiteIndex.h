@@ -93,11 +93,11 @@ protected:
     virtual bool isOwnPlace(const QString &path) const;
 
     /// To be called when the open database is found damaged: keeps hold of its file.
-    void holdDamagedFile();
+    void holdCorruptFile();
 
     /// Deletes the file of a database that was found damaged; what another process has put in its
     /// place stays.
-    void removeDamagedFile();
+    void removeCorruptFile();
 
     /// Deletes a database that is damaged, and opens a new one, or that which another process has
     /// made meanwhile.

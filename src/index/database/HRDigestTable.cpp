@@ -43,14 +43,14 @@ QByteArray HRDigestTable::load(const QString &directory)
 {
     if (!std::exchange(m_isRead, true))
         readAll();
-    return m_snapshots.value(directory);
+    return m_digests.value(directory);
 }
 
-void HRDigestTable::save(const QString &directory, const QByteArray &snapshot)
+void HRDigestTable::save(const QString &directory, const QByteArray &digest)
 {
-    m_snapshots.insert(directory, snapshot);
-    m_unsaved.insert(directory, snapshot);
-    m_unsavedBytes += snapshot.size();
+    m_digests.insert(directory, digest);
+    m_unsaved.insert(directory, digest);
+    m_unsavedBytes += digest.size();
     if (m_unsavedBytes > mostUnsavedBytes)
         write();
 }
@@ -58,7 +58,7 @@ void HRDigestTable::save(const QString &directory, const QByteArray &snapshot)
 void HRDigestTable::flush()
 {
     write();
-    m_snapshots.clear();
+    m_digests.clear();
     m_isRead = false;
 }
 
@@ -85,7 +85,7 @@ void HRDigestTable::write()
 
 void HRDigestTable::clear()
 {
-    m_snapshots.clear();
+    m_digests.clear();
     m_unsaved.clear();
     m_unsavedBytes = 0;
     QSqlQuery query(m_database);
@@ -122,17 +122,17 @@ void HRDigestTable::readAll()
     if (!run(query))
         return;
     while (query.next())
-        m_snapshots.insert(query.value(0).toString(), query.value(1).toByteArray());
-    m_isDamaged = m_isDamaged || isDamage(query.lastError());
+        m_digests.insert(query.value(0).toString(), query.value(1).toByteArray());
+    m_isCorrupt = m_isCorrupt || isCorruption(query.lastError());
 }
 
 bool HRDigestTable::run(QSqlQuery &query)
 {
     if (query.exec())
         return true;
-    m_isDamaged = m_isDamaged || isDamage(query.lastError());
+    m_isCorrupt = m_isCorrupt || isCorruption(query.lastError());
     // Whoever holds the database now may hold it for long, and there is a query for each directory.
-    if (isRefusal(query.lastError()))
+    if (isBusy(query.lastError()))
         QSqlQuery(m_database).exec(QStringLiteral("PRAGMA busy_timeout=0"));
     return false;
 }

@@ -12,9 +12,9 @@
 
 namespace Hintreels {
 
-/// The table that keeps a snapshot of each control directory across runs.
+/// The table that keeps a digest of each control directory across runs.
 ///
-/// Snapshots are written many at a time, each whole, so that what another process reads always
+/// Digests are written many at a time, each whole, so that what another process reads always
 /// stands for itself. What cannot be written, because another process is writing, is dropped: it
 /// is only read again in the next run. Another's lock is waited for once.
 class HRDigestTable
@@ -28,11 +28,11 @@ public:
     /// False where the table could not be made.
     bool isUsable() const { return m_isUsable; }
 
-    /// The directory's snapshot, empty where there is none.
+    /// The directory's digest, empty where there is none.
     QByteArray load(const QString &directory);
 
-    /// Takes a snapshot to be written soon.
-    void save(const QString &directory, const QByteArray &snapshot);
+    /// Takes a digest to be written soon.
+    void save(const QString &directory, const QByteArray &digest);
 
     /// Writes what was saved, and gives back the memory that loading took.
     void flush();
@@ -44,7 +44,7 @@ public:
     void removeMissing();
 
     /// Whether SQLite has called the database corrupt.
-    bool isDamaged() const { return m_isDamaged; }
+    bool isCorrupt() const { return m_isCorrupt; }
 
 private:
     bool makeTable();
@@ -54,12 +54,12 @@ private:
     QStringList missingDirectories();
 
     QSqlDatabase m_database;
-    QHash<QString, QByteArray> m_snapshots; // as they are loaded and saved until the next flush
+    QHash<QString, QByteArray> m_digests; // as they are loaded and saved until the next flush
     QHash<QString, QByteArray> m_unsaved;
     int m_unsavedBytes = 0;
     bool m_isRead = false;
     bool m_isUsable = false;
-    bool m_isDamaged = false;
+    bool m_isCorrupt = false;
 };
 
 } // namespace Hintreels

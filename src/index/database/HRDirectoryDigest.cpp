@@ -12,7 +12,7 @@ namespace Hintreels {
 
 namespace {
 
-// A snapshot is the format's number, the checksum of all that follows, and the entries.
+// A digest is the format's number, the checksum of all that follows, and the entries.
 constexpr quint32 format = 1;
 constexpr int headSize = sizeof(quint32) + sizeof(quint64);
 
@@ -142,15 +142,15 @@ std::string_view HRDirectoryDigest::Slot::name() const
 
 std::optional<HRDirectoryDigest> HRDirectoryDigest::decoded(const QByteArray &bytes)
 {
-    HRDirectoryDigest snapshot;
+    HRDirectoryDigest digest;
     if (bytes.size() < headSize)
         return std::nullopt;
     if (qFromLittleEndian<quint32>(bytes.constData()) != format)
-        return snapshot;
-    snapshot.m_loaded = bytes;
-    if (!snapshot.split())
+        return digest;
+    digest.m_loaded = bytes;
+    if (!digest.split())
         return std::nullopt;
-    return snapshot;
+    return digest;
 }
 
 QByteArray HRDirectoryDigest::encoded() const
@@ -204,7 +204,7 @@ std::vector<QByteArray> HRDirectoryDigest::untouched() const
     return names;
 }
 
-/// Cuts the loaded bytes into entries; false where they are damaged.
+/// Cuts the loaded bytes into entries; false where they are corrupt.
 bool HRDirectoryDigest::split()
 {
     std::string_view rest(m_loaded.constData(), size_t(m_loaded.size()));

@@ -32,7 +32,7 @@ public:
     HRDirectoryDigest(HRDirectoryDigest &&) = default;
     HRDirectoryDigest &operator=(HRDirectoryDigest &&) = default;
 
-    /// Nothing where the bytes are damaged. Bytes of another format are an empty snapshot.
+    /// Nothing where the bytes are corrupt. Bytes of another format are an empty digest.
     static std::optional<HRDirectoryDigest> decoded(const QByteArray &bytes);
 
     QByteArray encoded() const;

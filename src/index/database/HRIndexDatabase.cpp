@@ -85,13 +85,13 @@ void reportSqlError(const char *message, const QSqlError &error)
     qDebug().noquote() << printable(QLatin1String(message) + error.text());
 }
 
-bool isDamage(const QSqlError &error)
+bool isCorruption(const QSqlError &error)
 {
     const int code = primaryCode(error);
     return code == corruptCode || code == noDatabaseCode;
 }
 
-bool isRefusal(const QSqlError &error)
+bool isBusy(const QSqlError &error)
 {
     return primaryCode(error) == busyCode;
 }
@@ -115,9 +115,9 @@ bool HRIndexDatabase::open(
 {
     close();
     m_isOwnPlace = isOwnPlace;
-    m_isDamaged = false;
-    m_damagedFile.reset();
-    m_wasRefused = false;
+    m_isCorrupt = false;
+    m_corruptFile.reset();
+    m_wasBusy = false;
     m_isFailing = false;
     m_haste = QDeadlineTimer();
     m_handle = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection);
@@ -148,17 +148,17 @@ void HRIndexDatabase::close()
         QSqlDatabase::removeDatabase(connection);
 }
 
-void HRIndexDatabase::holdDamagedFile()
+void HRIndexDatabase::holdCorruptFile()
 {
-    if (!m_damagedFile && m_found)
-        m_damagedFile.emplace(m_handle.databaseName(), *m_found);
+    if (!m_corruptFile && m_found)
+        m_corruptFile.emplace(m_handle.databaseName(), *m_found);
 }
 
-void HRIndexDatabase::removeDamagedFile()
+void HRIndexDatabase::removeCorruptFile()
 {
-    if (m_damagedFile)
-        m_damagedFile->remove();
-    m_damagedFile.reset();
+    if (m_corruptFile)
+        m_corruptFile->remove();
+    m_corruptFile.reset();
     forgetFile();
 }
 
@@ -166,11 +166,11 @@ bool HRIndexDatabase::isSound()
 {
     QSqlQuery query(m_handle);
     if (!query.exec(QStringLiteral("PRAGMA integrity_check(1)"))) {
-        noteDamage(isDamage(query.lastError()));
-        return !isDamage(query.lastError());
+        noteCorruption(isCorruption(query.lastError()));
+        return !isCorruption(query.lastError());
     }
     const bool isSound = !query.next() || query.value(0).toString() == QLatin1String("ok");
-    noteDamage(!isSound);
+    noteCorruption(!isSound);
     return isSound;
 }
 
@@ -179,7 +179,7 @@ bool HRIndexDatabase::execute(const char *statement, const char *message)
     QSqlQuery query(m_handle);
     if (query.exec(QLatin1String(statement)))
         return true;
-    noteDamage(isDamage(query.lastError()));
+    noteCorruption(isCorruption(query.lastError()));
     reportSqlError(message, query.lastError());
     return false;
 }
@@ -189,18 +189,18 @@ bool HRIndexDatabase::lock(const char *message)
     if (m_isFailing && !m_haste.hasExpired())
         return false;
     const bool isLocked
-        = (!m_wasRefused || isFree(message)) && !isRefusal(ask("BEGIN IMMEDIATE", message));
-    m_wasRefused = !isLocked;
+        = (!m_wasBusy || isFree(message)) && !isBusy(ask("BEGIN IMMEDIATE", message));
+    m_wasBusy = !isLocked;
     return isLocked;
 }
 
 bool HRIndexDatabase::commit(const char *message)
 {
     const QSqlError error = ask("COMMIT", message);
-    m_wasRefused = isRefusal(error);
-    m_isFailing = error.isValid() && !m_wasRefused;
+    m_wasBusy = isBusy(error);
+    m_isFailing = error.isValid() && !m_wasBusy;
     if (m_isFailing) {
-        noteDamage(isDamage(error));
+        noteCorruption(isCorruption(error));
         reportSqlError(message, error);
         m_haste.setRemainingTime(hasteMilliseconds);
     }
@@ -209,17 +209,17 @@ bool HRIndexDatabase::commit(const char *message)
     return !error.isValid();
 }
 
-/// Whether nobody else, readers included, holds the database. Asked for before everything that was
-/// refused is written anew.
+/// Whether nobody else, readers included, holds the database. Asked for before everything that it
+/// was too busy for is written anew.
 bool HRIndexDatabase::isFree(const char *message)
 {
-    if (isRefusal(ask("BEGIN EXCLUSIVE", message)))
+    if (isBusy(ask("BEGIN EXCLUSIVE", message)))
         return false;
     ask("COMMIT", message);
     return true;
 }
 
-/// Runs a statement that may meet another's lock, and reports a refusal that it has waited for.
+/// Runs a statement that may find the database busy, and reports it where it has waited.
 QSqlError HRIndexDatabase::ask(const char *statement, const char *message)
 {
     const bool hurries = !m_haste.hasExpired();
@@ -230,7 +230,7 @@ QSqlError HRIndexDatabase::ask(const char *statement, const char *message)
     query.finish();
     if (hurries)
         QSqlQuery(m_handle).exec(waitForLocks);
-    else if (isRefusal(error)) {
+    else if (isBusy(error)) {
         reportSqlError(message, error);
         m_haste.setRemainingTime(hasteMilliseconds);
     }
@@ -252,7 +252,7 @@ bool HRIndexDatabase::holdsOnly(const QStringList &tables)
 {
     QSqlQuery query(m_handle);
     if (!query.exec(QStringLiteral("SELECT type, name, sql FROM sqlite_master"))) {
-        noteDamage(isDamage(query.lastError()));
+        noteCorruption(isCorruption(query.lastError()));
         return false;
     }
     bool isEmpty = true;
@@ -281,12 +281,12 @@ bool HRIndexDatabase::isOurs() const
         && stamp->device == m_opened->device;
 }
 
-void HRIndexDatabase::noteDamage(bool isDamage)
+void HRIndexDatabase::noteCorruption(bool isCorruption)
 {
-    if (!isDamage || m_isDamaged || !isOurs())
+    if (!isCorruption || m_isCorrupt || !isOurs())
         return;
-    m_isDamaged = true;
-    holdDamagedFile();
+    m_isCorrupt = true;
+    holdCorruptFile();
 }
 
 qint64 HRIndexDatabase::pragma(const char *statement)

@@ -24,10 +24,10 @@ namespace Hintreels {
 void reportSqlError(const char *message, const QSqlError &error);
 
 /// Whether SQLite calls the database corrupt, or no database.
-bool isDamage(const QSqlError &error);
+bool isCorruption(const QSqlError &error);
 
 /// Whether another connection held the database locked for longer than we wait.
-bool isRefusal(const QSqlError &error);
+bool isBusy(const QSqlError &error);
 
 /// Marks a database as ours in its header; one that carries another's mark keeps it.
 /// @return false where SQLite refused, which is in @p query then
@@ -65,7 +65,7 @@ public:
     /// Takes the lock for writing, to be given back by commit(); false only where another holds it,
     /// and for a second after a commit that failed for any other reason.
     ///
-    /// After a refusal locks are not waited for, nor their refusals reported, for a second.
+    /// Once busy, the database is not waited for, nor reported as busy, for a second.
     bool lock(const char *message);
 
     /// False where nothing of what was written stays, for instance because another reads on.
@@ -73,15 +73,15 @@ public:
 
     /// Whether SQLite has called the database corrupt since it was opened last, and the file is
     /// ours so that it may be made anew.
-    bool isDamaged() const { return m_isDamaged; }
+    bool isCorrupt() const { return m_isCorrupt; }
 
-    /// Keeps hold of the file, which somebody else has found damaged. To be called while it is
+    /// Keeps hold of the file, which somebody else has found corrupt. To be called while it is
     /// open.
-    void holdDamagedFile();
+    void holdCorruptFile();
 
-    /// Deletes the file that was found damaged; one that another process has put in its place
+    /// Deletes the file that was found corrupt; one that another process has put in its place
     /// stays.
-    void removeDamagedFile();
+    void removeCorruptFile();
 
     /// To be called when the file was deleted: another one may take its place.
     void forgetFile() { m_opened.reset(); }
@@ -90,7 +90,7 @@ private:
     bool holdsOnly(const QStringList &tables);
     bool holdsNothing();
     bool isOurs() const;
-    void noteDamage(bool isDamage);
+    void noteCorruption(bool isCorruption);
     qint64 pragma(const char *statement);
     bool isFree(const char *message);
     QSqlError ask(const char *statement, const char *message);
@@ -99,11 +99,11 @@ private:
     QSqlDatabase m_handle;
     std::map<std::string_view, QSqlQuery> m_prepared; // by statement; gone while closed
     bool m_isOwnPlace = false;
-    bool m_isDamaged = false;
+    bool m_isCorrupt = false;
     std::optional<HRFileStamp> m_found; // before it was opened
-    std::optional<HRDoomedFile> m_damagedFile;
+    std::optional<HRDoomedFile> m_corruptFile;
     std::optional<HRFileStamp> m_opened; // of the file that was last found to be ours
-    bool m_wasRefused = false; // the last lock or commit, by another's lock
+    bool m_wasBusy = false; // the last lock or commit, by another's lock
     bool m_isFailing = false; // the last commit did, for another reason
     QDeadlineTimer m_haste; // until then nothing waits for a lock
 };

@@ -28,8 +28,8 @@ void HRIndexUpdate::begin()
 {
     m_expectedFile.clear();
     m_isBegun = m_database.lock("Could not query package table:");
-    m_isRefused = !m_isBegun;
-    if (m_isRefused)
+    m_isBusy = !m_isBegun;
+    if (m_isBusy)
         return;
     m_rows.refresh();
     if (m_preparedAtSchema != m_rows.schemaVersion()) {
@@ -50,11 +50,11 @@ void HRIndexUpdate::expect(const QString &filePath)
 
 bool HRIndexUpdate::store(const HRIndexEntry &entry)
 {
-    if (!m_isRefused && write(entry)) {
+    if (!m_isBusy && write(entry)) {
         m_stored.push_back(entry);
         return true;
     }
-    if (m_isRefused)
+    if (m_isBusy)
         m_held.add(entry);
     return false;
 }
@@ -107,7 +107,7 @@ bool HRIndexUpdate::write(const HRIndexEntry &entry)
         return true;
     }
     // In a transaction that the host has begun itself, writing asks for the lock.
-    m_isRefused = isRefusal(m_replaceItem.lastError());
+    m_isBusy = isBusy(m_replaceItem.lastError());
     reportSqlError("Could not insert item:", m_replaceItem.lastError());
     return false;
 }
@@ -128,9 +128,9 @@ std::optional<int> HRIndexUpdate::insertPackage(const HRIndexEntry &entry)
     const bool isInserted = m_insertPackage.exec();
     if (!isInserted) {
         reportSqlError("Could not insert package:", m_insertPackage.lastError());
-        m_isRefused = isRefusal(m_insertPackage.lastError());
+        m_isBusy = isBusy(m_insertPackage.lastError());
     }
-    if (m_isRefused)
+    if (m_isBusy)
         return std::nullopt;
     const int row = insertedRow(entry.filePath);
     if (isInserted) {

@@ -63,7 +63,7 @@ private:
     std::vector<HRIndexEntry> m_stored; // in this transaction
     QString m_expectedFile;
     bool m_isBegun = false; // a transaction is
-    bool m_isRefused = false; // by another's lock, from then on until the end
+    bool m_isBusy = false; // by another's lock, from then on until the end
 };
 
 } // namespace Hintreels
