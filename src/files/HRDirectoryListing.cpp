@@ -10,6 +10,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <cstddef>
 #include <string_view>
 #include <utility>
 
@@ -98,6 +99,7 @@ void sortIgnoringCase(std::vector<HRListedFile> &files)
 } // namespace
 
 HRDirectoryListing::HRDirectoryListing(const QString &directory, const QByteArray &suffix)
+    : m_path(directory)
 {
     if (directory.startsWith(u':')) {
         const QStringList names
@@ -128,6 +130,12 @@ std::optional<HRFileStamp> HRDirectoryListing::stampOfReadable(const HRListedFil
         || !isReadable(m_descriptor, name, status))
         return std::nullopt;
     return stampOf(status);
+}
+
+void HRDirectoryListing::keepFirst(size_t count)
+{
+    if (count < m_files.size())
+        m_files.erase(m_files.begin() + std::ptrdiff_t(count), m_files.end());
 }
 
 void HRDirectoryListing::list(const QByteArray &suffix)

@@ -36,7 +36,13 @@ public:
     ~HRDirectoryListing();
     Q_DISABLE_COPY(HRDirectoryListing)
 
+    /// As it was given, with its slash.
+    const QString &directory() const { return m_path; }
+
     const std::vector<HRListedFile> &files() const { return m_files; }
+
+    /// Forgets all files but the first ones.
+    void keepFirst(size_t count);
 
     /// A listed file's name as the operating system spells it.
     const char *nativeName(const HRListedFile &file) const
@@ -57,6 +63,7 @@ private:
     void list(const QByteArray &suffix);
     void add(const QString &name, const char *nativeName);
 
+    QString m_path;
     DIR *m_directory = nullptr;
     int m_descriptor = -1; // owned by m_directory
     std::vector<HRListedFile> m_files;

@@ -15,19 +15,56 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
+#include <QScopedValueRollback>
 
 namespace Hintreels {
 
-void HRIndexPrivate::follow(HRContext *settings, HRIndex *index)
+HRIndexPrivate &HRIndexPrivate::of(HRIndex &index)
+{
+    return *index.d;
+}
+
+void HRIndexPrivate::follow(HRContext *settings)
 {
     context = settings;
     if (!settings)
         return;
     QObject::connect(
-        settings, &HRContext::settingDidChange, index, [this](const HRContextKey &key) {
+        settings, &HRContext::settingDidChange, &index, [this](const HRContextKey &key) {
             if (key == packageSuffixKey)
-                prepared.mappedPackage.clear();
+                m_mappedPackage.clear();
         });
+}
+
+void HRIndexPrivate::indexListing(
+    const HRDirectoryListing &listing, const QString &packagePath, const Wanted &isWanted)
+{
+    HRListedControlFile file;
+    // A host's indexControlFile() may index another listing.
+    const QScopedValueRollback<HRListedControlFile *> outer(m_listed, &file);
+    for (const HRListedFile &entry : listing.files()) {
+        file.path.resize(0); // keeps its memory
+        file.path += listing.directory();
+        file.path += entry.name;
+        file.name = entry.name;
+        file.nativeName = listing.nativeName(entry);
+        if (look(listing, entry) && isWanted(file.path, file.stamp))
+            index.indexControlFile(file.path, packagePath);
+    }
+    m_mappedPackage.clear();
+}
+
+/// Looks at a file in the cheapest way that serves indexControlFile(); false where it may not be
+/// read.
+bool HRIndexPrivate::look(const HRDirectoryListing &listing, const HRListedFile &entry)
+{
+    if (!opensListedFiles) {
+        m_listed->stamp = listing.stampOfReadable(entry);
+    } else {
+        const HRRegularFile &file = m_listed->file.emplace(listing, entry);
+        m_listed->stamp = file.isOpen() ? std::optional(file.stamp()) : std::nullopt;
+    }
+    return m_listed->stamp || listing.hasResources();
 }
 
 bool HRIndexPrivate::isControlFile(const QString &path)
@@ -38,9 +75,10 @@ bool HRIndexPrivate::isControlFile(const QString &path)
             && probe.isControlFile(
                 [&](char *buffer, qint64 size) { return resource.read(buffer, size); });
     }
-    if (prepared.file && prepared.is(path)) {
-        const bool answer = isControlFile(*prepared.file);
-        prepared.file.reset();
+    HRListedControlFile *known = listed(path);
+    if (known && known->file) {
+        const bool answer = isControlFile(*known->file);
+        known->file.reset();
         return answer;
     }
     HRRegularFile file(QFile::encodeName(path));
@@ -50,8 +88,17 @@ bool HRIndexPrivate::isControlFile(const QString &path)
 HRControlRecord HRIndexPrivate::record(const QString &path, int levels) const
 {
     const QString &directory = depth.directory();
-    const QString name = prepared.is(path) ? prepared.listed->name : path.mid(directory.size());
-    return { directory, name, levels };
+    const HRListedControlFile *known = listed(path);
+    return { directory, known ? known->name : path.mid(directory.size()), levels };
+}
+
+void HRIndexPrivate::mapPackageOf(const QString &filePath, const QString &packagePath)
+{
+    const bool isListed = listed(filePath);
+    if (isListed && packagePath == m_mappedPackage)
+        return;
+    index.mapControlFile(QString(), packagePath);
+    m_mappedPackage = isListed ? packagePath : QString();
 }
 
 bool HRIndexPrivate::isControlFile(HRRegularFile &file)
@@ -60,9 +107,9 @@ bool HRIndexPrivate::isControlFile(HRRegularFile &file)
 }
 
 HRIndex::HRIndex(HRContext *context, const QStringList &paths)
-    : d(new HRIndexPrivate)
+    : d(new HRIndexPrivate(*this))
 {
-    d->follow(context, this);
+    d->follow(context);
     d->paths = paths;
 }
 
@@ -71,7 +118,7 @@ HRIndex::~HRIndex() = default;
 HRContext &HRIndex::context()
 {
     if (!d->context)
-        d->follow(new HRContext(this), this);
+        d->follow(new HRContext(this));
     return *d->context;
 }
 
@@ -157,7 +204,7 @@ void HRIndex::indexControlFile(const QString &filePath, const QString &packagePa
     if (!depth || !d->isControlFile(filePath))
         return;
     if (d->records.addFirst(d->record(filePath, *depth)))
-        mapPackageOf(filePath, packagePath);
+        d->mapPackageOf(filePath, packagePath);
 }
 
 HRXmlElement *HRIndex::load(
@@ -242,21 +289,6 @@ int HRIndex::indexDataShouldGenerateElement(const QString &tag, const QXmlAttrib
 {
     const bool isIndexed = tag == QLatin1String("hintreels") || tag == QLatin1String("hintreel");
     return isIndexed ? askForChildren : dropElement;
-}
-
-bool HRIndex::prepare(const HRDirectoryListing &listing, const HRListedFile &file)
-{
-    d->prepared.file.emplace(listing, file);
-    return listing.hasResources() || d->prepared.file->isOpen();
-}
-
-void HRIndex::mapPackageOf(const QString &filePath, const QString &packagePath)
-{
-    const bool isScanned = d->prepared.is(filePath);
-    if (isScanned && packagePath == d->prepared.mappedPackage)
-        return;
-    mapControlFile(QString(), packagePath);
-    d->prepared.mappedPackage = isScanned ? packagePath : QString();
 }
 
 bool HRIndex::isInUpdate() const

@@ -17,10 +17,8 @@ class QXmlAttributes;
 
 namespace Hintreels {
 
-class HRDirectoryListing;
 class HRXmlElement;
 struct HRIndexPrivate;
-struct HRListedFile;
 
 /// Answers which control file holds a key's content for a locale, and loads that content.
 ///
@@ -131,18 +129,9 @@ protected:
     /// Whether an update has begun and not ended.
     bool isInUpdate() const;
 
-    /// What the index knows in memory, for the indexes of this library.
-    HRIndexPrivate &memory() { return *d; }
-
-    /// Maps the package of a file that was taken in; of those that a scan names, once a directory.
-    void mapPackageOf(const QString &filePath, const QString &packagePath);
-
 private:
-    friend class HRPackageScanner;
+    friend struct HRIndexPrivate;
 
-    /// Looks at a file that a scan is about to name, in the cheapest way that serves
-    /// indexControlFile(); false where it may not be read.
-    virtual bool prepare(const HRDirectoryListing &listing, const HRListedFile &file);
     QStringList findComponentPaths(
         const QString &package, const QString &search, const QString &relativePath) const;
 

@@ -3,19 +3,15 @@
 
 #include "index/HRPackageIndex.h"
 
-#include "content/HRXmlElement.h"
 #include "context/HRContext.h"
 #include "context/setting_p.h"
 #include "index/HRIndex_p.h"
-#include "index/database/HRDigestTable_p.h"
-#include "index/database/HRDirectoryDigest_p.h"
+#include "index/database/HRDigestDatabase_p.h"
 
 #include <QDebug>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QLocale>
-#include <QSqlDatabase>
 #include <QStandardPaths>
 
 #include <optional>
@@ -38,24 +34,89 @@ bool makeDirectory(const QString &path)
     return !path.isEmpty() && QDir().mkpath(path);
 }
 
+/// Absolute path of the file to open; empty, after a message, where there is no directory for it.
+QString databaseFilePath(const HRContext &context)
+{
+    QString directory = setting(context, persistentDirectoryKey, QString());
+    if (directory.isEmpty() || !QFileInfo(directory).isDir())
+        directory = defaultDirectory();
+    if (!makeDirectory(directory)) {
+        qDebug().noquote() << "No cache directory. Cannot create index database. Index will be "
+                              "kept in memory";
+        return QString();
+    }
+    const QString name = setting(context, indexFileNameKey, QString());
+    return QDir(directory).absoluteFilePath(name.isEmpty() ? defaultName : name);
+}
+
+/// Where the database lies. A file that HRSQLiteIndex has filled may serve this index, too.
+HRDatabasePlace databasePlace(const HRContext &context)
+{
+    HRDatabasePlace place;
+    place.path = databaseFilePath(context);
+    place.connection = indexConnection(context);
+    place.tables = QStringList{ QStringLiteral("packages"), QStringLiteral("hintreels"),
+        HRDigestDatabase::tableName() };
+    place.isOwn = place.path == QDir(defaultDirectory()).absoluteFilePath(defaultName);
+    return place;
+}
+
 } // namespace
 
 struct HRPackageIndexPrivate
 {
-    QString path; // of the database's file, as the settings gave it when it was opened
-    std::optional<HRDigestTable> store; // none while the database is closed
-    QString directory; // the one whose files are being indexed, with its slash
-    HRDirectoryDigest digest; // of that directory
-    bool isChanged = false; // whether the digest differs from the stored one
+    HRPackageIndexPrivate(HRPackageIndex &index, HRIndexPrivate &base)
+        : memory(base)
+        , digests([&index] { return index.setup(); })
+    {
+    }
+
+    /// What is known of a file without a look at it, or else after one; false where it is no
+    /// control file.
+    bool recall(HRControlRecord &record, std::string_view name, const HRFileStamp &stamp);
+
+    /// The same after a look at the file, which is then known.
+    bool learn(HRControlRecord &record, std::string_view name);
+
+    HRIndexPrivate &memory;
+    HRDigestDatabase digests;
     bool willSave = false;
-    bool isCorrupt = false;
-    bool isRebuilt = false;
 };
 
-HRPackageIndex::HRPackageIndex(HRContext *context, const QStringList &paths)
-    : HRSQLiteIndex(context, paths)
-    , d(new HRPackageIndexPrivate)
+bool HRPackageIndexPrivate::recall(
+    HRControlRecord &record, std::string_view name, const HRFileStamp &stamp)
 {
+    HRStoredFile file;
+    record.stamp = stamp;
+    record.isSettled = digests.find(name, stamp, file);
+    if (!record.isSettled)
+        return learn(record, name);
+    record.digest = std::move(file.digest);
+    return file.isControlFile;
+}
+
+bool HRPackageIndexPrivate::learn(HRControlRecord &record, std::string_view name)
+{
+    HRStoredFile file;
+    const qint64 now = nanosecondsNow();
+    file.isControlFile = memory.isControlFile(record.path());
+    if (file.isControlFile && !memory.reader.read(record))
+        return false;
+    file.stamp = record.stamp;
+    file.digest = record.digest;
+    if (isSettled(file.stamp, now))
+        digests.put(name, file);
+    else
+        digests.drop(name);
+    return file.isControlFile;
+}
+
+HRPackageIndex::HRPackageIndex(HRContext *context, const QStringList &paths)
+    : HRIndex(context, paths)
+    , d(new HRPackageIndexPrivate(*this, HRIndexPrivate::of(*this)))
+{
+    // What the stamps of a listing tell is enough for most files.
+    d->memory.opensListedFiles = false;
 }
 
 HRPackageIndex::~HRPackageIndex()
@@ -65,193 +126,58 @@ HRPackageIndex::~HRPackageIndex()
 
 bool HRPackageIndex::open()
 {
-    leaveDirectory();
-    d->store.reset();
-    d->isCorrupt = false;
-    if (HRSQLiteIndex::open())
-        return true;
-    if (!d->isCorrupt || d->isRebuilt)
-        return false;
-    rebuild();
-    return d->store.has_value();
+    HRIndex::open();
+    HRIndex::endUpdate();
+    return d->digests.open(databasePlace(context()));
 }
 
 bool HRPackageIndex::setup()
 {
-    if (!database().isValid())
-        return true;
-    d->store.emplace(database());
-    if (d->store->isUsable())
-        return true;
-    d->isCorrupt = d->store->isCorrupt();
-    if (d->isCorrupt)
-        holdCorruptFile();
-    d->store.reset();
-    return false;
+    return d->digests.setUp();
 }
 
 bool HRPackageIndex::clear()
 {
     HRIndex::clear();
-    d->directory.clear();
-    if (d->store)
-        d->store->clear();
+    d->digests.clear();
     return true;
 }
 
 bool HRPackageIndex::close()
 {
-    saveNow();
-    d->store.reset();
-    closeDatabase();
+    d->digests.close();
+    HRIndex::endUpdate();
     return true;
 }
 
 bool HRPackageIndex::remove()
 {
-    d->store.reset();
-    return HRSQLiteIndex::remove();
-}
-
-HRXmlElement *HRPackageIndex::retrieve(
-    const QString &key, const QLocale &locale, QString &directory, int &depth, HRXmlElement *&root)
-{
-    return HRIndex::retrieve(key, locale, directory, depth, root);
-}
-
-bool HRPackageIndex::store(
-    HRXmlElement *entry, const QLocale &locale, const QString &filePath, int depth)
-{
-    return HRIndex::store(entry, locale, filePath, depth);
-}
-
-void HRPackageIndex::startUpdate()
-{
-    HRIndex::startUpdate();
-}
-
-void HRPackageIndex::endUpdate()
-{
+    d->digests.remove();
     HRIndex::endUpdate();
-}
-
-QStringList HRPackageIndex::keys()
-{
-    return HRIndex::keys();
+    return true;
 }
 
 void HRPackageIndex::indexControlFile(const QString &filePath, const QString &packagePath)
 {
-    const std::optional<int> depth = memory().levels(filePath, packagePath);
+    const std::optional<int> depth = d->memory.levels(filePath, packagePath);
     if (!depth)
         return;
-    HRControlRecord record = memory().record(filePath, *depth);
-    enterDirectory(record.directory);
-    const bool isPrepared = memory().prepared.is(filePath);
+    HRControlRecord record = d->memory.record(filePath, *depth);
+    if (d->digests.enter(record.directory))
+        saveSoon();
+    const HRListedControlFile *listed = d->memory.listed(filePath);
     const std::optional<HRFileStamp> stamp
-        = isPrepared ? memory().prepared.stamp : stampOfFile(record.directory, record.name);
+        = listed ? listed->stamp : stampOfFile(record.directory, record.name);
     if (!stamp) {
         HRIndex::indexControlFile(filePath, packagePath); // it may be a Qt resource
         return;
     }
-    const QByteArray encoded = isPrepared ? QByteArray() : QFile::encodeName(record.name);
-    const std::string_view name = isPrepared
-        ? memory().prepared.nativeName
+    const QByteArray encoded = listed ? QByteArray() : QFile::encodeName(record.name);
+    const std::string_view name = listed
+        ? listed->nativeName
         : std::string_view(encoded.constData(), size_t(encoded.size()));
-    if (recall(record, name, *stamp) && memory().records.addFirst(std::move(record)))
-        mapPackageOf(filePath, packagePath);
-}
-
-QString HRPackageIndex::databaseFilePath()
-{
-    QString directory = setting(context(), persistentDirectoryKey, QString());
-    if (directory.isEmpty() || !QFileInfo(directory).isDir())
-        directory = defaultDirectory();
-    if (!makeDirectory(directory)) {
-        qDebug().noquote() << "No cache directory. Cannot create index database. Index will be "
-                              "kept in memory";
-        return QString();
-    }
-    const QString name = setting(context(), indexFileNameKey, QString());
-    d->path = QDir(directory).absoluteFilePath(name.isEmpty() ? defaultName : name);
-    return d->path;
-}
-
-QStringList HRPackageIndex::tableNames() const
-{
-    return HRSQLiteIndex::tableNames() << HRDigestTable::tableName();
-}
-
-bool HRPackageIndex::isOwnPlace(const QString &path) const
-{
-    return path == QDir(defaultDirectory()).absoluteFilePath(defaultName);
-}
-
-bool HRPackageIndex::openAnew(const QString &path)
-{
-    qDebug().noquote() << "Index database is damaged. It is made anew";
-    d->isRebuilt = true;
-    return HRSQLiteIndex::openAnew(path);
-}
-
-/// Fills a record from the database or, where that knows another state of the file, from the file;
-/// false where it is no control file.
-bool HRPackageIndex::recall(
-    HRControlRecord &record, std::string_view name, const HRFileStamp &stamp)
-{
-    HRStoredFile file;
-    record.isSettled = d->digest.find(name, stamp, file);
-    record.stamp = stamp;
-    if (!record.isSettled) {
-        const qint64 now = nanosecondsNow();
-        file.isControlFile = memory().isControlFile(record.path());
-        if (file.isControlFile && !memory().reader.read(record))
-            return false;
-        file.stamp = record.stamp;
-        file.digest = record.digest;
-        if (isSettled(file.stamp, now))
-            d->digest.put(name, file);
-        else
-            d->digest.remove(name);
-        d->isChanged = true;
-    } else {
-        record.digest = std::move(file.digest);
-    }
-    return file.isControlFile;
-}
-
-void HRPackageIndex::enterDirectory(const QString &directory)
-{
-    if (directory == d->directory)
-        return;
-    leaveDirectory();
-    d->directory = directory;
-    const QByteArray stored = d->store ? d->store->load(d->directory) : QByteArray();
-    if (!stored.isEmpty()) {
-        std::optional<HRDirectoryDigest> digest = HRDirectoryDigest::decoded(stored);
-        d->isCorrupt = !digest;
-        if (digest)
-            d->digest = std::move(*digest);
-    }
-    rebuildIfCorrupt();
-    saveSoon();
-}
-
-void HRPackageIndex::leaveDirectory()
-{
-    if (d->directory.isEmpty())
-        return;
-    for (const QByteArray &name : d->digest.untouched()) {
-        if (stampOfFile(QFile::encodeName(d->directory) + name))
-            continue;
-        d->digest.remove({ name.constData(), size_t(name.size()) });
-        d->isChanged = true;
-    }
-    if (d->store && d->isChanged)
-        d->store->save(d->directory, d->digest.encoded());
-    d->digest = HRDirectoryDigest();
-    d->directory.clear();
-    d->isChanged = false;
+    if (d->recall(record, name, *stamp) && d->memory.records.addFirst(std::move(record)))
+        d->memory.mapPackageOf(filePath, packagePath);
 }
 
 /// Nobody tells when a scan is over; the first event after it does.
@@ -261,40 +187,10 @@ void HRPackageIndex::saveSoon()
         return;
     const auto save = [this] {
         d->willSave = false;
-        saveNow();
-        if (d->store)
-            d->store->removeMissing();
+        d->digests.save();
+        d->digests.removeMissing();
     };
     QMetaObject::invokeMethod(this, save, Qt::QueuedConnection);
-}
-
-void HRPackageIndex::saveNow()
-{
-    leaveDirectory();
-    if (d->store)
-        d->store->flush();
-    rebuildIfCorrupt();
-}
-
-void HRPackageIndex::rebuildIfCorrupt()
-{
-    d->isCorrupt = d->isCorrupt || (d->store && d->store->isCorrupt());
-    if (d->isCorrupt)
-        rebuild();
-}
-
-/// Once in a run: a disk that corrupts what was just written is not worth a second try.
-void HRPackageIndex::rebuild()
-{
-    d->isCorrupt = false;
-    d->store.reset();
-    if (database().isValid())
-        holdCorruptFile();
-    closeDatabase();
-    if (d->isRebuilt)
-        removeCorruptFile();
-    else
-        openAnew(d->path);
 }
 
 } // namespace Hintreels

@@ -3,15 +3,12 @@
 
 #pragma once
 
-#include "index/HRSQLiteIndex.h"
+#include "index/HRIndex.h"
 
 #include <memory>
-#include <string_view>
 
 namespace Hintreels {
 
-struct HRControlRecord;
-struct HRFileStamp;
 struct HRPackageIndexPrivate;
 
 /// An index for many packages: it answers as HRIndex does, and starts in about the time of a walk
@@ -27,8 +24,9 @@ struct HRPackageIndexPrivate;
 /// tells; without any, the index works from memory. The settings clearIndexKey and
 /// removeIndexOnCloseKey are not read. The file lies in the setting persistentDirectoryKey, else in
 /// the user's cache location, under the setting indexFileNameKey, else as
-/// HintreelsPackages.sqlite.
-class HINTREELS_EXPORT HRPackageIndex : public HRSQLiteIndex
+/// HintreelsPackages.sqlite. Two indexes with the same connection name (the setting
+/// indexConnectionKey) must not be open at once.
+class HINTREELS_EXPORT HRPackageIndex : public HRIndex
 {
     Q_OBJECT
 
@@ -46,30 +44,10 @@ public:
     bool close() override;
     bool remove() override;
 
-    HRXmlElement *retrieve(const QString &key, const QLocale &locale, QString &directory,
-        int &depth, HRXmlElement *&root) override;
-    bool store(
-        HRXmlElement *entry, const QLocale &locale, const QString &filePath, int depth) override;
-    void startUpdate() override;
-    /// Ends what startUpdate() began.
-    void endUpdate() override;
-    QStringList keys() override;
     void indexControlFile(const QString &filePath, const QString &packagePath) override;
 
-protected:
-    QString databaseFilePath() override;
-    QStringList tableNames() const override;
-    bool isOwnPlace(const QString &path) const override;
-    bool openAnew(const QString &path) override;
-
 private:
-    bool recall(HRControlRecord &record, std::string_view name, const HRFileStamp &stamp);
-    void enterDirectory(const QString &directory);
-    void leaveDirectory();
     void saveSoon();
-    void saveNow();
-    void rebuildIfCorrupt();
-    void rebuild();
 
     std::unique_ptr<HRPackageIndexPrivate> d;
 };

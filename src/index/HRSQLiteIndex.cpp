@@ -9,8 +9,8 @@
 #include "context/setting_p.h"
 #include "index/HRIndex_p.h"
 #include "index/control/HRControlTree_p.h"
+#include "index/database/HRCacheDatabase_p.h"
 #include "index/database/HRHeldEntries_p.h"
-#include "index/database/HRIndexDatabase_p.h"
 #include "index/database/HRIndexLookup_p.h"
 #include "index/database/HRIndexUpdate_p.h"
 
@@ -51,12 +51,49 @@ bool isUsableDirectory(const QString &path)
     return !path.isEmpty() && QFileInfo(path).isDir();
 }
 
+/// Absolute path of the file to open; empty, after a message, where the settings give none.
+QString databaseFilePath(const HRContext &context)
+{
+    QString directory = setting(context, persistentDirectoryKey, QString());
+    if (!isUsableDirectory(directory))
+        directory = QDir::tempPath();
+    if (directory.isEmpty() || !QFileInfo::exists(directory)) {
+        qDebug().noquote() << "No persistent temp directory. Cannot create index database. Index "
+                              "will be disabled";
+        return QString();
+    }
+    QString name = setting(context, indexFileNameKey, QString());
+    if (name.isEmpty()) {
+        const QString application = setting(context, applicationNameKey, QString());
+        if (application.isEmpty()) {
+            qDebug().noquote() << "No Application name. Cannot create index database. Index will "
+                                  "be disabled";
+            return QString();
+        }
+        name = QStringLiteral("%1_%2_HRI.sqlite")
+                   .arg(setting(context, organizationNameKey, QStringLiteral("Zentora")),
+                       application);
+    }
+    return QDir(directory).absoluteFilePath(name);
+}
+
+HRDatabasePlace databasePlace(const HRContext &context)
+{
+    HRDatabasePlace place;
+    place.path = databaseFilePath(context);
+    place.connection = indexConnection(context);
+    place.tables = QStringList{ QStringLiteral("packages"), QStringLiteral("hintreels") };
+    return place;
+}
+
 } // namespace
 
 struct HRSQLiteIndexPrivate
 {
-    HRIndexDatabase database;
-    QString path; // survives closing, so that the file can still be removed
+    explicit HRSQLiteIndexPrivate(HRSQLiteIndex &index);
+
+    HRCacheDatabase cache;
+    HRIndexDatabase &database = cache.connection();
     HRHeldEntries held; // none while closed
     std::optional<HRIndexLookup> lookup; // this and all that follows is gone while closed
     std::optional<HRIndexUpdate> update;
@@ -66,7 +103,20 @@ struct HRSQLiteIndexPrivate
 
     /// One row's key for each key and locale that is not held, then the keys that are.
     QStringList keys();
+
+    /// To be called before the database is closed: queries go before their connection.
+    void letGo();
 };
+
+HRSQLiteIndexPrivate::HRSQLiteIndexPrivate(HRSQLiteIndex &index)
+    : cache([this, &index] {
+        if (index.setup())
+            return true;
+        letGo();
+        return false;
+    })
+{
+}
 
 std::optional<HRIndexLookup::File> HRSQLiteIndexPrivate::find(
     const QString &key, const QString &locale)
@@ -95,10 +145,19 @@ QStringList HRSQLiteIndexPrivate::keys()
     return keys + held.keys();
 }
 
+void HRSQLiteIndexPrivate::letGo()
+{
+    update.reset();
+    held.clear();
+    lookup.reset();
+}
+
 HRSQLiteIndex::HRSQLiteIndex(HRContext *context, const QStringList &paths)
     : HRIndex(context, paths)
-    , d(new HRSQLiteIndexPrivate)
+    , d(new HRSQLiteIndexPrivate(*this))
 {
+    // Every file is parsed, by its path.
+    HRIndexPrivate::of(*this).opensListedFiles = false;
 }
 
 HRSQLiteIndex::~HRSQLiteIndex()
@@ -110,11 +169,7 @@ bool HRSQLiteIndex::open()
 {
     HRIndex::open();
     closeDatabase();
-    d->path.clear();
-    const QString path = databaseFilePath();
-    if (path.isEmpty())
-        return false;
-    return openAt(path) || (d->database.isCorrupt() && openAnew(path));
+    return d->cache.open(databasePlace(context())) || (d->cache.isCorrupt() && d->cache.openAnew());
 }
 
 bool HRSQLiteIndex::setup()
@@ -168,8 +223,7 @@ bool HRSQLiteIndex::remove()
 {
     // Not by way of close(), which calls this.
     closeDatabase();
-    if (!d->path.isEmpty() && QFile::remove(d->path))
-        d->database.forgetFile();
+    d->cache.remove();
     return true;
 }
 
@@ -219,15 +273,9 @@ QStringList HRSQLiteIndex::keys()
     return d->database.isOpen() ? d->keys() : HRIndex::keys();
 }
 
-bool HRSQLiteIndex::prepare(const HRDirectoryListing &listing, const HRListedFile &file)
-{
-    memory().prepared.stamp = listing.stampOfReadable(file);
-    return listing.hasResources() || memory().prepared.stamp;
-}
-
 void HRSQLiteIndex::indexControlFile(const QString &filePath, const QString &packagePath)
 {
-    const std::optional<int> depth = memory().levels(filePath, packagePath);
+    const std::optional<int> depth = HRIndexPrivate::of(*this).levels(filePath, packagePath);
     if (!depth)
         return;
     const HRControlTree tree(filePath, indexDataShouldGenerateElement, nullptr);
@@ -246,82 +294,6 @@ void HRSQLiteIndex::indexControlFile(const QString &filePath, const QString &pac
     endUpdate();
 }
 
-QString HRSQLiteIndex::databaseFilePath()
-{
-    QString directory = setting(context(), persistentDirectoryKey, QString());
-    if (!isUsableDirectory(directory))
-        directory = QDir::tempPath();
-    if (directory.isEmpty() || !QFileInfo::exists(directory)) {
-        qDebug().noquote() << "No persistent temp directory. Cannot create index database. Index "
-                              "will be disabled";
-        return QString();
-    }
-    QString name = setting(context(), indexFileNameKey, QString());
-    if (name.isEmpty()) {
-        const QString application = setting(context(), applicationNameKey, QString());
-        if (application.isEmpty()) {
-            qDebug().noquote() << "No Application name. Cannot create index database. Index will "
-                                  "be disabled";
-            return QString();
-        }
-        name = QStringLiteral("%1_%2_HRI.sqlite")
-                   .arg(setting(context(), organizationNameKey, QStringLiteral("Zentora")),
-                       application);
-    }
-    return QDir(directory).absoluteFilePath(name);
-}
-
-QStringList HRSQLiteIndex::tableNames() const
-{
-    return { QStringLiteral("packages"), QStringLiteral("hintreels") };
-}
-
-bool HRSQLiteIndex::isOwnPlace(const QString &) const
-{
-    return false;
-}
-
-// A process that is killed while it fills the database may leave it corrupt; without a new one no
-// later start would come through.
-bool HRSQLiteIndex::openAnew(const QString &path)
-{
-    removeCorruptFile();
-    return openAt(path);
-}
-
-void HRSQLiteIndex::holdCorruptFile()
-{
-    d->database.holdCorruptFile();
-}
-
-void HRSQLiteIndex::removeCorruptFile()
-{
-    d->database.removeCorruptFile();
-}
-
-QSqlDatabase HRSQLiteIndex::database() const
-{
-    return d->database.handle();
-}
-
-bool HRSQLiteIndex::openAt(const QString &path)
-{
-    const QString connection
-        = setting(context(), indexConnectionKey, QStringLiteral("__Hintreels_Index__"));
-    qDebug().noquote() << printable(QStringLiteral("Creating index database in ") + path);
-    if (!d->database.open(connection, path, tableNames(), isOwnPlace(path))) {
-        if (!d->database.isCorrupt())
-            qDebug().noquote() << "Could not open index database. Index will be disabled";
-        return false;
-    }
-    d->path = path;
-    if (setup())
-        return true;
-    closeDatabase();
-    d->path.clear(); // never to be removed: it may be another's
-    return false;
-}
-
 /// A last try, for the runs that follow.
 void HRSQLiteIndex::storeHeld()
 {
@@ -333,12 +305,9 @@ void HRSQLiteIndex::storeHeld()
 
 void HRSQLiteIndex::closeDatabase()
 {
-    // Queries go before their connection.
-    d->update.reset();
+    d->letGo();
     HRIndex::endUpdate();
-    d->held.clear();
-    d->lookup.reset();
-    d->database.close();
+    d->cache.close();
 }
 
 } // namespace Hintreels

@@ -7,8 +7,6 @@
 
 #include <memory>
 
-class QSqlDatabase;
-
 namespace Hintreels {
 
 struct HRSQLiteIndexPrivate;
@@ -81,38 +79,9 @@ public:
     /// Parses a control file and stores its entries, in an update of its own if there is none.
     void indexControlFile(const QString &filePath, const QString &packagePath) override;
 
-protected:
-    /// Absolute path of the file to open; empty, after a message, where the settings give none.
-    virtual QString databaseFilePath();
-
-    /// The tables that may stand in the database.
-    virtual QStringList tableNames() const;
-
-    /// Whether whatever lies at a path is ours, so that it may be made anew when it is damaged,
-    /// even where nothing in it tells.
-    virtual bool isOwnPlace(const QString &path) const;
-
-    /// To be called when the open database is found damaged: keeps hold of its file.
-    void holdCorruptFile();
-
-    /// Deletes the file of a database that was found damaged; what another process has put in its
-    /// place stays.
-    void removeCorruptFile();
-
-    /// Deletes a database that is damaged, and opens a new one, or that which another process has
-    /// made meanwhile.
-    virtual bool openAnew(const QString &path);
-
-    /// The open database; invalid while none is open.
-    QSqlDatabase database() const;
-
-    /// Closes the database and drops its connection; queries of subclasses must be gone.
-    void closeDatabase();
-
 private:
-    bool prepare(const HRDirectoryListing &listing, const HRListedFile &file) override;
-    bool openAt(const QString &path);
     void storeHeld();
+    void closeDatabase();
 
     std::unique_ptr<HRSQLiteIndexPrivate> d;
 };

@@ -61,7 +61,7 @@ HRPackageScanner::HRPackageScanner(
     , m_refuse(std::move(refuse))
 {
     // The index may live for longer.
-    m_index.memory().reader.setJudge(
+    HRIndexPrivate::of(m_index).reader.setJudge(
         [this, life = std::weak_ptr<bool>(m_life)](
             const QString &path, qint64 size) { return life.expired() || mayRead(path, size); });
 }
@@ -108,25 +108,20 @@ void HRPackageScanner::indexFiles(const QFileInfo &directory, const QString &pac
     const QString canonicalPath = directory.canonicalFilePath();
     if (canonicalPath.isEmpty())
         return;
-    const QString place = canonicalPath + u'/';
-    const HRDirectoryListing listing(place, ".xml");
+    HRDirectoryListing listing(canonicalPath + u'/', ".xml");
+    dropExcess(listing, packagePath);
     // Asked once: the text for each of thousands of files costs more than the rest of its scan.
     const bool isReported
         = setting(m_context, messageLevelKey, int(messageWarning)) >= int(messageInformation);
     const bool isJudged = packageRules(m_context).fromStrangers;
-    HRPreparedFile &prepared = m_index.memory().prepared;
-    const size_t count = filesWithin(listing, canonicalPath, packagePath);
-    for (size_t i = 0; i < count; ++i) {
-        const HRListedFile &file = listing.files()[i];
-        prepared.expect(place, listing, file);
-        if ((isJudged && isTooLarge(listing, file, prepared.path))
-            || !m_index.prepare(listing, file))
-            continue;
+    const auto isWanted = [&](const QString &path, const std::optional<HRFileStamp> &stamp) {
+        if (isJudged && stamp && !mayRead(path, stamp->size))
+            return false;
         if (isReported)
-            m_report(QStringLiteral("found control file :") + prepared.path);
-        m_index.indexControlFile(prepared.path, packagePath);
-    }
-    prepared.forget();
+            m_report(QStringLiteral("found control file :") + path);
+        return true;
+    };
+    HRIndexPrivate::of(m_index).indexListing(listing, packagePath, isWanted);
 }
 
 /// Each file that may not be read is told of once.
@@ -142,29 +137,21 @@ bool HRPackageScanner::mayRead(const QString &path, qint64 size) const
     return false;
 }
 
-/// How many of a directory's files are indexed: all but those that strangers have too many of.
-size_t HRPackageScanner::filesWithin(
-    const HRDirectoryListing &listing, const QString &directory, const QString &package) const
+/// Leaves the files out of a listing that strangers have too many of.
+void HRPackageScanner::dropExcess(HRDirectoryListing &listing, const QString &package) const
 {
-    const size_t count = listing.files().size();
     if (!packageRules(m_context).fromStrangers)
-        return count;
-    if (levelsBetween(package, directory) > deepestLevel) {
+        return;
+    if (levelsBetween(package, listing.directory()) > deepestLevel) {
         m_refuse(QStringLiteral("Package %1: control files lie more than %2 levels deep")
                      .arg(package, QString::number(deepestLevel)));
-        return 0;
+        listing.keepFirst(0);
     }
+    const size_t count = listing.files().size();
     if (count > mostFiles)
         m_refuse(QStringLiteral("Package %1: only the first %2 of %3 control files are read")
                      .arg(package, QString::number(mostFiles), QString::number(count)));
-    return std::min(count, mostFiles);
-}
-
-bool HRPackageScanner::isTooLarge(
-    const HRDirectoryListing &listing, const HRListedFile &file, const QString &path) const
-{
-    const std::optional<HRFileStamp> stamp = listing.stampOfReadable(file);
-    return stamp && !mayRead(path, stamp->size);
+    listing.keepFirst(mostFiles);
 }
 
 } // namespace Hintreels

@@ -19,7 +19,6 @@ namespace Hintreels {
 
 class HRDirectoryListing;
 class HRIndex;
-struct HRListedFile;
 
 /// Finds the packages in data paths and hands their control files to an index.
 ///
@@ -48,10 +47,7 @@ private:
     bool mayRead(const QString &path, qint64 size) const;
     void scanDataPath(const QString &path);
     void indexFiles(const QFileInfo &directory, const QString &packagePath);
-    size_t filesWithin(
-        const HRDirectoryListing &listing, const QString &directory, const QString &package) const;
-    bool isTooLarge(
-        const HRDirectoryListing &listing, const HRListedFile &file, const QString &path) const;
+    void dropExcess(HRDirectoryListing &listing, const QString &package) const;
 
     const HRContext &m_context;
     HRIndex &m_index;

@@ -4,6 +4,7 @@
 #include "content/HRXmlElement.h"
 #include "failing/FailingCalls.h"
 #include "index/HRPackageIndex.h"
+#include "index/HRSQLiteIndex.h"
 #include "support/Descriptors.h"
 #include "support/Promises.h"
 #include "support/RecordingHost.h"

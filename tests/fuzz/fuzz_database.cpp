@@ -5,6 +5,7 @@
 #include "context/HRContext.h"
 #include "fuzz/FuzzTarget.h"
 #include "index/HRPackageIndex.h"
+#include "index/HRSQLiteIndex.h"
 #include "support/Promises.h"
 #include "support/TestPackage.h"
 

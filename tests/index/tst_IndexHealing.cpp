@@ -41,7 +41,7 @@ namespace {
 constexpr int PageSize = 4096;
 const QByteArray OurId("HtRl");
 
-std::unique_ptr<HRSQLiteIndex> makeIndex(HRContext &context, bool isPackageIndex)
+std::unique_ptr<HRIndex> makeIndex(HRContext &context, bool isPackageIndex)
 {
     if (isPackageIndex)
         return std::make_unique<HRPackageIndex>(&context, QStringList());

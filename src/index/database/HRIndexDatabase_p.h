@@ -46,8 +46,8 @@ public:
     /// Refuses files that others could have planted or can write to, and databases with any table
     /// but @p tables, with a trigger or with a view. An open connection of this name is replaced.
     /// @param isOwnPlace whether whatever lies at the path is ours
-    bool open(const QString &connection, const QString &path, const QStringList &tables,
-        bool isOwnPlace = false);
+    bool open(
+        const QString &connection, const QString &path, const QStringList &tables, bool isOwnPlace);
 
     /// Closes and forgets the connection; queries on the handle must be gone.
     void close();
