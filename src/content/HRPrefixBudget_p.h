@@ -30,7 +30,7 @@ public:
 private:
     QSet<QString> m_inScope;
     qint64 m_letters = 0; // of all in scope
-    qint64 m_left = 1024 * 1024 * 1024; // less than a second of comparing
+    qint64 m_left = 1024LL * 1024 * 1024; // less than a second of comparing
 };
 
 } // namespace Hintreels

@@ -41,7 +41,7 @@ void deleteDescendants(HRXmlElement *root)
         } else if (!element->children().isEmpty()) {
             delete element->children().first();
         } else {
-            HRXmlElement *parent = static_cast<HRXmlElement *>(element->parent());
+            auto *parent = static_cast<HRXmlElement *>(element->parent());
             delete element;
             element = parent;
         }
@@ -77,6 +77,7 @@ HRXmlElement *childElementNamed(const QObject *parent, const QString &name)
 
 // Placeholders in names and values are meant to be filled by what comes after them: the text that
 // results tells trees apart, and it is kept as it always was.
+// clazy:excludeall=qstring-arg
 
 QString attributeText(const HRXmlElement &element)
 {

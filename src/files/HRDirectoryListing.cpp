@@ -43,7 +43,7 @@ bool isRegularEntry(int directory, const struct dirent &entry)
 
 bool endsWith(std::string_view name, const QByteArray &suffix)
 {
-    const size_t length = size_t(suffix.size());
+    const auto length = size_t(suffix.size());
     return name.size() >= length
         && qstrnicmp(name.data() + name.size() - length, suffix.constData(), uint(length)) == 0;
 }

@@ -12,12 +12,12 @@ namespace Hintreels {
 namespace {
 
 // The name of its kind stands within the first bytes of a WebM file.
-constexpr qint64 headSize = 64;
+constexpr qint64 signatureSize = 64;
 
 QByteArray headOf(const QString &path)
 {
     QFile file;
-    return openRegularFile(file, path) ? file.read(headSize) : QByteArray();
+    return openRegularFile(file, path) ? file.read(signatureSize) : QByteArray();
 }
 
 bool isPicture(const QByteArray &head)

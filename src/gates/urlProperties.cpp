@@ -35,7 +35,8 @@ QObjectList below(const QObject *object)
 {
     QObjectList objects = object->children();
     if (const auto *item = qobject_cast<const QQuickItem *>(object)) {
-        for (QQuickItem *child : item->childItems())
+        const QList<QQuickItem *> children = item->childItems();
+        for (QQuickItem *child : children)
             objects.append(child);
     }
     return objects;
@@ -50,7 +51,8 @@ QHash<QString, QString> urlProperties(QQuickItem *scene)
     QSet<const QObject *> found{ scene };
     for (int i = 0; i < objects.size(); ++i) {
         addProperties(*objects.at(i), properties);
-        for (const QObject *object : below(objects.at(i))) {
+        const QObjectList next = below(objects.at(i));
+        for (const QObject *object : next) {
             if (found.contains(object))
                 continue;
             found.insert(object);

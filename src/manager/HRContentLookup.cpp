@@ -61,7 +61,7 @@ HRXmlElement *HRContentLookup::retrieve(
         element = m_index.retrieve(key, fallbackLocale(), path, depth, root);
     if (element)
         m_report(QStringLiteral("Retrieved %1 in %2 seconds")
-                     .arg(key, QString::number(timer.elapsed() / 1000.0)));
+                     .arg(key, QString::number(double(timer.elapsed()) / 1000.0)));
     return element;
 }
 

@@ -109,7 +109,7 @@ HRManager::HRManager(
     timer.start();
     loadDataPath(dataPaths);
     handleMessage(messageInformation,
-        QStringLiteral("Indexed packages in %1 seconds").arg(timer.elapsed() / 1000.0));
+        QStringLiteral("Indexed packages in %1 seconds").arg(double(timer.elapsed()) / 1000.0));
 
     registerQmlTypes();
     if (qApp && setting(d->context, applicationFilterKey, false)) {
@@ -379,7 +379,7 @@ QString HRManager::hintreelAttribute(
         return valueOf(*reserved);
     const std::shared_ptr<HRManagerPrivate> work = d;
     HRFoundContent found = work->lookup.find(key);
-    const QString value = found.element ? valueOf(*found.element) : defaultValue;
+    QString value = found.element ? valueOf(*found.element) : defaultValue;
     found.discard();
     return value;
 }
@@ -389,7 +389,7 @@ int HRManager::getScaledSize(int size) const
     if (d->scale == 0.0F)
         return size;
     // Clamped below the limits of int, which single precision cannot hold exactly.
-    constexpr float limit = float(std::numeric_limits<int>::max() - 127);
+    constexpr auto limit = float(std::numeric_limits<int>::max() - 127);
     return int(qBound(-limit, d->scale * float(size), limit));
 }
 

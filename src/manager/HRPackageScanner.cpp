@@ -42,7 +42,7 @@ QFileInfoList packagesIn(const QDir &directory, const QString &suffix)
 }
 
 // What the control files of strangers may take of the host's time.
-constexpr qint64 largestFile = 8 * 1024 * 1024; // bytes
+constexpr qint64 largestControlFile = 8LL * 1024 * 1024; // bytes
 constexpr size_t mostFiles = 2000;
 constexpr int deepestLevel = 20; // below the package
 
@@ -81,7 +81,8 @@ void HRPackageScanner::scanDataPath(const QString &path)
     const QString filter = u'*' + suffix;
     m_report(QStringLiteral("indexing packages (%2) in %1 ").arg(directory.absolutePath(), filter));
 
-    for (const QFileInfo &package : packagesIn(directory, suffix))
+    const QFileInfoList packages = packagesIn(directory, suffix);
+    for (const QFileInfo &package : packages)
         scanPackage(package);
 
     const QString canonicalPath = directory.canonicalPath();
@@ -127,12 +128,12 @@ void HRPackageScanner::indexFiles(const QFileInfo &directory, const QString &pac
 /// Each file that may not be read is told of once.
 bool HRPackageScanner::mayRead(const QString &path, qint64 size) const
 {
-    if (size <= largestFile || !packageRules(m_context).fromStrangers)
+    if (size <= largestControlFile || !packageRules(m_context).fromStrangers)
         return true;
     if (!m_told.contains(path)) {
         m_told.insert(path);
         m_refuse(QStringLiteral("Control file %1 is larger than %2 bytes")
-                     .arg(path, QString::number(largestFile)));
+                     .arg(path, QString::number(largestControlFile)));
     }
     return false;
 }

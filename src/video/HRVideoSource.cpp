@@ -13,7 +13,7 @@ namespace Hintreels {
 namespace {
 
 constexpr unsigned long quitTime = 10000; // ms, before and after terminating
-constexpr std::chrono::milliseconds longestRest(100);
+constexpr std::chrono::milliseconds longestPause(100);
 
 } // namespace
 
@@ -216,7 +216,7 @@ void HRVideoSource::processActionQueue()
 
 void HRVideoSource::rest()
 {
-    d->changes.wait(longestRest);
+    d->changes.wait(longestPause);
 }
 
 void HRVideoSource::wake()

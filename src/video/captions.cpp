@@ -11,7 +11,7 @@ namespace Hintreels {
 
 namespace {
 
-constexpr qint64 largestFile = 100'000; // bytes: read in some 15 ms at worst, by the GUI thread
+constexpr qint64 largestCaptions = 100'000; // bytes: read in some 15 ms at worst, by the GUI thread
 
 /// Owns what the decoder allocates for one packet.
 struct DecodedText
@@ -85,7 +85,7 @@ QString decode(AVCodecContext *decoder, AVPacket *packet)
 
 QVector<HRCaption> readCaptions(const QString &path)
 {
-    if (QFileInfo(path).size() > largestFile)
+    if (QFileInfo(path).size() > largestCaptions)
         return {};
     const HRFFmpegHandle<AVFormatContext> input = openMediaFile(path, "webvtt");
     const HRFFmpegHandle<AVCodecContext> decoder = input ? openDecoder(*input) : nullptr;

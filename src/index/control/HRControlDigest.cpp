@@ -101,7 +101,7 @@ bool HRControlDigest::mayServe(quint32 key, const QLocale &wanted) const
 HRControlDigest digestByParsing(const QString &filePath)
 {
     Notes notes;
-    HRControlTree(filePath, noteElement, &notes);
+    const HRControlTree tree(filePath, noteElement, &notes);
     std::sort(notes.digest.keys.begin(), notes.digest.keys.end());
     return notes.digest;
 }

@@ -105,7 +105,7 @@ QString HRControlFileProbe::firstElement(const Read &read)
         // Searching text without "<" takes seconds where a file is megabytes of empty lines.
         if (piece.find('<') == std::string_view::npos)
             continue;
-        const QString element = startTagIn(piece);
+        QString element = startTagIn(piece);
         if (!element.isEmpty())
             return element;
     }

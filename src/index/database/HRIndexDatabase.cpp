@@ -226,7 +226,7 @@ QSqlError HRIndexDatabase::ask(const char *statement, const char *message)
     if (hurries)
         QSqlQuery(m_handle).exec(doNotWaitForLocks);
     QSqlQuery &query = prepared(statement);
-    const QSqlError error = query.exec() ? QSqlError() : query.lastError();
+    QSqlError error = query.exec() ? QSqlError() : query.lastError();
     query.finish();
     if (hurries)
         QSqlQuery(m_handle).exec(waitForLocks);

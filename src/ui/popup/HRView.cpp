@@ -278,7 +278,8 @@ void HRView::releaseOverrideCursors()
 void HRView::setDecodingPaused(bool paused)
 {
     m_decodingPaused = paused;
-    for (HRVideoComponent *clip : clipsBelow(contentItem()))
+    const auto clips = clipsBelow(contentItem());
+    for (HRVideoComponent *clip : clips)
         clip->setDecodingPaused(paused);
 }
 

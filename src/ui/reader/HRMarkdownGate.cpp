@@ -59,7 +59,7 @@ void collectPictures(const QTextBlock &block, QVector<Picture> *pictures)
 
 /// The path below the package's resources that a picture's target names; empty where it names
 /// anything else.
-QString resourcePath(const QString &target)
+QString pathInResources(const QString &target)
 {
     const QString path = QUrl::fromPercentEncoding(target.toUtf8());
     const bool elsewhere = QDir::isAbsolutePath(path) || path.contains(u':')
@@ -153,7 +153,7 @@ QUrl HRMarkdownGate::pictureIn(const QTextImageFormat &place)
 
 HRTextPicture HRMarkdownGate::find(const QString &target) const
 {
-    const QString path = resourcePath(target);
+    const QString path = pathInResources(target);
     return path.isEmpty() || !m_findPicture ? HRTextPicture() : m_findPicture(path);
 }
 

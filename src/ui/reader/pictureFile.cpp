@@ -12,7 +12,7 @@ namespace Hintreels {
 
 namespace {
 
-constexpr qint64 largestPicture = 64'000'000; // pixels
+constexpr qint64 largestArea = 64'000'000; // pixels
 
 // Files of the kernel are regular and have no size, and some block whoever reads them.
 bool isOrdinary(const QString &path)
@@ -32,7 +32,7 @@ QSize pictureSize(const QString &path)
     if (reader.format().startsWith("svg") && !isHarmlessSvg(readSvg(path)))
         return {};
     const QSize size = reader.canRead() ? reader.size() : QSize();
-    const bool fits = qint64(size.width()) * size.height() <= largestPicture;
+    const bool fits = qint64(size.width()) * size.height() <= largestArea;
     return fits && !size.isEmpty() ? size : QSize();
 }
 
