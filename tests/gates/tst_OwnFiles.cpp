@@ -59,6 +59,7 @@ private Q_SLOTS:
     void pictures_areNotKeptToPackages();
     void qml_importsListedModulesOnly_data();
     void qml_importsListedModulesOnly();
+    void qml_importsTheLibrarysModule_besideItsQmldir();
     void reader_looksAtOwnFilesOnly();
     void translations_areThePackagesOwn();
     void everything_isAllowed_byDefault();
@@ -356,6 +357,17 @@ void tst_OwnFiles::qml_importsListedModulesOnly()
         told.append(refusal("import", module));
     QCOMPARE(f.warnings(), told);
     QCOMPARE(bool(f.view()->rootObject()), refused.isEmpty());
+}
+
+void tst_OwnFiles::qml_importsTheLibrarysModule_besideItsQmldir()
+{
+    qputenv("QML2_IMPORT_PATH", HINTREELS_SOURCE_DIR "/src/ui/qml");
+    GateFixture f({ { ownFilesOnlyKey, true } });
+    f.writeUi("property HRView view", "import com.zentora.hintreels.qml 1.1");
+    f.show();
+    qunsetenv("QML2_IMPORT_PATH");
+    QCOMPARE(f.warnings(), QStringList());
+    QVERIFY(f.view()->rootObject());
 }
 
 void tst_OwnFiles::reader_looksAtOwnFilesOnly()

@@ -14,6 +14,7 @@
 #include "ui/popup/cursorShape_p.h"
 #include "ui/popup/quickRenderer_p.h"
 #include "ui/popup/sceneReach_p.h"
+#include "ui/popup/serviceTypes_p.h"
 #include "video/HRVideoComponent.h"
 
 #include <QFile>
@@ -115,6 +116,7 @@ HRView::HRView(HRManager *manager, QWindow *parent)
             &HRView::managerContextSettingDidChange);
     setFlags(Qt::FramelessWindowHint);
     setResizeMode(SizeViewToRootObject);
+    registerServiceTypes();
 }
 
 HRView::~HRView()
