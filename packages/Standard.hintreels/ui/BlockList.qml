@@ -5,12 +5,15 @@
 //
 // As many as the popup can show are there at once; the others follow bit by bit, below what the
 // reader sees, so that not even the longest hint holds up the host.
+import QtQml 2.15
 import QtQuick 2.15
 import QtQuick.Window 2.15
 
 Column {
     id: list
 
+    property Look look
+    property Hint hint
     // What the reader sees of the list: from here, so far.
     property real sightTop: 0
     property real sightHeight: 0
@@ -30,7 +33,7 @@ Column {
 
     function makeNext() {
         const slot = slots.itemAt(made++)
-        slot.make()
+        slot.make(componentOfBlock[slot.block.block])
         return slot.height + spacing
     }
 
@@ -46,23 +49,14 @@ Column {
 
     Repeater {
         id: slots
-        model: hint.blocks
+        model: list.hint.blocks
 
-        Loader {
+        BlockSlot {
             id: slot
 
-            readonly property var block: modelData
+            required property var modelData
             readonly property bool inSight:
                 height > 0 && y < list.sightTop + list.sightHeight && y + height > list.sightTop
-            property bool seen: false
-
-            // With its width from the start, a block has its height before the first frame.
-            function make() {
-                if (status === Loader.Null)
-                    setSource(list.componentOfBlock[block.block], {
-                        "block": block, "width": list.width
-                    })
-            }
 
             // Where the blocks above have only now got their heights, this one is still too high up.
             function see() {
@@ -70,6 +64,11 @@ Column {
                 seen = seen || inSight
             }
 
+            block: modelData
+            look: list.look
+            hint: list.hint
+            popupShown: list.onScreen
+            awake: list.awake
             width: list.width
             onInSightChanged: Qt.callLater(see)
         }
@@ -100,6 +99,6 @@ Column {
     Timer {
         id: leftover
         interval: 200
-        onTriggered: hintreelReader.returnMemory()
+        onTriggered: list.hint.reader.returnMemory()
     }
 }

@@ -5,6 +5,8 @@
 import QtQuick 2.15
 
 Text {
+    property Look look
+
     visible: text
     color: look.secondaryText
     font.pixelSize: look.smallSize

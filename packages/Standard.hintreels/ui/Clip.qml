@@ -6,6 +6,7 @@
 // Decoding and playing run side by side. Playback pauses by itself where it has caught up with the
 // decoder and when decoding ends, so it is started again as long as motion is wanted and there is
 // more to show. Nothing plays in a popup that is hidden.
+import QtQml 2.15
 import QtQuick 2.15
 import QtQuick.Window 2.15
 import com.zentora.hintreels.qml 1.0

@@ -7,12 +7,13 @@ import QtQuick 2.15
 Pressable {
     id: button
 
-    property var player
+    property Clip player
     property bool offered: true
     readonly property bool resting: !player.wanted
     readonly property real margin: resting ? 0 : 2 * look.step
 
-    name: player.ended ? words.playAgain : player.wanted ? words.pause : words.play
+    name: player.ended ? hint.words.playAgain
+        : player.wanted ? hint.words.pause : hint.words.play
     width: look.scaled(resting ? 44 : 28)
     height: width
     x: resting ? Math.round((parent.width - width) / 2) : margin
@@ -28,11 +29,12 @@ Pressable {
         opacity: button.offered ? 1 : 0
 
         Behavior on opacity {
-            enabled: !hintreelReader.reducedMotion()
+            enabled: !button.hint.reader.reducedMotion()
             NumberAnimation { duration: 120 }
         }
 
         Icon {
+            look: button.look
             anchors.centerIn: parent
             width: Math.round(parent.width * 0.5)
             height: width

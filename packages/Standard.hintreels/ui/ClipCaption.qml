@@ -7,6 +7,8 @@ import QtQuick 2.15
 Rectangle {
     id: caption
 
+    property Look look
+    property Hint hint
     property string source
     property real time: 0
     property bool shown: false
@@ -15,8 +17,8 @@ Rectangle {
         .map(c => c.text).join("\n")
 
     function find() {
-        for (const file of hintreelReader.captionFiles(source)) {
-            const found = hintreelReader.captions(hintreelView.findResource(file))
+        for (const file of hint.reader.captionFiles(source)) {
+            const found = hint.reader.captions(hint.view.findResource(file))
             if (found.length)
                 return found
         }
@@ -34,10 +36,10 @@ Rectangle {
     Text {
         id: label
         anchors.centerIn: parent
-        width: Math.min(implicitWidth, caption.parent.width - 8 * look.step)
-        text: hintreelReader.caption(words.content(caption.text))
+        width: Math.min(implicitWidth, caption.parent.width - 8 * caption.look.step)
+        text: caption.hint.reader.caption(caption.hint.words.content(caption.text))
         color: "#ffffff"
-        font.pixelSize: look.smallSize
+        font.pixelSize: caption.look.smallSize
         textFormat: Text.PlainText
         horizontalAlignment: Text.AlignHCenter
         wrapMode: Text.Wrap

@@ -4,11 +4,13 @@
 // Keeps a clip going where its playback has caught up with the decoder, and finds its end: once all
 // is decoded the last pictures may still be on their way, and where none came for a while, it was
 // the end.
+import QtQml 2.15
 import QtQuick 2.15
+import com.zentora.hintreels.qml 1.0
 
 Timer {
     property var player
-    property Item item
+    property HRVideoComponent item
     property int looks: 0
 
     // A clip that is decoded is closed, and its size falls back to what the item has without one.

@@ -7,6 +7,8 @@ import QtQuick 2.15
 Item {
     id: stage
 
+    property Look look
+    property Hint hint
     property var block
     readonly property alias shown: player.shown
 
@@ -15,8 +17,8 @@ Item {
         objectName: "clip"
         anchors.fill: parent
         source: stage.block.source
-        loop: stage.block.loop === "true" && !hintreelReader.reducedMotion()
-        wanted: !hintreelReader.reducedMotion()
+        loop: stage.block.loop === "true" && !stage.hint.reader.reducedMotion()
+        wanted: !stage.hint.reader.reducedMotion()
     }
 
     HoverHandler {
@@ -30,6 +32,8 @@ Item {
     }
 
     ClipCaption {
+        look: stage.look
+        hint: stage.hint
         objectName: "clipCaption"
         source: stage.block.source
         time: player.time
@@ -37,12 +41,16 @@ Item {
     }
 
     ClipButton {
+        look: stage.look
+        hint: stage.hint
         objectName: "clipButton"
         player: player
         offered: (pointer.hovered || !player.wanted || activeFocus) && !player.scrubbing
     }
 
     ProgressLine {
+        look: stage.look
+        hint: stage.hint
         objectName: "progressLine"
         player: player
         emphasized: pointer.hovered

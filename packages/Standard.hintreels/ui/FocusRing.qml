@@ -5,6 +5,8 @@
 import QtQuick 2.15
 
 Rectangle {
+    property Look look
+
     anchors.fill: parent
     anchors.margins: -look.step / 2
     visible: parent.activeFocus

@@ -1,18 +1,22 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
-// The hint reel on show, as plain values.
+// The hint reel on show, as plain values, and whom its parts ask about it.
 //
 // They outlast the element: it is deleted between two hints, and the popup must not shrink then.
-import QtQuick 2.15
+import QtQml 2.15
+import com.zentora.hintreels.qml 1.1
 
 QtObject {
-    readonly property QtObject element: hintreel
+    property HRXmlElement element
+    property HRView view
+    property HRContentReader reader
+    property Words words
     property var values: ({})
     property var blocks: []
     readonly property bool rightToLeft: values.rightToLeft === true
     readonly property string documentation:
-        hintreelView.documentationAvailable && values.documentation || ""
+        view.documentationAvailable && values.documentation || ""
 
     // All that binds to the values has them by now.
     signal taken
@@ -21,9 +25,9 @@ QtObject {
     function take() {
         if (!element)
             return
-        if (hintreelView.stayOpen)
-            hintreelView.stayOpen = false
-        values = hintreelReader.read(element, words.content)
+        if (view.stayOpen)
+            view.stayOpen = false
+        values = reader.read(element, words.content)
         // An equal list would leave all blocks as they are: a clip at its end, texts in the
         // language of before.
         blocks = []

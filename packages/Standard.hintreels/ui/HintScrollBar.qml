@@ -7,8 +7,10 @@ import QtQuick.Templates 2.15 as T
 
 T.ScrollBar {
     id: bar
-    objectName: "scrollBar"
 
+    property Look look
+
+    objectName: "scrollBar"
     implicitWidth: 3 * look.step
     padding: look.step
     minimumSize: 0.1
@@ -16,6 +18,6 @@ T.ScrollBar {
 
     contentItem: Rectangle {
         radius: width / 2
-        color: bar.pressed || bar.hovered ? look.secondaryText : look.capEdge
+        color: bar.pressed || bar.hovered ? bar.look.secondaryText : bar.look.capEdge
     }
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 // The full UI: fixed in width, as tall as its content up to what the screen allows.
+import QtQml 2.15
 import QtQuick 2.15
 import QtQuick.Window 2.15
 
@@ -29,12 +30,9 @@ Rectangle {
     LayoutMirroring.enabled: hint.rightToLeft
     LayoutMirroring.childrenInherit: true
 
-    Hint { id: hint }
-    Look { id: look }
-    Words { id: words }
-
     Page {
         id: page
+        look: look
         objectName: "page"
         anchors.fill: parent
         contentHeight: column.height + 2 * look.padding
@@ -49,12 +47,16 @@ Rectangle {
 
             Title {
                 id: title
+                look: look
+                hint: hint
                 width: parent.width
                 reserve: pin.visible ? pin.width + look.step : 0
             }
 
             BlockList {
                 id: blocks
+                look: look
+                hint: hint
                 objectName: "blocks"
                 width: parent.width
                 sightTop: page.contentY - column.y - y
@@ -62,31 +64,38 @@ Rectangle {
             }
 
             LinkRow {
+                look: look
+                hint: hint
                 objectName: "documentation"
                 anchors.left: parent.left
                 availableWidth: parent.width
                 visible: hint.documentation
-                text: words.documentation + hintreelReader.shownTarget(hint.documentation, "")
-                onTriggered: hintreelView.openExternalResource(hint.documentation)
+                text: hint.words.documentation + hint.reader.shownTarget(hint.documentation, "")
+                onTriggered: hint.view.openExternalResource(hint.documentation)
             }
         }
     }
 
     IconButton {
         id: pin
+        look: look
+        hint: hint
         objectName: "pin"
         anchors.right: parent.right
         anchors.rightMargin: look.padding - look.step
         y: Math.round(look.padding + (title.lineHeight - height) / 2)
         visible: !root.detached
-        name: words.pin
+        name: hint.words.pin
         path: "M10 2 L14 6 L11 7 L9 11 L5 7 L9 5 Z M7 9 L3 13"
-        onTriggered: hintreelView.reserved = true
+        onTriggered: hint.view.reserved = true
     }
 
     Connections {
         target: hint
-        function onTaken() { root.layOut() }
+        function onTaken() {
+            root.layOut()
+            page.contentY = 0 // what is new is read from its beginning
+        }
     }
 
     // A window has a frame of its own.
@@ -96,5 +105,16 @@ Rectangle {
         color: "transparent"
         border.width: 1
         border.color: look.line
+    }
+
+    // QML evaluates what stands last first: the element after what it is read with, and all that is
+    // shown after these two.
+    Look { id: look; view: hintreelView; reader: hintreelReader }
+    Hint {
+        id: hint
+        element: hintreel
+        view: hintreelView
+        reader: hintreelReader
+        words: Words { view: hintreelView; values: hint.values }
     }
 }

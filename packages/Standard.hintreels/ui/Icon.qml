@@ -7,6 +7,7 @@ import QtQuick 2.15
 Canvas {
     id: icon
 
+    property Look look
     property string path
     property color color: look.secondaryText
     property bool filled: false

@@ -15,12 +15,14 @@ Pressable {
 
     Rectangle {
         anchors.fill: parent
-        radius: look.radius
-        color: button.pressed ? look.line : button.hovered ? look.hover : "transparent"
+        radius: button.look.radius
+        color: button.pressed ? button.look.line
+            : button.hovered ? button.look.hover : "transparent"
     }
 
     Icon {
         id: icon
+        look: button.look
         anchors.centerIn: parent
         color: button.hovered ? look.text : look.secondaryText
     }

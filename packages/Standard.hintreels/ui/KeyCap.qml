@@ -7,6 +7,7 @@ import QtQuick 2.15
 Rectangle {
     id: cap
 
+    property Look look
     property alias text: label.text
 
     implicitWidth: Math.max(label.implicitWidth + 3 * look.step, implicitHeight)
@@ -17,15 +18,15 @@ Rectangle {
     Rectangle {
         anchors.fill: parent
         anchors.margins: 1
-        anchors.bottomMargin: look.scaled(2)
+        anchors.bottomMargin: cap.look.scaled(2)
         radius: cap.radius - 1
-        color: look.cap
+        color: cap.look.cap
 
         Text {
             id: label
             anchors.centerIn: parent
-            color: hintreelReader.readable(look.text, look.cap)
-            font.pixelSize: look.smallSize
+            color: cap.look.readable(cap.look.text, cap.look.cap)
+            font.pixelSize: cap.look.smallSize
             textFormat: Text.PlainText
         }
     }

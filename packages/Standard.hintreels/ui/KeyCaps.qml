@@ -7,9 +7,11 @@ import QtQuick 2.15
 Item {
     id: caps
 
+    property Look look
+    property Hint hint
     property string shortcut
     property real availableWidth: Infinity
-    readonly property var strokes: hintreelReader.keyCaps(shortcut)
+    readonly property var strokes: hint.reader.keyCaps(shortcut)
     readonly property real naturalWidth: {
         let sum = 0
         for (let i = 0; i < repeater.count; ++i)
@@ -30,13 +32,17 @@ Item {
         LayoutMirroring.childrenInherit: true
 
         width: parent.width
-        spacing: look.step
+        spacing: caps.look.step
 
         Repeater {
             id: repeater
             model: caps.strokes
 
             KeyStroke {
+                required property var modelData
+                required property int index
+
+                look: caps.look
                 keys: modelData
                 last: index === caps.strokes.length - 1
             }

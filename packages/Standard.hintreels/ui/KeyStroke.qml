@@ -7,6 +7,7 @@ import QtQuick 2.15
 Row {
     id: stroke
 
+    property Look look
     property var keys: []
     property bool last: true
 
@@ -16,20 +17,26 @@ Row {
         model: stroke.keys
 
         Row {
+            id: key
+
+            required property var modelData
+            required property int index
+
             spacing: stroke.spacing
 
             KeyCap {
-                text: modelData
+                look: stroke.look
+                text: key.modelData
             }
 
             Text {
-                readonly property bool lastKey: index === stroke.keys.length - 1
+                readonly property bool lastKey: key.index === stroke.keys.length - 1
 
                 visible: !lastKey || !stroke.last
-                anchors.verticalCenter: parent.verticalCenter
+                anchors.verticalCenter: key.verticalCenter
                 text: lastKey ? "," : "+"
-                color: look.secondaryText
-                font.pixelSize: look.smallSize
+                color: stroke.look.secondaryText
+                font.pixelSize: stroke.look.smallSize
                 textFormat: Text.PlainText
             }
         }

@@ -7,7 +7,7 @@ import QtQuick 2.15
 Item {
     id: row
 
-    property var block
+    property BlockSlot slot
     readonly property bool beside: caps.naturalWidth <= 0.55 * width
 
     implicitHeight: Math.max(text.height, caps.y + caps.height)
@@ -16,10 +16,10 @@ Item {
         id: text
         anchors.left: parent.left
         y: row.beside ? Math.max(0, Math.round((caps.height - contentHeight / lineCount) / 2)) : 0
-        width: row.beside ? parent.width - caps.width - 4 * look.step : parent.width
-        text: row.block.text
-        color: look.text
-        font.pixelSize: look.bodySize
+        width: row.beside ? parent.width - caps.width - 4 * row.slot.look.step : parent.width
+        text: row.slot.block.text
+        color: row.slot.look.text
+        font.pixelSize: row.slot.look.bodySize
         horizontalAlignment: Text.AlignLeft
         textFormat: Text.PlainText
         wrapMode: Text.Wrap
@@ -27,10 +27,12 @@ Item {
 
     KeyCaps {
         id: caps
+        look: row.slot.look
+        hint: row.slot.hint
         anchors.right: row.beside ? parent.right : undefined
         anchors.left: row.beside ? undefined : parent.left
-        y: row.beside || !text.text ? 0 : text.height + look.step
-        shortcut: row.block.press
+        y: row.beside || !text.text ? 0 : text.height + row.slot.look.step
+        shortcut: row.slot.block.press
         availableWidth: row.width
     }
 }

@@ -4,15 +4,20 @@
 import QtQuick 2.15
 
 Item {
-    property var block
+    id: link
+
+    property BlockSlot slot
 
     implicitHeight: row.height
 
     LinkRow {
         id: row
+        look: link.slot.look
+        hint: link.slot.hint
         anchors.left: parent.left
-        availableWidth: parent.width
-        text: block.text + hintreelReader.shownTarget(block.to, block.text)
-        onTriggered: hintreelView.openExternalResource(block.to)
+        availableWidth: link.width
+        text: link.slot.block.text
+            + hint.reader.shownTarget(link.slot.block.to, link.slot.block.text)
+        onTriggered: hint.view.openExternalResource(link.slot.block.to)
     }
 }

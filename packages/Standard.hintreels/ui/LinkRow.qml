@@ -18,9 +18,9 @@ Pressable {
     Text {
         id: label
         anchors.left: parent.left
-        width: Math.min(implicitWidth, row.availableWidth - icon.width - look.step)
-        color: look.link
-        font.pixelSize: look.bodySize
+        width: Math.min(implicitWidth, row.availableWidth - icon.width - row.look.step)
+        color: row.look.link
+        font.pixelSize: row.look.bodySize
         font.underline: row.hovered
         horizontalAlignment: Text.AlignLeft
         textFormat: Text.PlainText
@@ -29,6 +29,7 @@ Pressable {
 
     Icon {
         id: icon
+        look: row.look
         anchors.left: label.right
         anchors.leftMargin: look.step
         y: Math.round((label.contentHeight / label.lineCount - height) / 2)
@@ -38,7 +39,7 @@ Pressable {
         path: "M5 11 L11 5 M6 5 L11 5 L11 10"
         transform: Scale {
             origin.x: icon.width / 2
-            xScale: hint.rightToLeft ? -1 : 1
+            xScale: row.hint.rightToLeft ? -1 : 1
         }
     }
 }

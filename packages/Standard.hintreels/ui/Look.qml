@@ -2,13 +2,14 @@
 // SPDX-License-Identifier: MIT
 
 // Colours, type and measures of the standard UI, all taken from the host's palette and font.
-//
-// Each root file has one with the id "look", and what it is made of finds it there; it is the same
-// with "hint" and "words".
+import QtQml 2.15
 import QtQuick 2.15
-import QtQuick.Window 2.15
+import com.zentora.hintreels.qml 1.1
 
 QtObject {
+    property HRView view
+    property HRContentReader reader
+
     // The widget around the content fills the pixel that it has more with this very colour.
     readonly property color background: palette.window
     readonly property color text: readable(palette.windowText)
@@ -42,7 +43,7 @@ QtObject {
     readonly property SystemPalette palette: SystemPalette {}
 
     function scaled(size) {
-        return hintreelView.getScaledSize(Math.round(size))
+        return view.getScaledSize(Math.round(size))
     }
 
     // How wide a picture or clip is shown: as it wants, but in the width that there is.
@@ -56,7 +57,7 @@ QtObject {
         return Qt.tint(palette.window, Qt.rgba(color.r, color.g, color.b, part))
     }
 
-    function readable(color) {
-        return hintreelReader.readable(color, palette.window)
+    function readable(color, ground = palette.window) {
+        return reader.readable(color, ground)
     }
 }

@@ -2,26 +2,29 @@
 // SPDX-License-Identifier: MIT
 
 // Formatted text. Its links can be reached by keyboard, and the text copied, once it is detached.
+import QtQml 2.15
 import QtQuick 2.15
 
 TextEdit {
     id: edit
 
+    property Look look
+    property Hint hint
     property string markdown
     property color background: look.background
-    readonly property color linkColor: hintreelReader.readable(look.palette.highlight, background)
+    readonly property color linkColor: look.readable(look.palette.highlight, background)
     property int mostLinks: 100
     property var shown: ({ "links": [], "pictures": [] })
     property string linkUnderPointer
 
     function refill() {
-        shown = hintreelReader.showMarkdown(textDocument, markdown, {
+        shown = hint.reader.showMarkdown(textDocument, markdown, {
             "link": linkColor, "codeBackground": look.code, "spacing": 2 * look.step,
             "room": Qt.size(width, look.highestPicture), "links": mostLinks
-        }, hintreelView.findResource)
+        }, hint.view.findResource)
     }
 
-    color: hintreelReader.readable(look.text, background)
+    color: look.readable(look.text, background)
     font.pixelSize: look.bodySize
     horizontalAlignment: TextEdit.AlignLeft
     textFormat: TextEdit.RichText
@@ -29,14 +32,14 @@ TextEdit {
     // The space between lines stands below the last one, too.
     bottomPadding: -look.step
     readOnly: true
-    activeFocusOnPress: hintreelView.reserved
-    selectByMouse: hintreelView.reserved
+    activeFocusOnPress: hint.view.reserved
+    selectByMouse: hint.view.reserved
     selectionColor: look.palette.highlight
     selectedTextColor: look.palette.highlightedText
     Accessible.role: Accessible.StaticText
 
-    onLinkActivated: hintreelView.openExternalResource(link)
-    onLinkHovered: linkUnderPointer = link
+    onLinkActivated: link => hint.view.openExternalResource(link)
+    onLinkHovered: link => linkUnderPointer = link
     Component.onCompleted: refill()
 
     HoverHandler {
@@ -46,14 +49,14 @@ TextEdit {
 
     // Pictures that were not measured yet have no place in the text.
     Connections {
-        target: hintreelReader
+        target: edit.hint.reader
         enabled: edit.markdown.includes("![")
         function onMeasuredChanged() { Qt.callLater(edit.refill) }
     }
 
     // Once, when all colours of a new palette are there.
     Connections {
-        target: look
+        target: edit.look
         function onLinkChanged() { Qt.callLater(edit.refill) }
         function onCodeChanged() { Qt.callLater(edit.refill) }
     }
@@ -62,6 +65,8 @@ TextEdit {
         model: edit.shown.pictures
 
         TextPicture {
+            required property var modelData
+
             text: edit
             place: modelData
         }
@@ -71,6 +76,10 @@ TextEdit {
         model: edit.shown.links
 
         TextLink {
+            required property var modelData
+
+            look: edit.look
+            hint: edit.hint
             text: edit
             place: modelData
         }

@@ -7,8 +7,10 @@ import QtQuick 2.15
 Rectangle {
     id: note
 
-    property var block
-    readonly property string kind: words.noteTitles[block.kind] ? block.kind : "note"
+    property BlockSlot slot
+    readonly property Look look: slot.look
+    readonly property var titles: slot.hint.words.noteTitles
+    readonly property string kind: titles[slot.block.kind] ? slot.block.kind : "note"
     readonly property color accent: look.noteColors[kind]
 
     implicitHeight: text.y + text.height + 2 * look.step
@@ -19,9 +21,9 @@ Rectangle {
         anchors.left: parent.left
         anchors.top: parent.top
         anchors.bottom: parent.bottom
-        anchors.margins: 2 * look.step
+        anchors.margins: 2 * note.look.step
         anchors.topMargin: anchors.margins
-        width: look.scaled(3)
+        width: note.look.scaled(3)
         radius: width / 2
         color: note.accent
     }
@@ -30,23 +32,25 @@ Rectangle {
         id: title
         anchors.left: text.left
         anchors.right: text.right
-        y: 2 * look.step
-        text: words.noteTitles[note.kind]
-        color: hintreelReader.readable(note.accent, note.color)
-        font.pixelSize: look.smallSize
-        font.weight: look.strong
+        y: 2 * note.look.step
+        text: note.titles[note.kind]
+        color: note.look.readable(note.accent, note.color)
+        font.pixelSize: note.look.smallSize
+        font.weight: note.look.strong
         horizontalAlignment: Text.AlignLeft
         textFormat: Text.PlainText
     }
 
     MarkdownText {
         id: text
+        look: note.look
+        hint: note.slot.hint
         anchors.left: parent.left
         anchors.leftMargin: 5 * look.step
         y: title.y + title.height + look.step / 2
         width: note.width - 8 * look.step
         background: note.color
-        markdown: note.block.text
-        mostLinks: note.block.links === undefined ? 100 : note.block.links
+        markdown: note.slot.block.text
+        mostLinks: note.slot.block.links ?? 100
     }
 }

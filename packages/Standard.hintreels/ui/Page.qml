@@ -9,6 +9,7 @@ import QtQuick.Window 2.15
 Flickable {
     id: page
 
+    property Look look
     readonly property Item focusItem: Window.activeFocusItem
     readonly property real lowest: Math.max(0, contentHeight - height)
 
@@ -31,7 +32,9 @@ Flickable {
 
     boundsBehavior: Flickable.StopAtBounds
     interactive: contentHeight > height
-    T.ScrollBar.vertical: HintScrollBar {}
+    T.ScrollBar.vertical: HintScrollBar {
+        look: page.look
+    }
 
     onFocusItemChanged: {
         if (holds(focusItem))
@@ -50,11 +53,5 @@ Flickable {
         event.accepted = event.key in targets
         if (event.accepted)
             scrollTo(targets[event.key])
-    }
-
-    // What is new is read from its beginning.
-    Connections {
-        target: hint
-        function onTaken() { page.contentY = 0 }
     }
 }

@@ -4,35 +4,40 @@
 // A picture with a caption, both away where the picture cannot be shown.
 import QtQuick 2.15
 import QtQuick.Window 2.15
+import com.zentora.hintreels.qml 1.1
 
 Column {
     id: figure
 
-    property var block
-    readonly property string path: hintreelView.findResource(block.source)
-    readonly property var file: hintreelReader.measured, hintreelReader.picture(path)
+    property BlockSlot slot
+    readonly property HRContentReader reader: slot.hint.reader
+    readonly property string path: slot.hint.view.findResource(slot.block.source)
+    readonly property var file: reader.measured, reader.picture(path)
     readonly property bool shown: file.url !== undefined && picture.status !== Image.Error
 
     visible: shown
     height: shown ? implicitHeight : 0
-    spacing: look.step
+    spacing: slot.look.step
 
     Image {
         id: picture
-        anchors.horizontalCenter: parent.horizontalCenter
-        width: look.widthOf(figure.file, figure.block.width, figure.width)
+        anchors.horizontalCenter: figure.horizontalCenter
+        width: figure.slot.look.widthOf(figure.file, figure.slot.block.width, figure.width)
         height: figure.file.url ? Math.ceil(width * figure.file.height / figure.file.width) : 0
-        source: slot.seen && figure.file.url || ""
+        source: figure.slot.seen && figure.file.url || ""
         sourceSize.width: Math.ceil(width * Screen.devicePixelRatio)
         asynchronous: true
         Accessible.role: Accessible.Graphic
-        Accessible.name: figure.block.alt || ""
+        Accessible.name: figure.slot.block.alt || ""
 
-        RoundedCorners {}
+        RoundedCorners {
+            look: figure.slot.look
+        }
     }
 
     Caption {
+        look: figure.slot.look
         width: figure.width
-        text: figure.block.text
+        text: figure.slot.block.text
     }
 }

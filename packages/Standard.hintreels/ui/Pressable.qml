@@ -7,17 +7,19 @@ import QtQuick 2.15
 Item {
     id: pressable
 
+    property Look look
+    property Hint hint
     property string name
     readonly property alias hovered: area.containsMouse
     readonly property alias pressed: area.pressed
 
     signal triggered
 
-    activeFocusOnTab: hintreelView.reserved
+    activeFocusOnTab: hint.view.reserved
 
     Accessible.role: Accessible.Button
     Accessible.name: name
-    Accessible.focusable: hintreelView.reserved
+    Accessible.focusable: hint.view.reserved
     Accessible.onPressAction: triggered()
 
     Keys.onReturnPressed: triggered()
@@ -32,5 +34,7 @@ Item {
         onClicked: pressable.triggered()
     }
 
-    FocusRing {}
+    FocusRing {
+        look: pressable.look
+    }
 }

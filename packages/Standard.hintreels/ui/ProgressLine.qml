@@ -7,7 +7,9 @@ import QtQuick 2.15
 Item {
     id: line
 
-    property var player
+    property Look look
+    property Hint hint
+    property Clip player
     property bool emphasized: false
 
     // What screen readers look for in a slider.
@@ -15,6 +17,11 @@ Item {
     readonly property real minimumValue: 0
     readonly property real maximumValue: 1
     readonly property real stepSize: 0.05
+
+    function step(fraction) {
+        player.scrubTo(player.progress + fraction)
+        player.endScrubbing()
+    }
 
     // Time runs from left to right on every clip.
     LayoutMirroring.enabled: false
@@ -24,17 +31,12 @@ Item {
     anchors.right: parent.right
     anchors.bottom: parent.bottom
     height: 3 * look.step
-    activeFocusOnTab: hintreelView.reserved
+    activeFocusOnTab: hint.view.reserved
     Accessible.role: Accessible.Slider
-    Accessible.name: words.position
-    Accessible.focusable: hintreelView.reserved
+    Accessible.name: hint.words.position
+    Accessible.focusable: hint.view.reserved
     Accessible.onIncreaseAction: step(stepSize)
     Accessible.onDecreaseAction: step(-stepSize)
-
-    function step(fraction) {
-        player.scrubTo(player.progress + fraction)
-        player.endScrubbing()
-    }
 
     Keys.onLeftPressed: step(-stepSize)
     Keys.onRightPressed: step(stepSize)
@@ -43,13 +45,13 @@ Item {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.bottom: parent.bottom
-        height: line.emphasized || area.pressed ? look.scaled(5) : look.scaled(3)
+        height: line.emphasized || area.pressed ? line.look.scaled(5) : line.look.scaled(3)
         color: "#70000000"
 
         Rectangle {
             width: Math.round(parent.width * line.player.progress)
             height: parent.height
-            color: look.palette.highlight
+            color: line.look.palette.highlight
         }
     }
 
@@ -59,13 +61,14 @@ Item {
         // The page would take the drag for its own scrolling.
         preventStealing: true
         cursorShape: Qt.PointingHandCursor
-        onPressed: line.player.scrubTo(mouse.x / width)
-        onPositionChanged: line.player.scrubTo(mouse.x / width)
+        onPressed: mouse => line.player.scrubTo(mouse.x / width)
+        onPositionChanged: mouse => line.player.scrubTo(mouse.x / width)
         onReleased: line.player.endScrubbing()
         onCanceled: line.player.endScrubbing()
     }
 
     FocusRing {
+        look: line.look
         anchors.margins: 0
     }
 }

@@ -5,6 +5,10 @@
 import QtQuick 2.15
 
 Rectangle {
+    id: corners
+
+    property Look look
+
     anchors.fill: parent
     anchors.margins: -border.width
     color: "transparent"
@@ -14,10 +18,10 @@ Rectangle {
 
     Rectangle {
         anchors.fill: parent
-        anchors.margins: parent.border.width
+        anchors.margins: corners.border.width
         color: "transparent"
-        radius: look.radius
+        radius: corners.look.radius
         border.width: 1
-        border.color: look.line
+        border.color: corners.look.line
     }
 }

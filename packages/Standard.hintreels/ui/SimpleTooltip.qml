@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 // The simple UI: title, shortcut and summary on a card no wider than they need.
+import QtQml 2.15
 import QtQuick 2.15
 
 Rectangle {
@@ -12,9 +13,6 @@ Rectangle {
     color: look.background
     border.width: hintreelView.reserved ? 0 : 1
     border.color: look.line
-    Hint { id: hint }
-    Look { id: look }
-    Words { id: words }
 
     LayoutMirroring.enabled: hint.rightToLeft
     LayoutMirroring.childrenInherit: true
@@ -27,8 +25,21 @@ Rectangle {
 
     Title {
         id: title
+        look: look
+        hint: hint
         x: 3 * look.step
         y: 2 * look.step
         width: Math.min(naturalWidth, look.width)
+    }
+
+    // QML evaluates what stands last first: the element after what it is read with, and all that is
+    // shown after these two.
+    Look { id: look; view: hintreelView; reader: hintreelReader }
+    Hint {
+        id: hint
+        element: hintreel
+        view: hintreelView
+        reader: hintreelReader
+        words: Words { view: hintreelView; values: hint.values }
     }
 }

@@ -6,7 +6,9 @@ import QtQuick 2.15
 import QtQuick.Window 2.15
 
 Image {
-    property Item text
+    id: picture
+
+    property TextEdit text
     property var place
     readonly property rect before: text.positionToRectangle(place.start, text.width)
     readonly property rect after: text.positionToRectangle(place.start + 1, text.width)
@@ -24,6 +26,6 @@ Image {
 
     FontMetrics {
         id: metrics
-        font: text.font
+        font: picture.text.font
     }
 }

@@ -7,6 +7,8 @@ import QtQuick 2.15
 Column {
     id: heading
 
+    property Look look
+    property Hint hint
     // Space that stays free at the end of the first line.
     property real reserve: 0
     readonly property string titleText: hint.values.title || ""
@@ -33,9 +35,9 @@ Column {
             anchors.left: parent.left
             width: heading.oneLine ? implicitWidth : heading.lineWidth
             text: heading.titleText
-            color: look.text
-            font.pixelSize: look.titleSize
-            font.weight: look.strong
+            color: heading.look.text
+            font.pixelSize: heading.look.titleSize
+            font.weight: heading.look.strong
             horizontalAlignment: Text.AlignLeft
             textFormat: Text.PlainText
             wrapMode: Text.Wrap
@@ -46,6 +48,8 @@ Column {
         KeyCaps {
             id: caps
             objectName: "shortcut"
+            look: heading.look
+            hint: heading.hint
             anchors.left: heading.oneLine ? title.right : parent.left
             anchors.leftMargin: heading.oneLine && title.text ? 3 * look.step : 0
             y: heading.oneLine ? Math.round((heading.lineHeight - height) / 2)
@@ -61,9 +65,9 @@ Column {
         objectName: "summary"
         width: heading.width
         visible: text
-        text: hint.values.summary || ""
-        color: look.secondaryText
-        font.pixelSize: look.bodySize
+        text: heading.hint.values.summary || ""
+        color: heading.look.secondaryText
+        font.pixelSize: heading.look.bodySize
         horizontalAlignment: Text.AlignLeft
         textFormat: Text.PlainText
         wrapMode: Text.Wrap

@@ -4,44 +4,52 @@
 // A clip with a text below; away where it cannot be opened.
 //
 // Only its header is read until it comes into sight, and again once the popup is hidden for a while.
+import QtQml 2.15
 import QtQuick 2.15
+import com.zentora.hintreels.qml 1.1
 
 Column {
     id: figure
 
-    property var block
-    readonly property string path: hintreelView.findResource(block.source)
-    readonly property var header: hintreelReader.measured, hintreelReader.clip(path)
+    property BlockSlot slot
+    readonly property HRContentReader reader: slot.hint.reader
+    readonly property string path: slot.hint.view.findResource(slot.block.source)
+    readonly property var header: reader.measured, reader.clip(path)
     readonly property bool shown: header.width !== undefined && !patience.over
 
     visible: shown
     height: shown ? implicitHeight : 0
-    spacing: look.step
+    spacing: slot.look.step
 
     Item {
         id: frame
-        anchors.horizontalCenter: parent.horizontalCenter
-        width: look.widthOf(figure.header, figure.block.width, figure.width)
+        anchors.horizontalCenter: figure.horizontalCenter
+        width: figure.slot.look.widthOf(figure.header, figure.slot.block.width, figure.width)
         height: figure.shown ? Math.ceil(width * figure.header.height / figure.header.width) : 0
         clip: true
         Accessible.role: Accessible.Animation
-        Accessible.name: figure.block.alt || ""
+        Accessible.name: figure.slot.block.alt || ""
 
         Loader {
             id: stage
             anchors.fill: parent
-            active: slot.seen && list.awake && figure.shown
+            active: figure.slot.seen && figure.slot.awake && figure.shown
             sourceComponent: ClipStage {
-                block: figure.block
+                look: figure.slot.look
+                hint: figure.slot.hint
+                block: figure.slot.block
             }
         }
 
-        RoundedCorners {}
+        RoundedCorners {
+            look: figure.slot.look
+        }
     }
 
     Caption {
+        look: figure.slot.look
         width: figure.width
-        text: figure.block.text
+        text: figure.slot.block.text
     }
 
     // A header may promise pictures that never come.
@@ -49,9 +57,10 @@ Column {
         id: patience
 
         property bool over: false
+        readonly property ClipStage awaited: stage.item
 
         interval: 3000
-        running: stage.item !== null && list.onScreen
-        onTriggered: over = !stage.item.shown
+        running: awaited !== null && figure.slot.popupShown
+        onTriggered: over = !awaited.shown
     }
 }

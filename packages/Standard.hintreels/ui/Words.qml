@@ -5,9 +5,13 @@
 //
 // A text is asked for once per hint. Translations come from the package of the newest popup's hint,
 // so a detached one could no longer find its own.
-import QtQuick 2.15
+import QtQml 2.15
+import com.zentora.hintreels.qml 1.1
 
 QtObject {
+    property HRView view
+    // Of the hint, which the UI's own words follow.
+    property var values
     readonly property string documentation: own("Documentation")
     readonly property string pin: own("Keep open in a window")
     readonly property string play: own("Play")
@@ -22,12 +26,11 @@ QtObject {
         return said(text, "Content")
     }
 
-    // Reading the values makes the UI's own words follow the hint.
     function own(text) {
-        return hint.values ? said(text, "StandardUI") : ""
+        return values ? said(text, "StandardUI") : ""
     }
 
     function said(text, context) {
-        return text ? hintreelView.interpolate(hintreelView.translate(text, context) || text) : ""
+        return text ? view.interpolate(view.translate(text, context) || text) : ""
     }
 }
