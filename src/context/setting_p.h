@@ -21,4 +21,11 @@ T setting(const HRContext &context, contextKey key, const T &defaultValue)
     return isRead ? value.template value<T>() : defaultValue;
 }
 
+/// The same for those who may have no settings: null leaves every default.
+template <typename T>
+T setting(const HRContext *context, contextKey key, const T &defaultValue)
+{
+    return context ? setting(*context, key, defaultValue) : defaultValue;
+}
+
 } // namespace Hintreels

@@ -43,12 +43,12 @@ public:
     /// @param index stays the host's and must outlive the interface; null for an index in memory
     HRInterface(HRContext &context, const QStringList &dataPaths, HRIndex *index = nullptr);
 
-    /// Shuts the library down. Popups that the reader has detached stay until they are closed.
+    /// Shuts the library down. Popups that readers have reserved stay until they are closed.
     ~HRInterface() override;
 
     // Hosts depend on the order of these virtual operations.
 
-    /// Creates a window that is to receive a detached popup; the default is none.
+    /// Creates a window that is to receive a reserved popup; the default is none.
     ///
     /// The window must be a plain top-level widget: the popup is added to its layout, and its size
     /// is fixed to that of the content, which a QDockWidget or QMainWindow refuses. It stays the

@@ -20,7 +20,7 @@ enum HRMessageType : int
 /// What the host is asked to create a window for.
 enum HRWindowType : int
 {
-    reservedPopupWindow = 1 ///< receives a popup that the reader has detached from the pointer
+    reservedPopupWindow = 1 ///< receives a popup that its reader has reserved
 };
 
 /// What kind of thing outside the popup the reader asked to open.

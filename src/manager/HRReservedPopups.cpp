@@ -38,7 +38,7 @@ void HRReservedPopups::setStayOnTop(bool on)
     }
 }
 
-// Last detached first, and forgets those that are gone.
+// Last reserved first, and forgets those that are gone.
 QList<HRWidget *> HRReservedPopups::livePopups()
 {
     m_popups.removeAll(QPointer<HRWidget>());

@@ -12,7 +12,7 @@ namespace Hintreels {
 class HRWidget;
 class HRXmlElement;
 
-/// The popups that readers have detached from the pointer, which belong to others.
+/// The popups that their readers have reserved, which belong to others.
 ///
 /// GUI thread only.
 class HRReservedPopups

@@ -13,6 +13,7 @@ class tst_setting : public QObject
 
 private Q_SLOTS:
     void setting_isTheDefault_whenAbsent();
+    void setting_isTheDefault_withoutContext();
     void setting_isConverted_below10000_data();
     void setting_isConverted_below10000();
     void setting_isIgnored_from10000_whenTypeDiffers_data();
@@ -26,6 +27,16 @@ void tst_setting::setting_isTheDefault_whenAbsent()
         QCOMPARE(setting(context, simpleTooltipKey, standard), standard);
         QCOMPARE(setting(context, forbidSoftwareRendererKey, standard), standard);
     }
+}
+
+void tst_setting::setting_isTheDefault_withoutContext()
+{
+    HRContext context;
+    context.set(simpleTooltipKey, true);
+    QCOMPARE(setting(&context, simpleTooltipKey, false), true);
+    const HRContext *none = nullptr;
+    for (const bool standard : { false, true })
+        QCOMPARE(setting(none, simpleTooltipKey, standard), standard);
 }
 
 void tst_setting::setting_isConverted_below10000_data()

@@ -99,7 +99,8 @@ public:
     /// Stores the value and emits stayOpenChanged(), also where it stays the same.
     void setStayOpen(bool stayOpen);
 
-    /// Whether the popup is to be detached from the pointer.
+    /// Whether the popup is to be reserved: taken from the pointer by its reader, into a window
+    /// that stays until it is closed. The standard UI has a pin for it.
     bool reserved() const;
 
     /// Asks for the popup to become a window of its own, or does nothing for the same value.

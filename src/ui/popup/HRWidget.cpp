@@ -3,32 +3,19 @@
 
 #include "ui/popup/HRWidget.h"
 
-#include "context/setting_p.h"
-#include "gates/HRFileUse_p.h"
 #include "gates/HRScriptWatch_p.h"
-#include "manager/HRManager.h"
-#include "ui/popup/HRPointerWatch_p.h"
-#include "ui/popup/HRPopupFade_p.h"
-#include "ui/popup/HRSceneLoader_p.h"
-#include "ui/popup/HRView.h"
-#include "ui/popup/HRViewEmbedding_p.h"
+#include "ui/popup/HRWidgetPrivate_p.h"
 #include "ui/popup/contentTree_p.h"
-#include "ui/popup/popupDetaching_p.h"
 #include "ui/popup/popupFit_p.h"
 #include "ui/popup/popupGeometry_p.h"
-#include "ui/popup/popupScreen_p.h"
-#include "ui/reader/HRContentReader_p.h"
+#include "ui/popup/popupReserving_p.h"
+#include "ui/popup/sceneContext_p.h"
 
 #include <QApplication>
 #include <QCursor>
 #include <QFileInfo>
 #include <QLayout>
-#include <QPointer>
-#include <QQmlContext>
 #include <QTimer>
-#include <QWindow>
-
-#include <limits>
 
 namespace Hintreels {
 
@@ -47,177 +34,6 @@ bool isTopmostAt(const QWidget *widget, const QPoint &position)
 
 } // namespace
 
-struct HRWidgetPrivate
-{
-    HRWidgetPrivate(HRWidget *q, HRManager *hrManager, QWidget *referenceWidget);
-
-    template <typename T>
-    T setting(contextKey key, const T &defaultValue) const
-    {
-        return manager ? Hintreels::setting(manager->context(), key, defaultValue) : defaultValue;
-    }
-
-    QRect screen() const { return availableGeometry(reference, q->window()->pos()); }
-
-    void setContextProperties(HRXmlElement *content, const QString &rootPath);
-    void followReferenceWindow();
-    void keepTimeFor(const QPoint &pointer);
-    void followStayOpen();
-    void endFadeIn();
-    void stopHiding();
-    void becomeOrdinaryWindow();
-    void keepInside();
-    void paintAfterContent();
-    void paintHeldBack();
-    void followContent();
-    void followScene();
-    void dismiss();
-
-    HRWidget *q;
-    QPointer<HRManager> manager;
-    QPointer<HRView> view;
-    QPointer<QWidget> container;
-    QPointer<QWidget> reference;
-    HRPopupFade fade;
-    QTimer *timer;
-    HRPointerWatch watch;
-    HRViewEmbedding embedding;
-    bool detached = false;
-    bool placedByReader = false;
-};
-
-HRWidgetPrivate::HRWidgetPrivate(HRWidget *widget, HRManager *hrManager, QWidget *referenceWidget)
-    : q(widget)
-    , manager(hrManager)
-    , reference(referenceWidget)
-    , fade(widget)
-    , timer(new QTimer(widget))
-    , watch([widget](const QPoint &position) { widget->checkMousePosition(position); })
-{
-    timer->setSingleShot(true);
-}
-
-void HRWidgetPrivate::setContextProperties(HRXmlElement *content, const QString &rootPath)
-{
-    // Bindings call the host back, which may show something else meanwhile.
-    const HRSceneLoader::Work work(view->sceneLoader());
-    const HRScriptWatch::Entry entry(view->scriptWatch());
-    QQmlContext *context = view->rootContext();
-    context->setContextProperty(QStringLiteral("hintreel"), content);
-    context->setContextProperty(QStringLiteral("dataLocation"), rootPath);
-    // Once for each view, since the context keeps a connection for every object that it is given.
-    if (context->contextProperty(QStringLiteral("hintreelView")).isValid())
-        return;
-    context->setContextProperty(QStringLiteral("hintreelView"), view.data());
-    const auto settings = [m = manager] { return readerSettings(m); };
-    const auto admits = [v = view](const QString &path, HRFileUse use) {
-        return v && v->mayOpen(QStringLiteral("source"), path, use);
-    };
-    context->setContextProperty(
-        QStringLiteral("hintreelReader"), new HRContentReader(settings, view, admits));
-}
-
-/// On Wayland a popup has its position only beside a window that it belongs to.
-void HRWidgetPrivate::followReferenceWindow()
-{
-    if (QWindow *window = q->windowHandle())
-        window->setTransientParent(reference ? reference->window()->windowHandle() : nullptr);
-}
-
-/// Decides anew whether the time until hiding runs.
-void HRWidgetPrivate::keepTimeFor(const QPoint &pointer)
-{
-    if (q->isSafe(pointer))
-        timer->stop();
-    else
-        q->setTimer();
-}
-
-/// The time may run already when the reader asks the popup to stay: the pointer is quick to leave.
-void HRWidgetPrivate::followStayOpen()
-{
-    if (q->isVisible() && view->stayOpen() == timer->isActive())
-        keepTimeFor(QCursor::pos());
-}
-
-/// A time-out during the fade-in hid nothing: it counts from here.
-void HRWidgetPrivate::endFadeIn()
-{
-    if (!timer->isActive())
-        keepTimeFor(QCursor::pos());
-}
-
-void HRWidgetPrivate::stopHiding()
-{
-    fade.stop();
-    timer->stop();
-    watch.stop();
-}
-
-/// From now on the popup is used like any window, with the keyboard too, and hides for nothing.
-void HRWidgetPrivate::becomeOrdinaryWindow()
-{
-    detached = true;
-    stopHiding();
-    q->setWindowOpacity(1.0);
-    q->setAttribute(Qt::WA_ShowWithoutActivating, false);
-    view->setFlag(Qt::WindowDoesNotAcceptFocus, false);
-    embedding.release();
-}
-
-/// A detached popup too, but only once its window has got its frame: then its reader moves it.
-void HRWidgetPrivate::keepInside()
-{
-    if (!q->isVisible() || placedByReader)
-        return;
-    q->reposition();
-    placedByReader = detached;
-}
-
-/// Holds the popup's own painting back until the content's next frame, which hides all of it but a
-/// seam and would have to wait for it.
-void HRWidgetPrivate::paintAfterContent()
-{
-    q->setUpdatesEnabled(!view || !view->rootObject());
-}
-
-/// Paints at once: an update would be lost where Qt has been asked for one while it was held back.
-void HRWidgetPrivate::paintHeldBack()
-{
-    if (q->updatesEnabled())
-        return;
-    q->setUpdatesEnabled(true);
-    q->repaint();
-}
-
-/// Takes the size of new content at once: the view's own resize event comes a round trip to the
-/// window system later, and until then a popup that is too small would cut the content off.
-void HRWidgetPrivate::followContent()
-{
-    if (fitsContent(*q))
-        return;
-    paintAfterContent();
-    q->contentResized();
-}
-
-/// A scene that had to wait for the event loop comes when the popup shows already.
-void HRWidgetPrivate::followScene()
-{
-    if (!q->isVisible() || !view->rootObject())
-        return;
-    matchBackground(*q);
-    followContent();
-}
-
-/// A pinned popup goes with the window that it is in.
-void HRWidgetPrivate::dismiss()
-{
-    if (detached)
-        q->window()->close();
-    else
-        q->hide();
-}
-
 HRWidget::HRWidget(HRManager *manager, QWidget *parent, QWidget *reference)
     : QWidget(parent)
     , d(std::make_unique<HRWidgetPrivate>(this, manager, reference))
@@ -227,7 +43,6 @@ HRWidget::HRWidget(HRManager *manager, QWidget *parent, QWidget *reference)
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAutoFillBackground(true);
     connect(d->timer, &QTimer::timeout, this, &HRWidget::hideAnimated);
-    d->timer->stop();
 }
 
 HRWidget::~HRWidget()
@@ -264,7 +79,7 @@ void HRWidget::setView(HRView *view)
         view, &QQuickWindow::frameSwapped, this, [this] { d->paintHeldBack(); },
         Qt::QueuedConnection);
     // A press inside a popup leaves the keyboard focus where it is.
-    view->setFlag(Qt::WindowDoesNotAcceptFocus, !d->detached);
+    view->setFlag(Qt::WindowDoesNotAcceptFocus, !d->reserved);
     view->setViewPos(0, 0);
 }
 
@@ -291,8 +106,7 @@ bool HRWidget::isSafe(const QPoint &pos) const
 
 void HRWidget::checkMousePosition(const QPoint &pos)
 {
-    if (isSafe(pos) == d->timer->isActive())
-        d->keepTimeFor(pos);
+    d->hideTimer.follow(isSafe(pos));
 }
 
 void HRWidget::cancelHiding()
@@ -311,7 +125,7 @@ void HRWidget::setVisible(bool visible)
         return;
     }
     create();
-    if (!d->detached) {
+    if (!d->reserved) {
         d->followReferenceWindow();
         d->paintAfterContent();
     }
@@ -333,7 +147,7 @@ void HRWidget::showWithContent(
     move(withinReach(pos));
     if (isVisible())
         reposition();
-    d->setContextProperties(content, rootPath);
+    setSceneContext(*d->view, content, rootPath, d->manager);
     // Not before the scene has let go of it, or its bindings would see null on the way.
     if (previous != content)
         d->view->discard(contentTreeOf(previous));
@@ -362,7 +176,7 @@ void HRWidget::reposition()
 
 void HRWidget::hideAnimated()
 {
-    if (d->detached || !isVisible() || d->fade.isRunning())
+    if (d->reserved || !isVisible() || d->fade.isRunning())
         return;
     const int duration = d->setting(hideAnimationDurationKey, 300);
     if (duration <= 0) {
@@ -370,7 +184,7 @@ void HRWidget::hideAnimated()
         return;
     }
     d->fade.fade(windowOpacity(), 0.0, duration, [this] { hideAnimationFinished(); });
-    d->timer->stop();
+    d->hideTimer.stop();
 }
 
 void HRWidget::hideAnimationFinished()
@@ -398,12 +212,7 @@ void HRWidget::showAnimated()
 
 void HRWidget::setTimer()
 {
-    d->timer->stop();
-    if (d->detached || (d->view && d->view->stayOpen()))
-        return;
-    const double delay = double(d->setting(hideDelayKey, 3000.0f));
-    if (delay > 0)
-        d->timer->start(int(qMin(delay, double(std::numeric_limits<int>::max()))));
+    d->hideTimer.restart();
 }
 
 void HRWidget::contentReservedChanged()
@@ -442,7 +251,7 @@ void HRWidget::showEvent(QShowEvent *)
     reposition();
     if (d->view)
         d->view->setDecodingPaused(false);
-    if (!d->detached)
+    if (!d->reserved)
         d->watch.start(pointer);
     else if (!isWindow())
         d->embedding.renewLater();
@@ -455,7 +264,7 @@ void HRWidget::hideEvent(QHideEvent *)
         return;
     d->view->releaseOverrideCursors();
     d->view->setDecodingPaused(true);
-    if (d->detached)
+    if (d->reserved)
         d->embedding.release();
 }
 

@@ -90,7 +90,7 @@ public Q_SLOTS:
     /// Starts the time until the popup hides anew, unless its view is to stay open.
     void setTimer();
 
-    /// Detaches the popup, when its view asks for that and the manager agrees.
+    /// Reserves the popup, when its view asks for that and the manager agrees.
     void contentReservedChanged();
 
     /// Fits popup and window to the size of the QML root item.

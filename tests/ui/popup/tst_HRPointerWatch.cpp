@@ -3,6 +3,7 @@
 
 #include "ui/popup/HRPointerWatch_p.h"
 
+#include <QAbstractEventDispatcher>
 #include <QCursor>
 #include <QtTest>
 
@@ -10,7 +11,17 @@ using namespace Hintreels;
 
 namespace {
 
-constexpr int twoLooks = 500; // ms
+int timersOf(QObject *object)
+{
+    return QAbstractEventDispatcher::instance()->registeredTimers(object).size();
+}
+
+/// Has a watch look now.
+void look(HRPointerWatch &watch)
+{
+    QTimerEvent event(0);
+    QCoreApplication::sendEvent(&watch, &event);
+}
 
 } // namespace
 
@@ -33,7 +44,7 @@ void tst_HRPointerWatch::watch_tellsOnce_whenPointerMoved()
     watch.start(QCursor::pos());
     QCursor::setPos(50, 60);
     QTRY_COMPARE(moves, QVector<QPoint>{ QPoint(50, 60) });
-    QTest::qWait(twoLooks);
+    look(watch);
     QCOMPARE(moves.size(), 1);
 }
 
@@ -42,8 +53,10 @@ void tst_HRPointerWatch::watch_isSilent_whilePointerRests()
     QVector<QPoint> moves;
     HRPointerWatch watch([&](const QPoint &position) { moves.append(position); });
     watch.start(QCursor::pos());
-    QTest::qWait(twoLooks);
+    look(watch);
+    look(watch);
     QVERIFY(moves.isEmpty());
+    QCOMPARE(timersOf(&watch), 1);
 }
 
 void tst_HRPointerWatch::watch_isSilent_whenStopped()
@@ -52,13 +65,12 @@ void tst_HRPointerWatch::watch_isSilent_whenStopped()
     HRPointerWatch watch([&](const QPoint &position) { moves.append(position); });
     watch.start(QCursor::pos());
     watch.stop();
-    QCursor::setPos(50, 60);
-    QTest::qWait(twoLooks);
-    QVERIFY(moves.isEmpty());
+    QCOMPARE(timersOf(&watch), 0);
 
     // What happened while it was stopped stays untold.
+    QCursor::setPos(50, 60);
     watch.start(QCursor::pos());
-    QTest::qWait(twoLooks);
+    look(watch);
     QVERIFY(moves.isEmpty());
 }
 

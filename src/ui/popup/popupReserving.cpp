@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
-#include "ui/popup/popupDetaching_p.h"
+#include "ui/popup/popupReserving_p.h"
 
 #include "ui/popup/HRView.h"
 #include "ui/popup/HRWidget.h"

@@ -1,0 +1,139 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "ui/popup/HRWidgetPrivate_p.h"
+
+#include "ui/popup/HRWidget.h"
+#include "ui/popup/popupFit_p.h"
+#include "ui/popup/popupScreen_p.h"
+
+#include <QCursor>
+#include <QQuickItem>
+#include <QTimer>
+#include <QWindow>
+
+namespace Hintreels {
+
+HRWidgetPrivate::HRWidgetPrivate(HRWidget *widget, HRManager *hrManager, QWidget *referenceWidget)
+    : q(widget)
+    , manager(hrManager)
+    , reference(referenceWidget)
+    , fade(widget)
+    , timer(new QTimer(widget))
+    , clock(timer)
+    , hideTimer(clock, [this] { return hideDelay(); })
+    , watch([widget](const QPoint &position) { widget->checkMousePosition(position); })
+{
+}
+
+QRect HRWidgetPrivate::screen() const
+{
+    return availableGeometry(reference, q->window()->pos());
+}
+
+/// 0 for a popup that is to stay.
+double HRWidgetPrivate::hideDelay() const
+{
+    const bool stays = reserved || (view && view->stayOpen());
+    return stays ? 0.0 : double(setting(hideDelayKey, 3000.0F));
+}
+
+/// On Wayland a popup has its position only beside a window that it belongs to.
+void HRWidgetPrivate::followReferenceWindow()
+{
+    if (QWindow *window = q->windowHandle())
+        window->setTransientParent(reference ? reference->window()->windowHandle() : nullptr);
+}
+
+/// Decides anew whether the time until hiding runs.
+void HRWidgetPrivate::keepTimeFor(const QPoint &pointer)
+{
+    hideTimer.decide(q->isSafe(pointer));
+}
+
+/// The time may run already when the reader asks the popup to stay: the pointer is quick to leave.
+void HRWidgetPrivate::followStayOpen()
+{
+    if (q->isVisible() && view->stayOpen() == hideTimer.isRunning())
+        keepTimeFor(QCursor::pos());
+}
+
+/// A time-out during the fade-in hid nothing: it counts from here.
+void HRWidgetPrivate::endFadeIn()
+{
+    if (!hideTimer.isRunning())
+        keepTimeFor(QCursor::pos());
+}
+
+void HRWidgetPrivate::stopHiding()
+{
+    fade.stop();
+    hideTimer.stop();
+    watch.stop();
+}
+
+/// From now on the popup is used like any window, with the keyboard too, and hides for nothing.
+void HRWidgetPrivate::becomeOrdinaryWindow()
+{
+    reserved = true;
+    stopHiding();
+    q->setWindowOpacity(1.0);
+    q->setAttribute(Qt::WA_ShowWithoutActivating, false);
+    view->setFlag(Qt::WindowDoesNotAcceptFocus, false);
+    embedding.release();
+}
+
+/// A reserved popup too, but only once its window has got its frame: then its reader moves it.
+void HRWidgetPrivate::keepInside()
+{
+    if (!q->isVisible() || placedByReader)
+        return;
+    q->reposition();
+    placedByReader = reserved;
+}
+
+/// Holds the popup's own painting back until the content's next frame, which hides all of it but a
+/// seam and would have to wait for it.
+void HRWidgetPrivate::paintAfterContent()
+{
+    q->setUpdatesEnabled(!view || !view->rootObject());
+}
+
+/// Paints at once: an update would be lost where Qt has been asked for one while it was held back.
+void HRWidgetPrivate::paintHeldBack()
+{
+    if (q->updatesEnabled())
+        return;
+    q->setUpdatesEnabled(true);
+    q->repaint();
+}
+
+/// Takes the size of new content at once: the view's own resize event comes a round trip to the
+/// window system later, and until then a popup that is too small would cut the content off.
+void HRWidgetPrivate::followContent()
+{
+    if (fitsContent(*q))
+        return;
+    paintAfterContent();
+    q->contentResized();
+}
+
+/// A scene that had to wait for the event loop comes when the popup shows already.
+void HRWidgetPrivate::followScene()
+{
+    if (!q->isVisible() || !view->rootObject())
+        return;
+    matchBackground(*q);
+    followContent();
+}
+
+/// A reserved popup goes with the window that it is in.
+void HRWidgetPrivate::dismiss()
+{
+    if (reserved)
+        q->window()->close();
+    else
+        q->hide();
+}
+
+} // namespace Hintreels

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "context/setting_p.h"
+#include "manager/HRManager.h"
+#include "ui/popup/HRHideTimer_p.h"
+#include "ui/popup/HRPointerWatch_p.h"
+#include "ui/popup/HRPopupFade_p.h"
+#include "ui/popup/HRView.h"
+#include "ui/popup/HRViewEmbedding_p.h"
+
+#include <QPointer>
+#include <QRect>
+
+namespace Hintreels {
+
+class HRWidget;
+
+/// What a popup is made of, and how its pieces play together.
+struct HRWidgetPrivate
+{
+    HRWidgetPrivate(HRWidget *q, HRManager *hrManager, QWidget *referenceWidget);
+
+    template <typename T>
+    T setting(contextKey key, const T &defaultValue) const
+    {
+        return Hintreels::setting(manager ? &manager->context() : nullptr, key, defaultValue);
+    }
+
+    QRect screen() const;
+    double hideDelay() const;
+
+    void followReferenceWindow();
+    void keepTimeFor(const QPoint &pointer);
+    void followStayOpen();
+    void endFadeIn();
+    void stopHiding();
+    void becomeOrdinaryWindow();
+    void keepInside();
+    void paintAfterContent();
+    void paintHeldBack();
+    void followContent();
+    void followScene();
+    void dismiss();
+
+    HRWidget *q;
+    QPointer<HRManager> manager;
+    QPointer<HRView> view;
+    QPointer<QWidget> container;
+    QPointer<QWidget> reference;
+    HRPopupFade fade;
+    QTimer *timer;
+    HRQTimerClock clock;
+    HRHideTimer hideTimer;
+    HRPointerWatch watch;
+    HRViewEmbedding embedding;
+    bool reserved = false; // by its reader, and a window of its own ever since
+    bool placedByReader = false;
+};
+
+} // namespace Hintreels

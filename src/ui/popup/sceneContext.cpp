@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "ui/popup/sceneContext_p.h"
+
+#include "content/HRXmlElement.h"
+#include "gates/HRFileUse_p.h"
+#include "gates/HRScriptWatch_p.h"
+#include "manager/HRManager.h"
+#include "ui/popup/HRSceneLoader_p.h"
+#include "ui/popup/HRView.h"
+#include "ui/reader/HRContentReader_p.h"
+
+#include <QQmlContext>
+
+namespace Hintreels {
+
+namespace {
+
+/// The context keeps a connection for every object that it is given, so these are given once.
+void setLastingProperties(QQmlContext &context, HRView *view, const QPointer<HRManager> &manager)
+{
+    context.setContextProperty(QStringLiteral("hintreelView"), view);
+    const auto settings = [m = manager] { return readerSettings(m); };
+    const auto admits = [v = QPointer<HRView>(view)](const QString &path, HRFileUse use) {
+        return v && v->mayOpen(QStringLiteral("source"), path, use);
+    };
+    context.setContextProperty(
+        QStringLiteral("hintreelReader"), new HRContentReader(settings, view, admits));
+}
+
+} // namespace
+
+void setSceneContext(HRView &view, HRXmlElement *content, const QString &packageRoot,
+    const QPointer<HRManager> &manager)
+{
+    const HRSceneLoader::Work work(view.sceneLoader());
+    const HRScriptWatch::Entry entry(view.scriptWatch());
+    QQmlContext *context = view.rootContext();
+    context->setContextProperty(QStringLiteral("hintreel"), content);
+    context->setContextProperty(QStringLiteral("dataLocation"), packageRoot);
+    if (!context->contextProperty(QStringLiteral("hintreelView")).isValid())
+        setLastingProperties(*context, &view, manager);
+}
+
+} // namespace Hintreels

@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QPointer>
+
+QT_BEGIN_NAMESPACE
+class QString;
+QT_END_NAMESPACE
+
+namespace Hintreels {
+
+class HRManager;
+class HRView;
+class HRXmlElement;
+
+/// Tells the QML in a view what is shown: `hintreel`, `dataLocation`, `hintreelView` and
+/// `hintreelReader`.
+///
+/// Bindings follow at once and may call the host back, which may show something else meanwhile.
+/// @param packageRoot directory of the content's package
+/// @param manager whose settings the reader follows; may be null, for the desktop's
+void setSceneContext(HRView &view, HRXmlElement *content, const QString &packageRoot,
+    const QPointer<HRManager> &manager);
+
+} // namespace Hintreels
