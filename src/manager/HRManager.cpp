@@ -9,69 +9,24 @@
 #include "gates/HRPackageRules_p.h"
 #include "index/HRIndex.h"
 #include "interface/HRInterface.h"
-#include "manager/HRContentLookup_p.h"
-#include "manager/HRPackageScanner_p.h"
-#include "manager/HRPopupPresenter_p.h"
-#include "manager/HRReservedPopups_p.h"
-#include "manager/HRTranslation_p.h"
+#include "manager/HRManagerPrivate_p.h"
 #include "manager/externalResource_p.h"
 #include "manager/interpolation_p.h"
+#include "manager/popupFactory_p.h"
+#include "manager/scaledSize_p.h"
 #include "ui/items/qmlTypes_p.h"
 #include "ui/popup/HRView.h"
-#include "ui/popup/HRWidget.h"
 #include "ui/popup/quickRenderer_p.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFileInfo>
-#include <QHBoxLayout>
-#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPointer>
 
-#include <limits>
 #include <utility>
 
 namespace Hintreels {
-
-struct HRManagerPrivate
-{
-    HRManagerPrivate(HRManager *manager, HRInterface *host, const HRContext &hostContext,
-        const QStringList &paths, HRIndex *hostIndex)
-        : interface(host)
-        , dataPaths(paths)
-        , context(hostContext)
-        , index(hostIndex ? hostIndex : new HRIndex(&context, paths))
-        , scanner(context, *index, reporterOf(manager), reporterOf(manager, messageWarning))
-        , lookup(context, *index, reporterOf(manager))
-        , presenter(context, host, lookup)
-        , translation(manager)
-    {
-    }
-
-    static HRPackageScanner::Report reporterOf(
-        HRManager *manager, HRMessageType type = messageInformation)
-    {
-        return [guarded = QPointer<HRManager>(manager), type](const QString &text) {
-            if (guarded)
-                guarded->handleMessage(type, text);
-        };
-    }
-
-    HRInterface *interface;
-    QStringList dataPaths;
-    HRContext context;
-    HRIndex *index; // never deleted: detached popups ask it for components
-    HRPackageScanner scanner;
-    HRContentLookup lookup;
-    HRPopupPresenter presenter;
-    HRReservedPopups reservedPopups;
-    HRTranslation translation;
-    QMap<QString, QVariant> globalProperties;
-    bool applicationFilterInstalled = false;
-    bool toldWhyNothingShows = false;
-    float scale = 1.0F;
-};
 
 namespace {
 
@@ -80,19 +35,6 @@ void setAlwaysShowToolTips(bool on)
     const QWidgetList widgets = QApplication::topLevelWidgets();
     for (QWidget *widget : widgets)
         widget->setAttribute(Qt::WA_AlwaysShowToolTips, on);
-}
-
-HRWidget *createPopup(HRManager *manager)
-{
-    auto *popup = new HRWidget(manager, nullptr, nullptr);
-    auto *view = new HRView(manager, nullptr);
-    QWidget *container = QWidget::createWindowContainer(view, popup);
-    auto *layout = new QHBoxLayout(popup);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(container);
-    popup->SetContainerWidget(container);
-    popup->setView(view);
-    return popup;
 }
 
 } // namespace
@@ -242,15 +184,6 @@ bool HRManager::canRender()
     return false;
 }
 
-/// True also where the host has deleted the object meanwhile: nobody else may see the event then.
-bool HRManager::showToolTip(QObject *object, const QPoint &globalPos)
-{
-    const QPointer<HRManager> guarded = this;
-    const QPointer<QObject> target = object;
-    const QString key = keyForObject(object);
-    return !target || (guarded && show(key, globalPos, target));
-}
-
 QString HRManager::keyForObject(QObject *object)
 {
     return d->interface->keyForObject(object);
@@ -312,43 +245,19 @@ bool HRManager::openExternalResource(const QString &resource)
 
 bool HRManager::eventFilter(QObject *watched, QEvent *event)
 {
-    switch (event->type()) {
-    case QEvent::ToolTip:
-        return showToolTip(watched, static_cast<QHelpEvent *>(event)->globalPos());
-    case QEvent::ApplicationDeactivate:
-        if (widget())
-            widget()->hide();
-        break;
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonRelease:
-        mouseButtonEventFilter(watched, static_cast<QMouseEvent *>(event));
-        break;
-    case QEvent::MouseMove:
-        mouseMoveEventFilter(watched, static_cast<QMouseEvent *>(event));
-        break;
-    default:
-        break;
-    }
-    return QObject::eventFilter(watched, event);
+    const std::shared_ptr<HRManagerPrivate> work = d;
+    return work->hoverFilter.filter(watched, *event);
 }
 
 bool HRManager::mouseMoveEventFilter(QObject *, QMouseEvent *event)
 {
-    if (d->presenter.isPopupVisible())
-        widget()->checkMousePosition(event->globalPos());
+    d->hoverFilter.followPointer(event->globalPos());
     return false;
 }
 
 bool HRManager::mouseButtonEventFilter(QObject *watched, QMouseEvent *)
 {
-    const auto *target = qobject_cast<QWidget *>(watched);
-    HRWidget *popup = widget();
-    if (!target || !popup || !popup->isVisible() || popup == target || popup->isAncestorOf(target))
-        return false;
-    if (popup->view() && popup->view()->stayOpen())
-        popup->activateWindow();
-    else
-        popup->hide();
+    d->hoverFilter.followButton(watched);
     return false;
 }
 
@@ -386,11 +295,7 @@ QString HRManager::hintreelAttribute(
 
 int HRManager::getScaledSize(int size) const
 {
-    if (d->scale == 0.0F)
-        return size;
-    // Clamped below the limits of int, which single precision cannot hold exactly.
-    constexpr auto limit = float(std::numeric_limits<int>::max() - 127);
-    return int(qBound(-limit, d->scale * float(size), limit));
+    return scaledSize(size, d->scale);
 }
 
 float HRManager::realScaleValue() const

@@ -56,7 +56,7 @@ public:
     /// What receives the callbacks.
     HRInterface *interface() const;
 
-    /// The current popup; null before the first hint and never a detached one.
+    /// The current popup; null before the first hint and never a reserved one.
     HRWidget *widget() const;
 
     /// The data paths as the host gave them.
@@ -103,15 +103,15 @@ public:
     /// Where the popup's top left corner goes for a pointer position, both global.
     QPoint tooltipPosition(const QPoint &globalPos, QWidget *widget) const;
 
-    /// Detaches the current popup from the pointer and makes a new one for later hints.
+    /// Leaves the current popup to its reader and makes a new one for later hints.
     /// @param window receives the host's window for it, which may be null
     /// @return false, touching nothing, when @p widget is not the current popup
     bool reserve(HRWidget *widget, QWidget *&window);
 
-    /// Raises the detached popups.
+    /// Raises the reserved popups.
     void raise();
 
-    /// Keeps the detached popups above other windows, or lets them sink again.
+    /// Keeps the reserved popups above other windows, or lets them sink again.
     void setStayOnTop(bool on);
 
     /// Hands a URL, path or name to the host if the settings allow its kind.
@@ -153,7 +153,6 @@ protected:
     void initializeTooltipWindow();
 
 private:
-    bool showToolTip(QObject *object, const QPoint &globalPos);
     bool canRender();
 
     // Shared with what is at work: the host may delete the manager from any callback.

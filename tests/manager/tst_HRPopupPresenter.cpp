@@ -85,7 +85,7 @@ struct Fixture
         host->context().set(messageLevelKey, int(messageInformation));
     }
 
-    // A detached popup is the reader's, and outlives the host.
+    // A reserved popup is the reader's, and outlives the host.
     ~Fixture()
     {
         host.reset();
@@ -130,7 +130,7 @@ const QMap<QString, Deed> deeds{
     { "shows another hint", [](Fixture &f) { f.host->show("ink", QPoint(10, 10), nullptr); } },
     { "shows the same hint", [](Fixture &f) { f.host->show("pen", QPoint(10, 10), nullptr); } },
     { "hides the popup", [](Fixture &f) { f.popup()->hide(); } },
-    { "detaches the popup", [](Fixture &f) { f.popup()->view()->setReserved(true); } },
+    { "reserves the popup", [](Fixture &f) { f.popup()->view()->setReserved(true); } },
 };
 
 } // namespace

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "context/HRContext.h"
+#include "manager/HRContentLookup_p.h"
+#include "manager/HRHoverFilter_p.h"
+#include "manager/HRPackageScanner_p.h"
+#include "manager/HRPopupPresenter_p.h"
+#include "manager/HRReservedPopups_p.h"
+#include "manager/HRTranslation_p.h"
+
+#include <QMap>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+
+namespace Hintreels {
+
+class HRIndex;
+class HRInterface;
+class HRManager;
+
+/// What a manager is made of.
+///
+/// The manager may be deleted while a piece is at work, so what they tell it is guarded.
+struct HRManagerPrivate
+{
+    /// @param hostIndex null for one in memory
+    HRManagerPrivate(HRManager *manager, HRInterface *host, const HRContext &hostContext,
+        const QStringList &paths, HRIndex *hostIndex);
+
+    HRInterface *interface;
+    QStringList dataPaths;
+    HRContext context;
+    HRIndex *index; // never deleted: reserved popups ask it for components
+    HRPackageScanner scanner;
+    HRContentLookup lookup;
+    HRPopupPresenter presenter;
+    HRHoverFilter hoverFilter;
+    HRReservedPopups reservedPopups;
+    HRTranslation translation;
+    QMap<QString, QVariant> globalProperties;
+    bool applicationFilterInstalled = false;
+    bool toldWhyNothingShows = false;
+    float scale = 1.0F;
+};
+
+} // namespace Hintreels
