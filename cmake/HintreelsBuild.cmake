@@ -3,7 +3,10 @@
 #
 # What every target of this project is built with.
 
-set(CMAKE_CXX_STANDARD 17)
+# The standard of the project that this one is a part of, where it is new enough.
+if(NOT CMAKE_CXX_STANDARD OR CMAKE_CXX_STANDARD MATCHES "^(98|11|14)$")
+    set(CMAKE_CXX_STANDARD 17)
+endif()
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)

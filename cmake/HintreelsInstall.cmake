@@ -8,7 +8,9 @@ include(CMakePackageConfigHelpers)
 set(HINTREELS_INSTALL_CMAKEDIR ${CMAKE_INSTALL_LIBDIR}/cmake/Hintreels)
 set(HINTREELS_INSTALL_PACKAGESDIR ${CMAKE_INSTALL_DATADIR}/hintreels/packages)
 
-install(TARGETS Hintreels EXPORT HintreelsTargets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+install(TARGETS Hintreels EXPORT HintreelsTargets
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
 install(EXPORT HintreelsTargets NAMESPACE Hintreels:: DESTINATION ${HINTREELS_INSTALL_CMAKEDIR})
 
 configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/HintreelsConfig.cmake.in

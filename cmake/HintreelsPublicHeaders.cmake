@@ -5,7 +5,8 @@
 #
 # One list makes three things of the public headers: a forwarding header <Hintreels/Class> for each
 # class, in the build tree and installed alike; the install rules, with what the public headers
-# include under EXTRA; and a source per class that proves its header compiles alone.
+# include under EXTRA; and a source per class that proves its header compiles alone. The property
+# HINTREELS_PUBLIC_HEADERS of the target names them with their paths.
 function(hintreels_install_headers target)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "EXTRA")
 
@@ -25,6 +26,8 @@ function(hintreels_install_headers target)
         list(APPEND check_sources ${check_source})
     endforeach()
 
+    list(TRANSFORM headers PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/ OUTPUT_VARIABLE paths)
+    set_target_properties(${target} PROPERTIES HINTREELS_PUBLIC_HEADERS "${paths}")
     foreach(header IN LISTS headers)
         get_filename_component(folder ${header} DIRECTORY)
         install(FILES ${header}

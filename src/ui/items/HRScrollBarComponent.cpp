@@ -16,7 +16,7 @@ constexpr float hundredthsInOne = 100.0f;
 /// In single precision and truncated towards zero; what does not fit becomes the nearest int.
 int toHundredths(float value)
 {
-    const double hundredths = double(value * hundredthsInOne);
+    const auto hundredths = double(value * hundredthsInOne);
     if (qIsNaN(hundredths))
         return 0;
     return int(qBound(double(std::numeric_limits<int>::min()), hundredths,

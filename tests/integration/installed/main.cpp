@@ -15,19 +15,31 @@
 #include <QApplication>
 #include <QDir>
 
-/// Shows a hint of the data path given as argument, with the installed user interface.
-int main(int argc, char *argv[])
+static_assert(__cplusplus / 100 == 2000 + STANDARD);
+
+/// The user interface in which a hint of a data path shows; empty where none does.
+static QUrl shownIn(const QString &dataPath, bool fromStrangers)
 {
-    QApplication application(argc, argv);
     HRContext context;
     context.set(Hintreels::hideDelayKey, 0);
-    Hintreels::HRInterface hints(context, { PACKAGES_DIR, application.arguments().value(1) });
+    context.set(Hintreels::strangersKey, fromStrangers);
+    Hintreels::HRInterface hints(context, { PACKAGES_DIR, dataPath });
     QWidget window;
     const bool shown = hints.show("pen", QPoint(10, 10), &window);
     const Hintreels::HRWidget *popup = hints.manager()->widget();
     const bool loaded = popup && popup->view()->status() == QQuickView::Ready;
-    const QString source = popup ? popup->view()->source().toLocalFile() : QString();
-    const bool installedUi = QDir(PACKAGES_DIR).relativeFilePath(source)
+    return shown && loaded ? popup->view()->source() : QUrl();
+}
+
+/// Shows a hint of the data path given as argument, with the installed user interface and with the
+/// one inside the library.
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    const QString dataPath = application.arguments().value(1);
+    const QString installed = shownIn(dataPath, false).toLocalFile();
+    const bool showsInstalled = QDir(PACKAGES_DIR).relativeFilePath(installed)
         == QString("Standard.hintreels/ui/HintreelUI.qml");
-    return shown && loaded && installedUi ? 0 : 1;
+    const QUrl ownUi("qrc:/hintreels/standard/ui/HintreelUI.qml");
+    return showsInstalled && shownIn(dataPath, true) == ownUi ? 0 : 1;
 }
