@@ -3,7 +3,6 @@
 
 #include "index/HRIndex.h"
 
-#include "content/HRFilterAnswer_p.h"
 #include "content/HRXmlElement.h"
 #include "content/HRXmlParser.h"
 #include "context/setting_p.h"
@@ -285,10 +284,10 @@ QStringList HRIndex::findComponentPaths(
     return paths;
 }
 
-int HRIndex::indexDataShouldGenerateElement(const QString &tag, const QXmlAttributes &, void *)
+int HRIndex::indexDataShouldGenerateElement(
+    const QString &tag, const QXmlAttributes &attributes, void *data)
 {
-    const bool isIndexed = tag == QLatin1String("hintreels") || tag == QLatin1String("hintreel");
-    return isIndexed ? askForChildren : dropElement;
+    return generateIndexElement(tag, attributes, data);
 }
 
 bool HRIndex::isInUpdate() const

@@ -175,7 +175,7 @@ bool HRManager::show(const QString &key, const QPoint &globalPos, QObject *objec
 /// Whether a popup can be painted; says once why not.
 bool HRManager::canRender()
 {
-    if (chooseQuickRenderer(this))
+    if (chooseQuickRenderer(&d->context))
         return true;
     if (!std::exchange(d->toldWhyNothingShows, true))
         handleMessage(messageWarning,

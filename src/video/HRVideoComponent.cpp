@@ -3,30 +3,15 @@
 
 #include "video/HRVideoComponent.h"
 
-#include "context/setting_p.h"
-#include "gates/HRFileUse_p.h"
-#include "manager/HRManager.h"
-#include "ui/popup/HRView.h"
+#include "video/HRClipFinder_p.h"
 #include "video/HRVideoController.h"
 #include "video/HRVideoSourceFFMPEG.h"
 #include "video/retiredSources_p.h"
 
-#include <QFileInfo>
 #include <QPainter>
 #include <QUrl>
 
 namespace Hintreels {
-
-namespace {
-
-/// In megapixels.
-int largestPicture(const HRManager *manager)
-{
-    const int standard = HRVideoSourceFFMPEG::standardLargestPicture;
-    return manager ? setting(manager->context(), largestPictureKey, standard) : standard;
-}
-
-} // namespace
 
 HRVideoComponent::HRVideoComponent(QQuickItem *parent)
     : QQuickPaintedItem(parent)
@@ -70,15 +55,13 @@ void HRVideoComponent::setSource(const QString &source)
         m_controller->setSource(QUrl(source));
         m_source = source;
     }
-    auto *view = qobject_cast<HRView *>(window());
-    if (!view)
+    HRClipFinder *finder = HRClipFinder::of(window());
+    if (!finder)
         return;
     m_source = source;
-    const QString path = view->findResource(source);
-    m_videoSource->setLargestPicture(largestPicture(view->manager()));
-    const bool isClip = QFileInfo(path).isFile()
-        && view->mayOpen(QStringLiteral("source"), path, HRFileUse::clip);
-    if (isClip && m_controller->setSource(QUrl::fromLocalFile(path)))
+    m_videoSource->setLargestPicture(finder->largestPicture());
+    const QString path = finder->findClip(source);
+    if (!path.isEmpty() && m_controller->setSource(QUrl::fromLocalFile(path)))
         ++m_awaitedSources;
     m_frame = HRVideoFrame();
     update();
@@ -234,8 +217,8 @@ void HRVideoComponent::itemChange(ItemChange change, const ItemChangeData &value
 
 void HRVideoComponent::followWindow(QQuickWindow *window)
 {
-    const auto *view = qobject_cast<HRView *>(window);
-    setDecodingPaused(view && view->isDecodingPaused());
+    const HRClipFinder *finder = HRClipFinder::of(window);
+    setDecodingPaused(finder && finder->isDecodingPaused());
 }
 
 void HRVideoComponent::sourceTaken()

@@ -4,7 +4,7 @@
 #include "support/ClipThreads.h"
 #include "support/TestClip.h"
 #include "ui/StandardUiFixture.h"
-#include "ui/popup/heapTrim_p.h"
+#include "ui/reader/heapTrim_p.h"
 
 #include <unistd.h>
 

@@ -4,7 +4,6 @@
 #include "index/control/HRControlTree_p.h"
 
 #include "files/HRRegularFile_p.h"
-#include "index/HRIndex.h"
 #include "index/control/elementFilters_p.h"
 
 #include <QLocale>
@@ -61,7 +60,7 @@ std::unique_ptr<HRXmlElement> readOnlyTree(
 
 QStringList keysOfControlFile(const QString &filePath)
 {
-    const HRControlTree tree(filePath, HRIndex::indexDataShouldGenerateElement, nullptr);
+    const HRControlTree tree(filePath, generateIndexElement, nullptr);
     if (!tree.first())
         return {};
     QStringList keys;

@@ -21,6 +21,12 @@ bool hasValue(const QXmlAttributes &attributes, QLatin1String name, const QStrin
 
 } // namespace
 
+int generateIndexElement(const QString &tag, const QXmlAttributes &, void *)
+{
+    const bool isIndexed = tag == QLatin1String("hintreels") || tag == QLatin1String("hintreel");
+    return isIndexed ? askForChildren : dropElement;
+}
+
 int generateContentElement(const QString &tag, const QXmlAttributes &attributes, void *key)
 {
     if (tag == QLatin1String("hintreels"))

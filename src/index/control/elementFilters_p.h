@@ -10,6 +10,10 @@ namespace Hintreels {
 
 // Filters for HRXmlParser, which answer as it describes. Names are compared case-sensitively.
 
+/// Makes the roots and entries of a control file, without what is in the entries; @p data is not
+/// used.
+int generateIndexElement(const QString &tag, const QXmlAttributes &attributes, void *data);
+
 /// Makes the root of a control file and the whole entry of one key; @p key points to its QString.
 int generateContentElement(const QString &tag, const QXmlAttributes &attributes, void *key);
 

@@ -3,7 +3,7 @@
 
 #include "ui/items/HRScrollBarComponent.h"
 
-#include "ui/popup/widgetLength_p.h"
+#include "ui/items/widgetLength_p.h"
 
 #include <QtMath>
 

@@ -10,12 +10,12 @@
 #include "manager/HRManager.h"
 #include "ui/popup/HROverrideCursors_p.h"
 #include "ui/popup/HRSceneLoader_p.h"
+#include "ui/popup/HRViewClips_p.h"
 #include "ui/popup/contentTree_p.h"
 #include "ui/popup/cursorShape_p.h"
 #include "ui/popup/quickRenderer_p.h"
 #include "ui/popup/sceneReach_p.h"
 #include "ui/popup/serviceTypes_p.h"
-#include "video/HRVideoComponent.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -47,19 +47,6 @@ void reportErrors(HRManager *manager, const QString &pattern, const QList<QQmlEr
         report(manager, pattern.arg(error.line()).arg(error.column()).arg(error.description()));
 }
 
-/// All clips below an item, whatever made them.
-QVector<HRVideoComponent *> clipsBelow(const QQuickItem *item)
-{
-    QVector<HRVideoComponent *> clips;
-    const QList<QQuickItem *> children = item->childItems();
-    for (QQuickItem *child : children) {
-        if (auto *clip = qobject_cast<HRVideoComponent *>(child))
-            clips.append(clip);
-        clips += clipsBelow(child);
-    }
-    return clips;
-}
-
 QString packageName(const HRXmlElement *content)
 {
     return content ? content->attribute(QStringLiteral("HRPackagName")) : QString();
@@ -72,6 +59,19 @@ void reportRefusal(
         manager->handleMessage(messageWarning,
             QStringLiteral("Package \"%1\" may not use %2 \"%3\"")
                 .arg(packageName(content), kind, path));
+}
+
+/// Null for the defaults.
+const HRContext *settingsOf(const HRManager *manager)
+{
+    return manager ? &manager->context() : nullptr;
+}
+
+HRReach reachOf(const HRManager *manager, const HRXmlElement *content, const QString &qmlFile,
+    const QQmlEngine &engine)
+{
+    return manager ? reachOfScene(manager->context(), *manager->index(), content, qmlFile, engine)
+                   : HRReach();
 }
 
 QVariant managerSetting(HRManager *manager, HRContextKey key, const QVariant &defaultValue)
@@ -91,7 +91,7 @@ int HRSceneWindow::qt_metacall(QMetaObject::Call call, int id, void **arguments)
 }
 
 HRView::HRView(HRManager *manager, QWindow *parent)
-    : HRSceneWindow((chooseQuickRenderer(manager), parent))
+    : HRSceneWindow((chooseQuickRenderer(settingsOf(manager)), parent))
     , m_manager(manager)
     , m_cursors(std::make_unique<HROverrideCursors>())
     , m_loader(std::make_unique<HRSceneLoader>(
@@ -101,6 +101,7 @@ HRView::HRView(HRManager *manager, QWindow *parent)
               reportRefusal(m_manager, m_content, kind, path);
           }))
     , m_watch(std::make_shared<HRScriptWatch>(engine()))
+    , m_clips(new HRViewClips(this))
 {
     connect(m_watch.get(), &HRScriptWatch::stopped, this, &HRView::scriptStopped);
     connect(engine(), &QQmlEngine::warnings, this, &HRView::handleWarnings);
@@ -279,15 +280,12 @@ void HRView::releaseOverrideCursors()
 
 void HRView::setDecodingPaused(bool paused)
 {
-    m_decodingPaused = paused;
-    const auto clips = clipsBelow(contentItem());
-    for (HRVideoComponent *clip : clips)
-        clip->setDecodingPaused(paused);
+    m_clips->setDecodingPaused(paused);
 }
 
 bool HRView::isDecodingPaused() const
 {
-    return m_decodingPaused;
+    return m_clips->isDecodingPaused();
 }
 
 void HRView::handleWarnings(const QList<QQmlError> &warnings)
@@ -408,7 +406,7 @@ bool HRView::event(QEvent *event)
 void HRView::take(const QUrl &source)
 {
     followRules();
-    if (!mayBecomeScene(source, reachOfScene(m_manager, m_content, m_qmlFile, *engine()))) {
+    if (!mayBecomeScene(source, reachOf(m_manager, m_content, m_qmlFile, *engine()))) {
         m_gates->refuse(QStringLiteral("ui"), source.toLocalFile());
         return;
     }
@@ -418,7 +416,7 @@ void HRView::take(const QUrl &source)
         endScene();
         return;
     }
-    m_watch->start(scriptLimit(m_manager));
+    m_watch->start(scriptLimit(settingsOf(m_manager)));
     const HRScriptWatch::Entry entry(m_watch);
     QQuickView::setSource(source);
     m_gates->tellRefusals();
@@ -436,7 +434,7 @@ void HRView::endScene()
 
 void HRView::followRules() const
 {
-    m_gates->setReach(reachOfScene(m_manager, m_content, m_qmlFile, *engine()));
+    m_gates->setReach(reachOf(m_manager, m_content, m_qmlFile, *engine()));
 }
 
 void HRView::scriptStopped(int limit)
@@ -456,8 +454,8 @@ void HRView::resizeEvent(QResizeEvent *)
 
 void HRView::focusInEvent(QFocusEvent *)
 {
-    // When the focus comes from a Qt::Tool window around the view, Qt says that a popup has closed,
-    // and then no item becomes active.
+    // When the focus comes from a Qt::Tool window around the view, Qt says that a popup has
+    // closed, and then no item becomes active.
     QFocusEvent event(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
     QQuickView::focusInEvent(&event);
 }

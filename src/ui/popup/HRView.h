@@ -25,6 +25,7 @@ class HROverrideCursors;
 class HRSceneGates;
 class HRSceneLoader;
 class HRScriptWatch;
+class HRViewClips;
 enum class HRFileUse;
 
 /// A view whose scripts may ask for another QML file by what QQuickView itself offers them.
@@ -236,12 +237,12 @@ private:
     QString m_packageRoot;
     bool m_stayOpen = false;
     bool m_reserved = false;
-    bool m_decodingPaused = false;
     std::unique_ptr<HROverrideCursors> m_cursors;
     std::unique_ptr<HRSceneLoader> m_loader;
     QString m_qmlFile; // of the scene
     std::unique_ptr<HRSceneGates> m_gates;
     std::shared_ptr<HRScriptWatch> m_watch;
+    HRViewClips *m_clips;
 };
 
 } // namespace Hintreels

@@ -3,10 +3,10 @@
 
 #include "ui/popup/popupFit_p.h"
 
+#include "ui/items/widgetLength_p.h"
 #include "ui/popup/HRView.h"
 #include "ui/popup/HRWidget.h"
 #include "ui/popup/popupGeometry_p.h"
-#include "ui/popup/widgetLength_p.h"
 
 #include <QLayout>
 #include <QQuickItem>

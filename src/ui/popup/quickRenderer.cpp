@@ -4,7 +4,6 @@
 #include "ui/popup/quickRenderer_p.h"
 
 #include "context/setting_p.h"
-#include "manager/HRManager.h"
 
 #include <QOpenGLContext>
 #include <QQuickWindow>
@@ -21,21 +20,21 @@ bool hasOpenGL()
     return context.create();
 }
 
-bool isSoftwareAllowed(HRManager *manager)
+bool isSoftwareAllowed(const HRContext *settings)
 {
-    return !manager || !setting(manager->context(), forbidSoftwareRendererKey, false);
+    return !settings || !setting(*settings, forbidSoftwareRendererKey, false);
 }
 
 } // namespace
 
-bool chooseQuickRenderer(HRManager *manager)
+bool chooseQuickRenderer(const HRContext *settings)
 {
     if (!QQuickWindow::sceneGraphBackend().isEmpty())
         return true;
     static const bool isAccelerated = hasOpenGL();
     if (isAccelerated)
         return true;
-    if (!isSoftwareAllowed(manager))
+    if (!isSoftwareAllowed(settings))
         return false;
     // Once, since after a window of the host's own it is too late, and Qt warns each time.
     static bool isTold = false;

@@ -3,9 +3,9 @@
 
 #pragma once
 
-namespace Hintreels {
+class HRContext;
 
-class HRManager;
+namespace Hintreels {
 
 /// Makes Qt Quick render in software where OpenGL is not to be had, for the whole process.
 ///
@@ -13,8 +13,8 @@ class HRManager;
 /// before the first of its windows. A backend that the host or its user has chosen stays, and the
 /// setting forbidSoftwareRendererKey leaves everything as it is. To be called before each view is
 /// constructed; looks for OpenGL only once, since a look costs an OpenGL context.
-/// @param manager whose settings count; null for the defaults
+/// @param settings null for the defaults
 /// @return false where the setting is all that keeps a view from being painted
-bool chooseQuickRenderer(HRManager *manager);
+bool chooseQuickRenderer(const HRContext *settings);
 
 } // namespace Hintreels

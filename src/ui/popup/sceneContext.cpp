@@ -21,7 +21,9 @@ namespace {
 void setLastingProperties(QQmlContext &context, HRView *view, const QPointer<HRManager> &manager)
 {
     context.setContextProperty(QStringLiteral("hintreelView"), view);
-    const auto settings = [m = manager] { return readerSettings(m); };
+    const auto settings = [m = manager] {
+        return m ? readerSettings(m->context(), m->currentLocale()) : readerSettings();
+    };
     const auto admits = [v = QPointer<HRView>(view)](const QString &path, HRFileUse use) {
         return v && v->mayOpen(QStringLiteral("source"), path, use);
     };

@@ -6,7 +6,6 @@
 #include "content/HRXmlElement.h"
 #include "context/setting_p.h"
 #include "index/HRIndex.h"
-#include "manager/HRManager.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -52,20 +51,17 @@ QStringList filesNamedByHost(const HRContext &context)
 
 } // namespace
 
-HRReach reachOfScene(const HRManager *manager, const HRXmlElement *content, const QString &qmlFile,
-    const QQmlEngine &engine)
+HRReach reachOfScene(const HRContext &context, const HRIndex &index, const HRXmlElement *content,
+    const QString &qmlFile, const QQmlEngine &engine)
 {
     HRReach reach;
-    if (!manager)
-        return reach;
-    reach.rules = packageRules(manager->context());
+    reach.rules = packageRules(context);
     if (!reach.rules.ownFilesOnly)
         return reach;
     if (content)
-        reach.packages = manager->index()->componentPathsForElement(content, QString());
-    const QString suffix
-        = setting(manager->context(), packageSuffixKey, QStringLiteral("hintreels"));
-    QStringList qmlFiles = filesNamedByHost(manager->context());
+        reach.packages = index.componentPathsForElement(content, QString());
+    const QString suffix = setting(context, packageSuffixKey, QStringLiteral("hintreels"));
+    QStringList qmlFiles = filesNamedByHost(context);
     if (!qmlFile.isEmpty())
         qmlFiles.append(qmlFile);
     for (const QString &file : qAsConst(qmlFiles))
@@ -97,10 +93,9 @@ QUrl urlOfFile(const QString &path)
                                                 : QUrl::fromLocalFile(path);
 }
 
-int scriptLimit(const HRManager *manager)
+int scriptLimit(const HRContext *settings)
 {
-    return manager ? setting(manager->context(), scriptLimitKey, usualScriptLimit)
-                   : usualScriptLimit;
+    return settings ? setting(*settings, scriptLimitKey, usualScriptLimit) : usualScriptLimit;
 }
 
 } // namespace Hintreels

@@ -11,18 +11,19 @@ QT_BEGIN_NAMESPACE
 class QQmlEngine;
 QT_END_NAMESPACE
 
+class HRContext;
+
 namespace Hintreels {
 
-class HRManager;
+class HRIndex;
 class HRXmlElement;
 
 /// Where the files of a scene may lie: in the packages of its content, in that of its QML file, and
 /// around the QML files that the host names by their whole path.
 ///
-/// @param manager may be null, which gives every setting its default
 /// @param content may be null
-HRReach reachOfScene(const HRManager *manager, const HRXmlElement *content, const QString &qmlFile,
-    const QQmlEngine &engine);
+HRReach reachOfScene(const HRContext &context, const HRIndex &index, const HRXmlElement *content,
+    const QString &qmlFile, const QQmlEngine &engine);
 
 /// Whether a scene may be made of a QML file.
 bool mayBecomeScene(const QUrl &source, const HRReach &reach);
@@ -34,6 +35,7 @@ QString builtInUi(bool simple);
 QUrl urlOfFile(const QString &path);
 
 /// How long a script may run, in milliseconds; 0 or less is for ever.
-int scriptLimit(const HRManager *manager);
+/// @param settings null for the defaults
+int scriptLimit(const HRContext *settings);
 
 } // namespace Hintreels

@@ -4,8 +4,8 @@
 #include "ui/reader/HRContentReader_p.h"
 
 #include "context/printable_p.h"
-#include "ui/popup/heapTrim_p.h"
 #include "ui/reader/HRMeasuring_p.h"
+#include "ui/reader/heapTrim_p.h"
 #include "ui/reader/hintReading_p.h"
 #include "ui/reader/keyCaps_p.h"
 #include "ui/reader/pictureFile_p.h"

@@ -5,7 +5,6 @@
 
 #include "context/setting_p.h"
 #include "gates/HRPackageRules_p.h"
-#include "manager/HRManager.h"
 
 #include <QApplication>
 #include <QStyle>
@@ -22,14 +21,15 @@ bool desktopReducesMotion()
 
 } // namespace
 
-HRReaderSettings readerSettings(HRManager *manager)
+HRReaderSettings readerSettings()
 {
-    if (!manager)
-        return { { QLocale::system() }, desktopReducesMotion() };
-    const HRContext &context = manager->context();
+    return { { QLocale::system() }, desktopReducesMotion() };
+}
+
+HRReaderSettings readerSettings(const HRContext &context, const QLocale &locale)
+{
     const QLocale fallback(setting(context, fallbackLocaleKey, QStringLiteral("en_US")));
-    return { { manager->currentLocale(), fallback },
-        setting(context, reducedMotionKey, desktopReducesMotion()),
+    return { { locale, fallback }, setting(context, reducedMotionKey, desktopReducesMotion()),
         packageRules(context).fromStrangers };
 }
 

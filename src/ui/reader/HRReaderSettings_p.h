@@ -6,9 +6,9 @@
 #include <QLocale>
 #include <QVector>
 
-namespace Hintreels {
+class HRContext;
 
-class HRManager;
+namespace Hintreels {
 
 /// What the reader of a popup prefers.
 struct HRReaderSettings
@@ -18,7 +18,11 @@ struct HRReaderSettings
     bool showsTargets = false; ///< links tell where they lead: strangers have written them
 };
 
-/// The settings as they are now; those of the desktop where the manager is null.
-HRReaderSettings readerSettings(HRManager *manager);
+/// The settings as they are now.
+/// @param locale that of translations
+HRReaderSettings readerSettings(const HRContext &context, const QLocale &locale);
+
+/// Those of the desktop.
+HRReaderSettings readerSettings();
 
 } // namespace Hintreels

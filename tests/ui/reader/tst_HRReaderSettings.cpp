@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
-#include "manager/HRManager.h"
+#include "context/HRContext.h"
 #include "support/MessageGuard.h"
-#include "support/RecordingHost.h"
 #include "ui/reader/HRReaderSettings_p.h"
 
 #include <QProxyStyle>
@@ -42,7 +41,7 @@ class tst_HRReaderSettings : public QObject
 
 private Q_SLOTS:
     void locales_beginWithTheCurrentOne();
-    void locales_areThoseOfTheSystem_whenManagerIsNull();
+    void locales_areThoseOfTheSystem_withoutSettings();
     void reducedMotion_followsSettingThenDesktop_data();
     void reducedMotion_followsSettingThenDesktop();
 };
@@ -50,20 +49,19 @@ private Q_SLOTS:
 void tst_HRReaderSettings::locales_beginWithTheCurrentOne()
 {
     HRContext context;
-    context.set(localeKey, "de_DE");
-    RecordingHost host(context, {});
+    const QLocale german("de_DE");
 
-    QCOMPARE(readerSettings(host.manager()).locales,
-        (QVector<QLocale>{ QLocale("de_DE"), QLocale("en_US") }));
+    QCOMPARE(
+        readerSettings(context, german).locales, (QVector<QLocale>{ german, QLocale("en_US") }));
 
-    host.context().set(fallbackLocaleKey, "fr_FR");
-    QCOMPARE(readerSettings(host.manager()).locales,
-        (QVector<QLocale>{ QLocale("de_DE"), QLocale("fr_FR") }));
+    context.set(fallbackLocaleKey, "fr_FR");
+    QCOMPARE(
+        readerSettings(context, german).locales, (QVector<QLocale>{ german, QLocale("fr_FR") }));
 }
 
-void tst_HRReaderSettings::locales_areThoseOfTheSystem_whenManagerIsNull()
+void tst_HRReaderSettings::locales_areThoseOfTheSystem_withoutSettings()
 {
-    QCOMPARE(readerSettings(nullptr).locales, QVector<QLocale>{ QLocale::system() });
+    QCOMPARE(readerSettings().locales, QVector<QLocale>{ QLocale::system() });
 }
 
 void tst_HRReaderSettings::reducedMotion_followsSettingThenDesktop_data()
@@ -87,10 +85,9 @@ void tst_HRReaderSettings::reducedMotion_followsSettingThenDesktop()
     HRContext context;
     if (setting.isValid())
         context.set(reducedMotionKey, setting);
-    RecordingHost host(context, {});
 
-    QCOMPARE(readerSettings(host.manager()).reducedMotion, reduced);
-    QCOMPARE(readerSettings(nullptr).reducedMotion, !desktopMoves);
+    QCOMPARE(readerSettings(context, QLocale()).reducedMotion, reduced);
+    QCOMPARE(readerSettings().reducedMotion, !desktopMoves);
 }
 
 QTEST_MAIN(tst_HRReaderSettings)

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
-#include "ui/popup/heapTrim_p.h"
+#include "ui/reader/heapTrim_p.h"
 
 #include <QFile>
 #include <QtTest>
