@@ -14,6 +14,8 @@ class tst_externalResource : public QObject
 private Q_SLOTS:
     void externalResourceType_tellsKinds_data();
     void externalResourceType_tellsKinds();
+    void mayStrangersOpen_namesAndAddresses_data();
+    void mayStrangersOpen_namesAndAddresses();
 };
 
 void tst_externalResource::externalResourceType_tellsKinds_data()
@@ -34,6 +36,28 @@ void tst_externalResource::externalResourceType_tellsKinds()
 {
     QFETCH(QString, resource);
     QTEST(int(externalResourceType(resource)), "type");
+}
+
+void tst_externalResource::mayStrangersOpen_namesAndAddresses_data()
+{
+    QTest::addColumn<QString>("resource");
+    QTest::addColumn<bool>("may");
+    QTest::newRow("web address") << "http://example.org/a" << true;
+    QTest::newRow("web address, encrypted") << "https://example.org/a" << true;
+    QTest::newRow("mail address") << "mailto:a@example.org" << true;
+    QTest::newRow("name") << "intro" << true;
+    QTest::newRow("relative path") << "help/index.html" << false;
+    QTest::newRow("absolute path") << "/usr/bin/env" << false;
+    QTest::newRow("file") << "file:///usr/bin/env" << false;
+    QTest::newRow("script") << "javascript:alert(1)" << false;
+    QTest::newRow("address of another kind") << "ftp://example.org/a" << false;
+    QTest::newRow("invalid web address") << "http://a b/c" << false;
+}
+
+void tst_externalResource::mayStrangersOpen_namesAndAddresses()
+{
+    QFETCH(QString, resource);
+    QTEST(mayStrangersOpen(resource), "may");
 }
 
 QTEST_APPLESS_MAIN(tst_externalResource)

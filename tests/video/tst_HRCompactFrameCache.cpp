@@ -23,6 +23,10 @@ private Q_SLOTS:
     void frames_equalThePlainCache_ofRealClips();
     void frames_equalThePlainCache_asTheyAreDecoded_data();
     void frames_equalThePlainCache_asTheyAreDecoded();
+    void frames_equalThePlainCache_whicheverPixelChanges_data();
+    void frames_equalThePlainCache_whicheverPixelChanges();
+    void addFrame_keepsThePicture_fromAQuarterOfNewPixelsOn_data();
+    void addFrame_keepsThePicture_fromAQuarterOfNewPixelsOn();
     void addFrame_trustsDamage_onlyOfThePictureBefore();
     void frames_equalThePlainCache_whenSizeAndFormatChange();
     void frame_returnsNull_beyondTheLast();
@@ -193,6 +197,83 @@ void tst_HRCompactFrameCache::frames_equalThePlainCache_asTheyAreDecoded()
     }
     QCOMPARE(compact.length(), size_t(12));
     compareCaches(plain, compact);
+}
+
+void tst_HRCompactFrameCache::frames_equalThePlainCache_whicheverPixelChanges_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<bool>("isDamageKnown");
+    for (const bool isDamageKnown : { false, true }) {
+        const char *damage = isDamageKnown ? "its place known" : "its place unknown";
+        QTest::addRow("whole tiles, %s", damage) << QSize(48, 48) << isDamageKnown;
+        QTest::addRow("a pixel more, %s", damage) << QSize(49, 49) << isDamageKnown;
+        QTest::addRow("a pixel less, %s", damage) << QSize(47, 47) << isDamageKnown;
+        QTest::addRow("one tile and a pixel, %s", damage) << QSize(17, 65) << isDamageKnown;
+    }
+}
+
+/// The pixels in the corners of all tiles, one after the other.
+void tst_HRCompactFrameCache::frames_equalThePlainCache_whicheverPixelChanges()
+{
+    QFETCH(QSize, size);
+    QFETCH(bool, isDamageKnown);
+    HRVideoFrame picture(size.width(), size.height(), QImage::Format_RGB32, 0);
+    picture.fill(Qt::gray);
+    HRVideoFrameCache plain("x");
+    HRCompactFrameCache compact("x");
+    plain.addFrame(picture);
+    compact.addFrame(picture);
+    const auto isCorner
+        = [](int at, int end) { return at % 16 == 0 || at % 16 == 15 || at == end; };
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x) {
+            if (!isCorner(x, size.width() - 1) || !isCorner(y, size.height() - 1))
+                continue;
+            const qint64 before = picture.cacheKey();
+            picture.setPixel(x, y, qRgb(x, y, 255));
+            if (isDamageKnown)
+                picture.setDamage(before, QRect(x, y, 1, 1));
+            plain.addFrame(picture);
+            compact.addFrame(picture);
+        }
+    }
+    compareCaches(plain, compact);
+}
+
+void tst_HRCompactFrameCache::addFrame_keepsThePicture_fromAQuarterOfNewPixelsOn_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QRect>("changed");
+    QTest::addColumn<bool>("isKept");
+    QTest::newRow("a tile of four") << QSize(32, 32) << QRect(0, 0, 1, 1) << true;
+    QTest::newRow("a tile of six") << QSize(48, 32) << QRect(0, 0, 1, 1) << false;
+    QTest::newRow("two tiles of six") << QSize(48, 32) << QRect(15, 0, 2, 1) << true;
+    QTest::newRow("tiles at the edge count by their pixels")
+        << QSize(80, 20) << QRect(0, 16, 80, 4) << false;
+    QTest::newRow("the pixels of tiles at the edge count")
+        << QSize(80, 22) << QRect(0, 16, 80, 6) << true;
+    QTest::newRow("nothing") << QSize(32, 32) << QRect() << false;
+}
+
+/// Shown by the memory, which is the caller's only where the picture was kept as it is.
+void tst_HRCompactFrameCache::addFrame_keepsThePicture_fromAQuarterOfNewPixelsOn()
+{
+    QFETCH(QSize, size);
+    QFETCH(QRect, changed);
+    HRVideoFrame first(size.width(), size.height(), QImage::Format_RGB32, 0);
+    first.fill(Qt::gray);
+    HRVideoFrame second(first.copy(), 0);
+    for (int y = changed.top(); y <= changed.bottom(); ++y)
+        for (int x = changed.left(); x <= changed.right(); ++x)
+            second.setPixel(x, y, qRgb(255, 0, 0));
+    HRCompactFrameCache cache("x");
+    cache.addFrame(first);
+    cache.addFrame(second);
+
+    const HRVideoFrame kept = cache.frame(1);
+
+    QTEST(kept.constBits() == qAsConst(second).constBits(), "isKept");
+    QCOMPARE(static_cast<const QImage &>(kept), static_cast<const QImage &>(second));
 }
 
 void tst_HRCompactFrameCache::addFrame_trustsDamage_onlyOfThePictureBefore()
