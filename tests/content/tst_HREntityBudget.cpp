@@ -169,6 +169,7 @@ void tst_HREntityBudget::declare_endsSooner_whenValuesAreLong_data()
     QTest::addColumn<int>("valueSize");
     QTest::addColumn<int>("entities");
     QTest::newRow("short values") << 600000 << 128 << 4096;
+    QTest::newRow("a letter more") << 10 << 129 << 4080;
     QTest::newRow("long values") << 4200000 << 1024 << 2025;
     QTest::newRow("a thousand, however long") << 16500000 << 16384 << 1003;
 }

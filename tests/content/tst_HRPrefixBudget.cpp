@@ -66,6 +66,8 @@ void tst_HRPrefixBudget::spendElement_usesUpTheBudget_underManyPrefixes_data()
     QTest::addColumn<int>("length");
     QTest::addColumn<int>("elements");
     QTest::newRow("33 of 64 letters") << 33 << 64 << 13694;
+    QTest::newRow("33 of 60 letters") << 33 << 60 << 14499;
+    QTest::newRow("64 of 24 letters, to the last of the budget") << 64 << 24 << 8192;
     QTest::newRow("1,000 of 8 letters") << 1000 << 8 << 67;
     QTest::newRow("20,000 of 5 letters") << 20000 << 5 << 0;
 }

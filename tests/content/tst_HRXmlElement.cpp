@@ -1,57 +1,24 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
-#include "content/HRXmlElement.h"
+#include "content/ElementBuilder.h"
 
 #include <QQmlContext>
 #include <QQmlEngine>
 #include <QQmlExpression>
 #include <QtTest>
 
-#include <limits>
 #include <memory>
 
 using namespace Hintreels;
 
 namespace {
 
-HRXmlElement *newElement(const QString &tagName, QObject *parent = nullptr)
-{
-    auto *element = new HRXmlElement(parent);
-    element->setTagName(tagName);
-    return element;
-}
-
-QObject *newObject(const QString &name, QObject *parent)
-{
-    auto *object = new QObject(parent);
-    object->setObjectName(name);
-    return object;
-}
-
-/// A chain of elements "a", each the only child of the one before.
-std::unique_ptr<HRXmlElement> newChain(int length)
-{
-    std::unique_ptr<HRXmlElement> root(newElement("a"));
-    HRXmlElement *last = root.get();
-    for (int i = 1; i < length; ++i)
-        last = newElement("a", last);
-    return root;
-}
-
 HRXmlElement *deepest(HRXmlElement *element)
 {
     while (!element->children().isEmpty())
         element = static_cast<HRXmlElement *>(element->children().first());
     return element;
-}
-
-QXmlAttributes attributes(const QVector<QPair<QString, QString>> &pairs)
-{
-    QXmlAttributes result;
-    for (const auto &pair : pairs)
-        result.append(pair.first, QString(), pair.first, pair.second);
-    return result;
 }
 
 } // namespace
@@ -81,21 +48,11 @@ private Q_SLOTS:
     void childElement_findsNamelessElement_whenNameIsEmpty();
     void childElementList_putsParentsBeforeChildren();
     void childElementList_returnsEverything_whenNameIsEmpty();
-    void toXml_writesTree_data();
-    void toXml_writesTree();
-    void toXml_skipsOtherObjects();
-    void toXml_leavesOutContentAndNamespace();
-    void toXml_escapesNothing();
-    void toXml_fillsPlaceholdersOfContent_data();
-    void toXml_fillsPlaceholdersOfContent();
     void deletion_freesWholeTree();
     void deletion_leavesOtherObjectsTheirChildren();
     void deletion_takesDeepTree();
     void deletion_takesWideTree();
     void search_takesDeepTree();
-    void toXml_takesDeepTree();
-    void toXml_indentsByTenThousandAtMost_data();
-    void toXml_indentsByTenThousandAtMost();
     void qml_readsElements();
 };
 
@@ -316,97 +273,6 @@ void tst_HRXmlElement::childElementList_returnsEverything_whenNameIsEmpty()
     QCOMPARE(root.childElementList(QString()), all);
 }
 
-void tst_HRXmlElement::toXml_writesTree_data()
-{
-    QTest::addColumn<int>("index");
-    QTest::addColumn<QString>("xml");
-
-    QTest::newRow("at the margin")
-        << 0 << "<a x=\"1\" y=\"2\">\n  <b/>\n  <c>\n    <d/>\n  </c>\n</a>";
-    QTest::newRow("indented") << 3
-                              << "   <a x=\"1\" y=\"2\">\n     <b/>\n     <c>\n       <d/>\n"
-                                 "     </c>\n   </a>";
-    QTest::newRow("left of the margin")
-        << -3 << "<a x=\"1\" y=\"2\">\n<b/>\n<c>\n <d/>\n</c>\n</a>";
-}
-
-void tst_HRXmlElement::toXml_writesTree()
-{
-    HRXmlElement root(nullptr, attributes({ { "y", "2" }, { "x", "1" } }));
-    root.setTagName("a");
-    newElement("b", &root);
-    newElement("d", newElement("c", &root));
-
-    QFETCH(int, index);
-    QTEST(root.toXml(index), "xml");
-}
-
-void tst_HRXmlElement::toXml_skipsOtherObjects()
-{
-    const std::unique_ptr<HRXmlElement> root(newElement("a"));
-    newElement("b", newObject("other", root.get()));
-    QCOMPARE(root->toXml(), QString("<a/>"));
-}
-
-void tst_HRXmlElement::toXml_leavesOutContentAndNamespace()
-{
-    HRXmlElement element;
-    element.setTagName("a");
-    element.setTagNameSpace("urn:a");
-    element.setContent(QString(10000, 'x'));
-    QCOMPARE(element.toXml(), QString("<a/>"));
-}
-
-void tst_HRXmlElement::toXml_escapesNothing()
-{
-    HRXmlElement element(nullptr, attributes({ { "x", "\"<&>'" } }));
-    element.setTagName("a");
-    QCOMPARE(element.toXml(), QString("<a x=\"\"<&>'\"/>"));
-}
-
-void tst_HRXmlElement::toXml_fillsPlaceholdersOfContent_data()
-{
-    QTest::addColumn<QString>("tagName");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<QString>("xml");
-
-    QTest::newRow("closing mark in a value") << "a"
-                                             << "x"
-                                             << "%4"
-                                             << "<a x=\"/\"/>";
-    QTest::newRow("unknown marker in a value") << "a"
-                                               << "x"
-                                               << "%5"
-                                               << "<a x=\"%5\"/>";
-    QTest::newRow("lower marker in a value") << "a"
-                                             << "x"
-                                             << "%3"
-                                             << "<a x=\"/\"%4>";
-    QTest::newRow("value in its own name") << "a"
-                                           << "%2"
-                                           << "v"
-                                           << "<a v=\"v\"/>";
-    QTest::newRow("attributes in the tag name") << "t%3"
-                                                << "x"
-                                                << "1"
-                                                << "<t x=\"1\" x=\"1\"/>";
-    QTest::newRow("closing mark in the tag name") << "t%4"
-                                                  << "x"
-                                                  << "1"
-                                                  << "<t/ x=\"1\"/>";
-}
-
-void tst_HRXmlElement::toXml_fillsPlaceholdersOfContent()
-{
-    QFETCH(QString, tagName);
-    QFETCH(QString, name);
-    QFETCH(QString, value);
-    HRXmlElement element(nullptr, attributes({ { name, value } }));
-    element.setTagName(tagName);
-    QTEST(element.toXml(), "xml");
-}
-
 void tst_HRXmlElement::deletion_freesWholeTree()
 {
     auto *root = new HRXmlElement;
@@ -472,47 +338,6 @@ void tst_HRXmlElement::search_takesDeepTree()
     QCOMPARE(root->childElement("absent"), nullptr);
     QCOMPARE(root->childElementList("wanted"), QList<QObject *>{ last });
     QCOMPARE(root->childElementList("a").size(), 199998);
-}
-
-void tst_HRXmlElement::toXml_takesDeepTree()
-{
-    // So far left of the margin that no level is indented: the text grows with the depth only.
-    const QString xml = newChain(200000)->toXml(-400000);
-    QCOMPARE(xml.count("<a>"), 199999);
-    QCOMPARE(xml.count("<a/>"), 1);
-    QCOMPARE(xml.count("</a>"), 199999);
-}
-
-void tst_HRXmlElement::toXml_indentsByTenThousandAtMost_data()
-{
-    QTest::addColumn<int>("index");
-    QTest::addColumn<int>("indent");
-    QTest::addColumn<int>("childIndent");
-    const int largest = std::numeric_limits<int>::max();
-    QTest::newRow("within") << 9998 << 9998 << 10000;
-    QTest::newRow("child beyond") << 9999 << 9999 << 10000;
-    QTest::newRow("beyond") << 10001 << 10000 << 10000;
-    QTest::newRow("beyond a string's length") << largest - 10 << 10000 << 10000;
-    QTest::newRow("largest") << largest << 10000 << 10000;
-    QTest::newRow("smallest") << std::numeric_limits<int>::min() << 0 << 0;
-}
-
-void tst_HRXmlElement::toXml_indentsByTenThousandAtMost()
-{
-    QFETCH(int, index);
-    QFETCH(int, indent);
-    QFETCH(int, childIndent);
-    HRXmlElement root;
-    root.setTagName("a");
-    newElement("b", &root);
-    QQmlEngine engine;
-    engine.rootContext()->setContextProperty("root", &root);
-
-    QQmlExpression expression(engine.rootContext(), nullptr, QString("root.toXml(%1)").arg(index));
-    const QString xml = expression.evaluate().toString();
-
-    const QString margin(indent, ' ');
-    QVERIFY(xml == margin + "<a>\n" + QString(childIndent, ' ') + "<b/>\n" + margin + "</a>");
 }
 
 void tst_HRXmlElement::qml_readsElements()

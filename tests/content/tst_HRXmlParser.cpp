@@ -1,16 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
-#include "content/HRXmlElement.h"
-#include "content/HRXmlParser.h"
+#include "content/ParserFixture.h"
 #include "support/MessageGuard.h"
 #include "support/MisleadingNames.h"
 
-#include <QBuffer>
-#include <QPointer>
 #include <QtTest>
-
-#include <memory>
 
 using namespace Hintreels;
 
@@ -52,70 +47,6 @@ public:
     }
 };
 
-/// The answers of a filter by qualified name, and what it was asked.
-struct Answers
-{
-    QMap<QString, int> modes;
-    QStringList asked;
-
-    static int give(const QString &qName, const QXmlAttributes &attributes, void *context)
-    {
-        auto *answers = static_cast<Answers *>(context);
-        answers->asked.append(qName);
-        for (int i = 0; i < attributes.length(); ++i)
-            answers->asked.append(attributes.qName(i) + '=' + attributes.value(i));
-        return answers->modes.value(qName);
-    }
-};
-
-/// The top-level objects of one reading, which die with this.
-class Objects
-{
-public:
-    Objects(HRXmlParser &parser, const QString &document)
-    {
-        QXmlInputSource source;
-        source.setData(document);
-        for (QObject *object : parser.read(source))
-            m_objects.append(object);
-    }
-    ~Objects()
-    {
-        for (const QPointer<QObject> &object : qAsConst(m_objects))
-            delete object;
-    }
-    Q_DISABLE_COPY(Objects)
-
-    int size() const { return m_objects.size(); }
-    QObject *at(int i) const { return m_objects.at(i); }
-    HRXmlElement *element(int i = 0) const { return qobject_cast<HRXmlElement *>(m_objects.at(i)); }
-
-private:
-    QVector<QPointer<QObject>> m_objects;
-};
-
-/// Tags and text of a tree in one line, such as "a{b'text'}".
-QString outline(const QObject *object)
-{
-    QString result = object->objectName();
-    if (const auto *element = qobject_cast<const HRXmlElement *>(object)) {
-        if (!element->content().isEmpty())
-            result += '\'' + element->content() + '\'';
-    }
-    QStringList children;
-    for (const QObject *child : object->children())
-        children.append(outline(child));
-    return children.isEmpty() ? result : result + '{' + children.join(' ') + '}';
-}
-
-QString outline(const Objects &objects)
-{
-    QStringList outlines;
-    for (int i = 0; i < objects.size(); ++i)
-        outlines.append(outline(objects.at(i)));
-    return outlines.join(' ');
-}
-
 } // namespace
 
 class tst_HRXmlParser : public QObject
@@ -143,17 +74,6 @@ private Q_SLOTS:
     void read_trimsTagName();
     void read_keepsAttributes_whenElementTakesThem();
     void read_appendsTextInOrder();
-    void read_includesSmallEntities();
-    void read_leavesOutExternalEntities();
-    void read_returnsNothing_whenDocumentIsUnusable_data();
-    void read_returnsNothing_whenDocumentIsUnusable();
-    void read_returnsFinishedElements_whenDocumentBreaksOff();
-    void read_startsAfresh_whenReadBefore();
-    void read_takesDeviceInPieces();
-    void read_decodesDevice_data();
-    void read_decodesDevice();
-    void destructor_deletesOpenElements_afterFailure();
-    void destructor_leavesResult_afterSuccess();
 };
 
 void tst_HRXmlParser::defaultElement_isElement()
@@ -397,140 +317,6 @@ void tst_HRXmlParser::read_appendsTextInOrder()
     const Objects objects(
         parser, "<a> 1&amp;2 <![CDATA[ <3> ]]><!-- no -->&#52;<b>not\nthis</b>\n  5\t</a>");
     QCOMPARE(objects.element()->content(), QString(" 1&2  <3> 4\n  5\t"));
-}
-
-void tst_HRXmlParser::read_includesSmallEntities()
-{
-    HRXmlParser parser;
-    const Objects objects(parser,
-        "<!DOCTYPE a [<!ENTITY n 'Hint&w;'><!ENTITY w 'reels'><!ENTITY e '<b>&n;</b>'>]>"
-        "<a t='by &n;'>the &n;.&e;</a>");
-    QCOMPARE(outline(objects), QString("a'the Hintreels.'{b'Hintreels'}"));
-    QCOMPARE(objects.element()->attribute("t"), QString("by Hintreels"));
-}
-
-void tst_HRXmlParser::read_leavesOutExternalEntities()
-{
-    QTemporaryFile file;
-    QVERIFY(file.open());
-    file.write("secret");
-    file.flush();
-    HRXmlParser parser;
-    const Objects objects(
-        parser, QString("<!DOCTYPE a [<!ENTITY e SYSTEM '%1'>]><a>1&e;2</a>").arg(file.fileName()));
-    QCOMPARE(outline(objects), QString("a'12'"));
-}
-
-void tst_HRXmlParser::read_returnsNothing_whenDocumentIsUnusable_data()
-{
-    QTest::addColumn<QString>("document");
-    QTest::addColumn<QString>("message");
-
-    QTest::newRow("empty") << ""
-                           << "Fatal error at 1,1 : unexpected end of file";
-    QTest::newRow("no element") << "<?xml version='1.0'?>\n"
-                                << "Fatal error at 2,1 : unexpected end of file";
-    QTest::newRow("not XML") << "{}"
-                             << "Fatal error at 1,1 : error occurred while parsing element";
-    QTest::newRow("broken tag") << "\n<a"
-                                << "Fatal error at 2,3 : unexpected end of file";
-}
-
-void tst_HRXmlParser::read_returnsNothing_whenDocumentIsUnusable()
-{
-    QFETCH(QString, document);
-    QFETCH(QString, message);
-    MessageGuard messages;
-    HRXmlParser parser;
-    const Objects objects(parser, document);
-    QCOMPARE(objects.size(), 0);
-    QCOMPARE(messages.takeMessages(), QStringList{ message });
-}
-
-void tst_HRXmlParser::read_returnsFinishedElements_whenDocumentBreaksOff()
-{
-    MessageGuard messages;
-    HRXmlParser parser;
-    const Objects objects(parser, "<a>\n<b>1</b>\n<c>2</b></a>");
-    QCOMPARE(objects.element()->childElement("b")->content(), QString("1"));
-    QCOMPARE(objects.element()->childElement("c")->content(), QString("2"));
-    QCOMPARE(messages.takeMessages(), QStringList{ "Fatal error at 3,8 : tag mismatch" });
-}
-
-void tst_HRXmlParser::read_startsAfresh_whenReadBefore()
-{
-    MessageGuard messages;
-    Answers answers{ { { "skipped", 12 } }, {} };
-    HRXmlParser parser(Answers::give, &answers);
-    const Objects first(parser, "<a><skipped><b>");
-    const Objects second(parser, "<c><d/></c>");
-    const Objects third(parser, "<e/>");
-    QCOMPARE(outline(first), QString("a"));
-    QCOMPARE(outline(second), QString("c{d}"));
-    QCOMPARE(outline(third), QString("e"));
-    QCOMPARE(messages.takeMessages().size(), 1);
-}
-
-void tst_HRXmlParser::read_takesDeviceInPieces()
-{
-    const QString text = QString(u8"ä€😀").repeated(3000);
-    QBuffer buffer;
-    buffer.setData("<a>" + text.toUtf8() + "<b/></a>");
-    HRXmlParser parser;
-    const QXmlInputSource source(&buffer);
-    const QList<QObject *> objects = parser.read(&source);
-    const std::unique_ptr<QObject> tree(objects.value(0));
-    QCOMPARE(objects.size(), 1);
-    QCOMPARE(outline(tree.get()), "a'" + text + "'{b}");
-}
-
-void tst_HRXmlParser::read_decodesDevice_data()
-{
-    QTest::addColumn<QByteArray>("document");
-
-    const QString text = QStringLiteral("<a>ä</a>");
-    const QString latin1 = "<?xml version='1.0' encoding='ISO-8859-1'?>" + text;
-    const QString utf16 = QChar(QChar::ByteOrderMark) + text;
-    QTest::newRow("UTF-8") << text.toUtf8();
-    QTest::newRow("UTF-8 with a mark") << "\xef\xbb\xbf" + text.toUtf8();
-    QTest::newRow("Latin-1") << latin1.toLatin1();
-    QTest::newRow("UTF-16") << QByteArray(
-        reinterpret_cast<const char *>(utf16.utf16()), utf16.size() * int(sizeof(QChar)));
-}
-
-void tst_HRXmlParser::read_decodesDevice()
-{
-    QFETCH(QByteArray, document);
-    QBuffer buffer(&document);
-    HRXmlParser parser;
-    const std::unique_ptr<QObject> tree(parser.read(QXmlInputSource(&buffer)).value(0));
-    QVERIFY(tree);
-    QCOMPARE(outline(tree.get()), QString("a'ä'"));
-}
-
-void tst_HRXmlParser::destructor_deletesOpenElements_afterFailure()
-{
-    MessageGuard messages;
-    auto parser = std::make_unique<HRXmlParser>();
-    const Objects objects(*parser, "<a><b/><c><d/>");
-    QCOMPARE(outline(objects), QString("a{b c{d}}"));
-    QPointer<QObject> tree(objects.at(0));
-
-    parser.reset();
-
-    QVERIFY(!tree);
-    QVERIFY(!objects.at(0));
-    QCOMPARE(
-        messages.takeMessages(), QStringList{ "Fatal error at 1,15 : unexpected end of file" });
-}
-
-void tst_HRXmlParser::destructor_leavesResult_afterSuccess()
-{
-    auto parser = std::make_unique<HRXmlParser>();
-    const Objects objects(*parser, "<a><b/></a>");
-    parser.reset();
-    QVERIFY(objects.at(0));
-    QCOMPARE(outline(objects), QString("a{b}"));
 }
 
 QTEST_GUILESS_MAIN(tst_HRXmlParser)
