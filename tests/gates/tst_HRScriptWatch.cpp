@@ -3,8 +3,8 @@
 
 #include "gates/GateFixture.h"
 #include "gates/HRWatchThread_p.h"
+#include "support/Pauses.h"
 
-#include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QThread>
 
@@ -41,7 +41,7 @@ public:
 
     bool openExternalResource(HRExternalResourceType, const QString &) override
     {
-        QThread::msleep(3 * limit);
+        blockThread(3 * limit);
         return true;
     }
 };
@@ -144,10 +144,7 @@ void tst_HRScriptWatch::eventLoop_isLeftAlone_whileItWaits()
     QEventLoop loop;
     bool rested = false;
     const std::unique_ptr<QThread> onlooker(QThread::create([&] {
-        const QDeadlineTimer deadline(30000);
-        while (!watch->rests() && !deadline.hasExpired())
-            QThread::msleep(1);
-        rested = watch->rests();
+        rested = lookUntil([&] { return watch->rests(); });
         loop.quit();
     }));
     onlooker->start();
@@ -186,7 +183,7 @@ void tst_HRScriptWatch::script_runsOn_whenTheHostHasBlockedTheEventLoop()
     QVERIFY(f.show());
     HRWidget *popup = f.host->manager()->widget();
     QCoreApplication::processEvents();
-    QThread::msleep(8 * limit);
+    blockThread(8 * limit);
     const int runs = popup->view()->rootObject()->property("runs").toInt();
     QTRY_VERIFY(popup->view()->rootObject()->property("runs").toInt() > runs + 3);
     QVERIFY(popup->isVisible());

@@ -1,116 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
-#include "drawing/Canvas.h"
-#include "hints/IndexChoice.h"
-#include "hints/SketchpadHints.h"
-#include "window/ActionTable.h"
-#include "window/GeometryReport.h"
-#include "window/MainWindow.h"
-
-#include <Hintreels/HRContext>
-#include <Hintreels/HRIndex>
-
-#include <QAction>
-#include <QMenu>
-#include <QToolButton>
-#include <QtTest>
+#include "SketchpadFixture.h"
 
 using namespace Sketchpad;
-
-namespace {
-
-HRContext configuredContext()
-{
-    HRContext context;
-    SketchpadHints::configure(context);
-    return context;
-}
-
-// The window with its hints, and a hand that draws on the sheet in the sheet's coordinates.
-struct Fixture
-{
-    Fixture()
-        : context(configuredContext())
-        , hints(context, { STANDARD_PACKAGES_DIR, SKETCHPAD_PACKAGES_DIR }, window)
-        , canvas(*window.findChild<Canvas *>())
-        , drawing(window.drawing())
-    {
-        window.show();
-        QApplication::setActiveWindow(&window);
-        canvas.setFocus();
-    }
-
-    void choose(const char *name) { window.action(name)->trigger(); }
-
-    QPoint at(const QPointF &point) const { return canvas.mapFromScene(point); }
-
-    void press(const QPointF &point, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-    {
-        QTest::mousePress(canvas.viewport(), Qt::LeftButton, modifiers, at(point));
-    }
-
-    // With the button held, which QTest::mouseMove() leaves out.
-    void moveTo(const QPointF &point)
-    {
-        QMouseEvent move(QEvent::MouseMove, at(point), canvas.viewport()->mapToGlobal(at(point)),
-            Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(canvas.viewport(), &move);
-    }
-
-    void release(const QPointF &point, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-    {
-        QTest::mouseRelease(canvas.viewport(), Qt::LeftButton, modifiers, at(point));
-    }
-
-    void drag(const QPointF &from, const QPointF &to)
-    {
-        press(from);
-        moveTo((from + to) / 2);
-        moveTo(to);
-        release(to);
-    }
-
-    void click(const QPointF &point, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-    {
-        press(point, modifiers);
-        release(point, modifiers);
-    }
-
-    void type(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-    {
-        QTest::keyClick(&canvas, key, modifiers);
-    }
-
-    void addRectangle(const QRectF &rect)
-    {
-        choose("toolRectangle");
-        drag(rect.topLeft(), rect.bottomRight());
-    }
-
-    int itemCount() const { return drawing.items().size(); }
-    int stepCount() const { return drawing.history().count(); }
-
-    MainWindow window;
-    HRContext context;
-    SketchpadHints hints;
-    Canvas &canvas;
-    Drawing &drawing;
-};
-
-QStringList actionNames()
-{
-    QStringList names;
-    for (const MenuRows &menu : actionTable()) {
-        for (const ActionRow &row : menu.rows) {
-            if (row.name)
-                names.append(row.name);
-        }
-    }
-    return names;
-}
-
-} // namespace
 
 class tst_Sketchpad : public QObject
 {
@@ -136,18 +29,6 @@ private Q_SLOTS:
     void startAnew_forgetsItemsAndSteps();
     void export_showsSheetWithoutSelection();
     void zoomTool_zoomsInOutAndToFrame();
-
-    void index_holdsContent_data();
-    void index_holdsContent();
-    void everyAction_hasContent();
-    void everyNamedWidget_hasContent();
-    void everyDocumentationName_hasPage();
-    void key_isThatOfButtonsAction();
-    void key_isThatOfMenusActiveAction();
-    void key_isThatOfCanvas_forItsViewport();
-    void shortcut_isTheActionsPresentOne();
-    void language_changesLocale();
-    void geometryReport_namesTools();
 };
 
 void tst_Sketchpad::drawingTools_addOneItemAndOneStep_data()
@@ -160,7 +41,7 @@ void tst_Sketchpad::drawingTools_addOneItemAndOneStep_data()
 void tst_Sketchpad::drawingTools_addOneItemAndOneStep()
 {
     QFETCH(QByteArray, tool);
-    Fixture f;
+    SketchpadFixture f;
     f.choose(tool.constData());
     f.drag({ 100, 100 }, { 300, 200 });
 
@@ -173,7 +54,7 @@ void tst_Sketchpad::drawingTools_addOneItemAndOneStep()
 
 void tst_Sketchpad::undo_takesBackAndRedoRepeats()
 {
-    Fixture f;
+    SketchpadFixture f;
     QVERIFY(!f.window.action("editUndo")->isEnabled());
     f.addRectangle({ 100, 100, 80, 60 });
     f.addRectangle({ 300, 100, 80, 60 });
@@ -191,7 +72,7 @@ void tst_Sketchpad::undo_takesBackAndRedoRepeats()
 
 void tst_Sketchpad::undo_remembersHundredSteps()
 {
-    Fixture f;
+    SketchpadFixture f;
     for (int i = 0; i < Drawing::undoLimit + 5; ++i)
         f.drawing.fillAt({ 450, 300 });
     QCOMPARE(f.stepCount(), Drawing::undoLimit);
@@ -199,7 +80,7 @@ void tst_Sketchpad::undo_remembersHundredSteps()
 
 void tst_Sketchpad::escape_dropsShapeWhileButtonIsHeld()
 {
-    Fixture f;
+    SketchpadFixture f;
     for (const char *tool : { "toolPen", "toolRectangle" }) {
         f.choose(tool);
         f.press({ 100, 100 });
@@ -214,7 +95,7 @@ void tst_Sketchpad::escape_dropsShapeWhileButtonIsHeld()
 
 void tst_Sketchpad::click_drawsNoEmptyShape()
 {
-    Fixture f;
+    SketchpadFixture f;
     for (const char *tool : { "toolPen", "toolLine", "toolRectangle", "toolEllipse" }) {
         f.choose(tool);
         f.click({ 100, 100 });
@@ -225,7 +106,7 @@ void tst_Sketchpad::click_drawsNoEmptyShape()
 
 void tst_Sketchpad::eraser_removesAllTouchedInOneStep()
 {
-    Fixture f;
+    SketchpadFixture f;
     f.addRectangle({ 100, 100, 80, 60 });
     f.addRectangle({ 300, 100, 80, 60 });
     f.addRectangle({ 100, 400, 80, 60 });
@@ -241,7 +122,7 @@ void tst_Sketchpad::eraser_removesAllTouchedInOneStep()
 
 void tst_Sketchpad::fill_colorsItemOrSheet()
 {
-    Fixture f;
+    SketchpadFixture f;
     f.addRectangle({ 100, 100, 80, 60 });
     f.drawing.style().fill = Qt::red;
     f.choose("toolFill");
@@ -259,7 +140,7 @@ void tst_Sketchpad::fill_colorsItemOrSheet()
 
 void tst_Sketchpad::text_isOneStep_afterEscape()
 {
-    Fixture f;
+    SketchpadFixture f;
     f.choose("toolText");
     f.click({ 200, 200 });
     QTest::keyClicks(&f.canvas, "Hello");
@@ -275,7 +156,7 @@ void tst_Sketchpad::text_isOneStep_afterEscape()
 
 void tst_Sketchpad::text_leavesNothing_whenEmpty()
 {
-    Fixture f;
+    SketchpadFixture f;
     f.choose("toolText");
     f.click({ 200, 200 });
     QCOMPARE(f.itemCount(), 1);
@@ -286,7 +167,7 @@ void tst_Sketchpad::text_leavesNothing_whenEmpty()
 
 void tst_Sketchpad::text_isEditedByDoubleClick()
 {
-    Fixture f;
+    SketchpadFixture f;
     f.choose("toolText");
     f.click({ 200, 200 });
     QTest::keyClicks(&f.canvas, "Hello");
@@ -304,7 +185,7 @@ void tst_Sketchpad::text_isEditedByDoubleClick()
 
 void tst_Sketchpad::select_movesInOneStep()
 {
-    Fixture f;
+    SketchpadFixture f;
     f.addRectangle({ 100, 100, 80, 60 });
     QGraphicsItem *item = f.drawing.items().first();
     f.choose("toolSelect");
@@ -318,7 +199,7 @@ void tst_Sketchpad::select_movesInOneStep()
 
 void tst_Sketchpad::escape_putsMovedItemBack()
 {
-    Fixture f;
+    SketchpadFixture f;
     f.addRectangle({ 100, 100, 80, 60 });
     QGraphicsItem *item = f.drawing.items().first();
     f.choose("toolSelect");
@@ -334,7 +215,7 @@ void tst_Sketchpad::escape_putsMovedItemBack()
 
 void tst_Sketchpad::arrowKeys_moveSelectionInOneStep()
 {
-    Fixture f;
+    SketchpadFixture f;
     f.addRectangle({ 100, 100, 80, 60 });
     QGraphicsItem *item = f.drawing.items().first();
     f.choose("toolSelect");
@@ -351,7 +232,7 @@ void tst_Sketchpad::arrowKeys_moveSelectionInOneStep()
 
 void tst_Sketchpad::align_movesSelectionTogether()
 {
-    Fixture f;
+    SketchpadFixture f;
     f.addRectangle({ 100, 100, 80, 60 });
     f.addRectangle({ 300, 250, 80, 60 });
     f.choose("toolSelect");
@@ -369,7 +250,7 @@ void tst_Sketchpad::align_movesSelectionTogether()
 
 void tst_Sketchpad::deleteSelection_comesBackInPlace()
 {
-    Fixture f;
+    SketchpadFixture f;
     f.addRectangle({ 100, 100, 80, 60 });
     f.addRectangle({ 120, 110, 80, 60 });
     QGraphicsItem *below = f.drawing.items().last();
@@ -383,7 +264,7 @@ void tst_Sketchpad::deleteSelection_comesBackInPlace()
 
 void tst_Sketchpad::startAnew_forgetsItemsAndSteps()
 {
-    Fixture f;
+    SketchpadFixture f;
     f.addRectangle({ 100, 100, 80, 60 });
     f.choose("editUndo");
     f.choose("editRedo");
@@ -396,7 +277,7 @@ void tst_Sketchpad::startAnew_forgetsItemsAndSteps()
 
 void tst_Sketchpad::export_showsSheetWithoutSelection()
 {
-    Fixture f;
+    SketchpadFixture f;
     f.addRectangle({ 100, 100, 80, 60 });
     f.drawing.setPaper(Qt::green);
     const QImage plain = f.drawing.toImage();
@@ -412,7 +293,7 @@ void tst_Sketchpad::export_showsSheetWithoutSelection()
 
 void tst_Sketchpad::zoomTool_zoomsInOutAndToFrame()
 {
-    Fixture f;
+    SketchpadFixture f;
     const qreal before = f.canvas.zoom();
     f.choose("toolZoom");
     f.click({ 450, 300 });
@@ -424,134 +305,6 @@ void tst_Sketchpad::zoomTool_zoomsInOutAndToFrame()
     QVERIFY((f.canvas.mapToScene(f.canvas.viewport()->rect().center()) - QPointF(425, 295))
                 .manhattanLength()
         < 5);
-}
-
-void tst_Sketchpad::index_holdsContent_data()
-{
-    QTest::addColumn<QString>("name");
-    for (const QString &name : indexNames())
-        QTest::newRow(qPrintable(name)) << name;
-}
-
-void tst_Sketchpad::index_holdsContent()
-{
-    QFETCH(QString, name);
-    MainWindow window;
-    QTemporaryDir directory;
-    HRContext context = configuredContext();
-    context.set(Hintreels::persistentDirectoryKey, directory.path());
-    const QStringList dataPaths{ STANDARD_PACKAGES_DIR, SKETCHPAD_PACKAGES_DIR };
-    const std::unique_ptr<Hintreels::HRIndex> index = makeIndex(name, context, dataPaths);
-    SketchpadHints hints(context, dataPaths, window, index.get());
-
-    QCOMPARE(hints.hintreelAttribute("toolPen", "title", {}), QString("Pen"));
-    QVERIFY(hints.show("toolPen", { 100, 100 }, &window));
-}
-
-void tst_Sketchpad::everyAction_hasContent()
-{
-    Fixture f;
-    const QStringList keys = f.hints.keys();
-    QStringList without;
-    for (const QString &name : actionNames()) {
-        QVERIFY2(f.window.action(name), qPrintable(name));
-        if (!keys.contains(name))
-            without.append(name);
-    }
-    QCOMPARE(without, QStringList());
-}
-
-void tst_Sketchpad::everyNamedWidget_hasContent()
-{
-    Fixture f;
-    const QStringList keys = f.hints.keys();
-    for (const char *name :
-        { "canvas", "strokeColor", "fillColor", "strokeWidth", "statusPosition", "statusZoom" }) {
-        QVERIFY2(f.window.findChild<QWidget *>(name), name);
-        QVERIFY2(keys.contains(name), name);
-    }
-}
-
-void tst_Sketchpad::everyDocumentationName_hasPage()
-{
-    Fixture f;
-    int pages = 0;
-    for (const QString &key : f.hints.keys()) {
-        const QString page = f.hints.hintreelAttribute(key, "documentation", {});
-        if (page.isEmpty())
-            continue;
-        ++pages;
-        QVERIFY2(f.window.showHelp(page), qPrintable(page));
-    }
-    QVERIFY(pages >= 10);
-    QVERIFY(!f.window.showHelp("no such page"));
-}
-
-void tst_Sketchpad::key_isThatOfButtonsAction()
-{
-    Fixture f;
-    int buttons = 0;
-    for (QToolButton *button : f.window.findChildren<QToolButton *>()) {
-        if (!button->defaultAction())
-            continue;
-        ++buttons;
-        QCOMPARE(f.hints.keyForObject(button), button->defaultAction()->objectName());
-    }
-    QVERIFY(buttons > 20);
-    QCOMPARE(
-        f.hints.keyForObject(f.window.findChild<QToolButton *>("fillColor")), QString("fillColor"));
-}
-
-void tst_Sketchpad::key_isThatOfMenusActiveAction()
-{
-    Fixture f;
-    QMenu menu;
-    menu.setObjectName("menu");
-    QCOMPARE(f.hints.keyForObject(&menu), QString("menu"));
-    menu.addAction(f.window.action("fileExport"));
-    menu.setActiveAction(f.window.action("fileExport"));
-    QCOMPARE(f.hints.keyForObject(&menu), QString("fileExport"));
-}
-
-void tst_Sketchpad::key_isThatOfCanvas_forItsViewport()
-{
-    Fixture f;
-    QCOMPARE(f.hints.keyForObject(f.canvas.viewport()), QString("canvas"));
-}
-
-void tst_Sketchpad::shortcut_isTheActionsPresentOne()
-{
-    Fixture f;
-    QCOMPARE(f.hints.shortCutForObject("toolPen", nullptr, "X"), QString("P"));
-    f.window.action("toolPen")->setShortcut(QKeySequence("Ctrl+J"));
-    QCOMPARE(f.hints.shortCutForObject("toolPen", nullptr, "X"), QString("Ctrl+J"));
-    QCOMPARE(f.hints.shortCutForObject("canvas", nullptr, "X"), QString("X"));
-}
-
-void tst_Sketchpad::language_changesLocale()
-{
-    Fixture f;
-    f.choose("languageGerman");
-    QCOMPARE(f.hints.context().get(Hintreels::localeKey, {}).toString(), QString("de_DE"));
-    f.window.setHintLocale("en_US");
-    QCOMPARE(f.hints.context().get(Hintreels::localeKey, {}).toString(), QString("en_US"));
-    QVERIFY(f.window.action("languageEnglish")->isChecked());
-}
-
-void tst_Sketchpad::geometryReport_namesTools()
-{
-    QTemporaryDir directory;
-    const QString path = directory.filePath("geometry");
-    MainWindow window;
-    const GeometryReport report(window, path);
-    window.show();
-    QTRY_VERIFY(QFile::exists(path));
-
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray lines = file.readAll();
-    for (const char *name : { "toolPen ", "strokeWidth ", "statusZoom ", "canvas " })
-        QVERIFY2(lines.contains(name), name);
 }
 
 QTEST_MAIN(tst_Sketchpad)

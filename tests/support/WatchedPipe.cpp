@@ -3,6 +3,8 @@
 
 #include "support/WatchedPipe.h"
 
+#include "support/Pauses.h"
+
 #include <QFile>
 
 #include <fcntl.h>
@@ -25,12 +27,13 @@ WatchedPipe::~WatchedPipe()
 
 void WatchedPipe::watch()
 {
-    while (!m_done) {
+    const auto look = [this] {
         // Succeeds only while somebody has it open for reading, or waits for that.
         const int writer = open(m_path.constData(), O_WRONLY | O_NONBLOCK);
         m_opened = m_opened || writer >= 0;
         if (writer >= 0)
             close(writer);
-        std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    }
+        return bool(m_done);
+    };
+    lookUntil(look, QDeadlineTimer(QDeadlineTimer::Forever));
 }

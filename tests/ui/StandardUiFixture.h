@@ -118,6 +118,14 @@ struct StandardUiFixture
     }
     QString text(const QString &name) const { return item(name)->property("text").toString(); }
 
+    /// Waits until the popup is painted anew, and with that all is in its place.
+    void paint() const
+    {
+        QSignalSpy painted(view(), &QQuickWindow::frameSwapped);
+        view()->update();
+        QTRY_VERIFY(!painted.isEmpty());
+    }
+
     void click(const QQuickItem *target) const
     {
         const QPointF center

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "support/TestClip.h"
+#include "ui/StandardUiEntries.h"
 #include "ui/StandardUiFixture.h"
 #include "ui/reader/readableColor_p.h"
 
@@ -12,18 +13,6 @@
 using namespace Hintreels;
 
 namespace {
-
-QByteArray hint(const QByteArray &blocks, const QByteArray &attributes = "title=\"Pen\"")
-{
-    return "<hintreel key=\"key\" " + attributes + ">" + blocks + "</hintreel>";
-}
-
-int heightOf(const QByteArray &blocks)
-{
-    StandardUiFixture fixture(hint(blocks));
-    fixture.show();
-    return fixture.view()->height();
-}
 
 QQuickItem *itemWithText(const StandardUiFixture &fixture, const QString &text)
 {
@@ -44,14 +33,6 @@ QColor backgroundOf(const QQuickItem *item)
     return {};
 }
 
-QByteArray longText(int paragraphs)
-{
-    QByteArray text = "<text><![CDATA[";
-    for (int i = 0; i < paragraphs; ++i)
-        text += "A paragraph among many.\n\n";
-    return text + "[the end](far/below)]]></text>";
-}
-
 QPalette darkPalette()
 {
     QPalette palette;
@@ -61,22 +42,6 @@ QPalette darkPalette()
     palette.setColor(QPalette::Highlight, QColor("#3574f0"));
     return palette;
 }
-
-const QByteArray everything
-    = "\n"
-      "<summary>Draws a %(quality)s line.</summary>\n"
-      "<text><![CDATA[Some **bold** text, a [link](inside/text) and `code`.\n"
-      "\n"
-      "      - a list]]></text>\n"
-      "<keys press=\"Ctrl+K, Shift+Drag\">Does it.</keys>\n"
-      "<keys press=\"Ctrl+Alt+Shift+Page Down, Ctrl+Alt+Shift+Page Up\">Does it, too.</keys>\n"
-      "<picture source=\"good.png\" alt=\"A picture\" width=\"100\">A caption</picture>\n"
-      "<note kind=\"tip\">A tip</note>\n"
-      "<note>A note</note>\n"
-      "<note kind=\"warning\">A warning</note>\n"
-      "<note kind=\"something\">Something</note>\n"
-      "<link to=\"https://example.org/there\">There</link>\n"
-      "\n";
 
 } // namespace
 
@@ -88,16 +53,6 @@ private Q_SLOTS:
     void cleanup();
     void ui_loadsWithoutTrouble_data();
     void ui_loadsWithoutTrouble();
-    void ui_keepsItsWidth_andGrowsInHeight();
-    void ui_asksNoBlockForAWidth_data();
-    void ui_asksNoBlockForAWidth();
-    void ui_hasItsSizeAtOnce_data();
-    void ui_hasItsSizeAtOnce();
-    void ui_hasItsSize_onceFilesAreMeasured_data();
-    void ui_hasItsSize_onceFilesAreMeasured();
-    void ui_leavesNoHole_data();
-    void ui_leavesNoHole();
-    void ui_scrolls_whenTheScreenIsTooSmall();
     void ui_showsTheNextHint_inTheSameScene();
     void ui_takesBackStayOpen_whenTheNextHintComes();
     void ui_translatesThenInterpolates();
@@ -110,11 +65,9 @@ private Q_SLOTS:
     void ui_followsTheHostsPalette_data();
     void ui_followsTheHostsPalette();
     void ui_isMirrored_whenTheLocaleIsWrittenFromRightToLeft();
-    void ui_scalesItsSizes();
     void keyboard_reachesEveryLink_whenDetached();
     void keyboard_scrolls_whenDetached();
     void accessibility_namesWhatCanBePressed();
-    void simpleUi_isAsWideAsItsText();
     void example_isShownWithoutTrouble_data();
     void example_isShownWithoutTrouble();
 };
@@ -157,142 +110,6 @@ void tst_StandardUi::ui_loadsWithoutTrouble()
     QCOMPARE(fixture.troubles(), QStringList());
     QTRY_COMPARE(
         fixture.view()->size(), QSizeF(fixture.root()->width(), fixture.root()->height()).toSize());
-}
-
-void tst_StandardUi::ui_keepsItsWidth_andGrowsInHeight()
-{
-    StandardUiFixture fixture(
-        hint("") + "<hintreel key=\"long\" title=\"A title\">" + everything + "</hintreel>");
-
-    fixture.show();
-    const QSize small = fixture.view()->size();
-    fixture.show("long");
-
-    QTRY_VERIFY(fixture.view()->height() > 3 * small.height());
-    QCOMPARE(fixture.view()->width(), small.width());
-    QVERIFY(small.height() < 80);
-}
-
-void tst_StandardUi::ui_asksNoBlockForAWidth_data()
-{
-    QTest::addColumn<QByteArray>("block");
-
-    QTest::newRow("text") << QByteArray("<text>A text</text>");
-    QTest::newRow("note") << QByteArray("<note>A note</note>");
-    QTest::newRow("keys") << QByteArray("<keys press=\"A\">Does it.</keys>");
-    QTest::newRow("link") << QByteArray("<link to=\"page\">There</link>");
-}
-
-/// Where it does, Qt lays a text out twice more: without wrapping, and again as it was.
-void tst_StandardUi::ui_asksNoBlockForAWidth()
-{
-    QFETCH(QByteArray, block);
-    StandardUiFixture fixture(hint(block));
-
-    fixture.show();
-
-    const QList<QQuickItem *> items = fixture.item("blocks")->childItems();
-    const auto loader = std::find_if(
-        items.begin(), items.end(), [](const QQuickItem *item) { return item->height() > 0; });
-    QVERIFY(loader != items.end());
-    QCOMPARE((*loader)->implicitWidth(), 0.0);
-}
-
-void tst_StandardUi::ui_hasItsSizeAtOnce_data()
-{
-    QTest::addColumn<QByteArray>("block");
-
-    QTest::newRow("text") << QByteArray("<text>- Some\n- text</text>");
-    QTest::newRow("keys") << QByteArray("<keys press=\"Ctrl+A\">Does it.</keys>");
-    QTest::newRow("note") << QByteArray("<note>A note\n\nof two paragraphs</note>");
-    QTest::newRow("link") << QByteArray("<link to=\"page\">There</link>");
-}
-
-void tst_StandardUi::ui_hasItsSizeAtOnce()
-{
-    QFETCH(QByteArray, block);
-    StandardUiFixture fixture(hint(block) + "<hintreel key=\"empty\"/>");
-
-    fixture.show();
-    const QSizeF first = fixture.sizeAtOnce;
-    QTest::qWait(50);
-    QCOMPARE(fixture.root()->size(), first);
-    QVERIFY(first.height() > 60);
-
-    fixture.show("empty");
-    QVERIFY(fixture.sizeAtOnce.height() < first.height() - 20);
-    fixture.show();
-    QCOMPARE(fixture.sizeAtOnce, first);
-}
-
-void tst_StandardUi::ui_hasItsSize_onceFilesAreMeasured_data()
-{
-    QTest::addColumn<QByteArray>("block");
-
-    QTest::newRow("picture") << QByteArray("<picture source=\"good.png\">Caption</picture>");
-    QTest::newRow("video") << QByteArray("<video source=\"clip.mp4\">Caption</video>");
-}
-
-void tst_StandardUi::ui_hasItsSize_onceFilesAreMeasured()
-{
-    QFETCH(QByteArray, block);
-    StandardUiFixture fixture(hint(block) + "<hintreel key=\"empty\"/>");
-    TestClip().write(fixture.packages.path() + "/Test.hintreels/Resources/clip.mp4");
-
-    fixture.show();
-    QTRY_VERIFY(fixture.root()->height() > 60);
-    const QSizeF first = fixture.root()->size();
-
-    fixture.show("empty");
-    QVERIFY(fixture.sizeAtOnce.height() < first.height() - 20);
-    fixture.show();
-    QTRY_COMPARE(fixture.root()->size(), first);
-}
-
-void tst_StandardUi::ui_leavesNoHole_data()
-{
-    QTest::addColumn<QByteArray>("nothing");
-
-    QTest::newRow("missing picture")
-        << QByteArray("<picture source=\"missing.png\">Caption</picture>");
-    QTest::newRow("picture that is a directory")
-        << QByteArray("<picture source=\".\">Caption</picture>");
-    QTest::newRow("unknown element") << QByteArray("<blink>Text</blink>");
-    QTest::newRow("empty text") << QByteArray("<text>  </text>");
-    QTest::newRow("empty note") << QByteArray("<note kind=\"tip\"/>");
-    QTest::newRow("empty summary") << QByteArray("<summary/>");
-    QTest::newRow("missing clip") << QByteArray("<video source=\"missing.mp4\">Caption</video>");
-    QTest::newRow("clip that is a directory") << QByteArray("<video source=\".\">Caption</video>");
-    QTest::newRow("link to nowhere") << QByteArray("<link>Label</link>");
-}
-
-void tst_StandardUi::ui_leavesNoHole()
-{
-    QFETCH(QByteArray, nothing);
-
-    const QByteArray text = "<text>Text</text>";
-
-    QCOMPARE(heightOf(nothing + text + nothing + nothing), heightOf(text));
-    QCOMPARE(heightOf(nothing), heightOf(""));
-}
-
-void tst_StandardUi::ui_scrolls_whenTheScreenIsTooSmall()
-{
-    StandardUiFixture fixture(hint(longText(100)) + "<hintreel key=\"short\" title=\"Short\"/>");
-    fixture.show();
-    QQuickItem *page = fixture.item("page");
-    const auto *bar = page->findChild<QQuickItem *>("scrollBar");
-
-    QVERIFY(fixture.view()->height() <= fixture.view()->screen()->availableGeometry().height());
-    QVERIFY(fixture.view()->height() > 400);
-    QVERIFY(page->property("contentHeight").toReal() > fixture.view()->height());
-    QVERIFY(bar->isVisible());
-
-    page->setProperty("contentY", 100);
-    fixture.show("short");
-
-    QVERIFY(!bar->isVisible());
-    QCOMPARE(page->property("contentY").toReal(), 0.0);
 }
 
 void tst_StandardUi::ui_showsTheNextHint_inTheSameScene()
@@ -490,20 +307,6 @@ void tst_StandardUi::ui_isMirrored_whenTheLocaleIsWrittenFromRightToLeft()
     QVERIFY(centerOf(itemWithText(fixture, "There")) > fixture.root()->width() / 2);
 }
 
-void tst_StandardUi::ui_scalesItsSizes()
-{
-    StandardUiFixture normal(hint("<picture source=\"good.png\"/>"));
-    normal.show();
-    const QSize size = normal.view()->size();
-
-    StandardUiFixture doubled(hint("<picture source=\"good.png\"/>"));
-    doubled.context.set(scaleKey, 2.0);
-    doubled.show();
-
-    QCOMPARE(doubled.view()->width(), 2 * size.width());
-    QVERIFY(qAbs(doubled.view()->height() - 2 * size.height()) < 8);
-}
-
 void tst_StandardUi::keyboard_reachesEveryLink_whenDetached()
 {
     StandardUiFixture fixture(hint(everything, "title=\"Pen\" documentation=\"pen\""));
@@ -562,23 +365,6 @@ void tst_StandardUi::accessibility_namesWhatCanBePressed()
     names.sort();
 
     QCOMPARE(names, (QStringList{ "Documentation", "Keep open in a window", "There", "link" }));
-}
-
-void tst_StandardUi::simpleUi_isAsWideAsItsText()
-{
-    StandardUiFixture fixture(hint("<summary>A summary</summary>", "title=\"Pen\" shortcut=\"P\"")
-        + "<hintreel key=\"long\" title=\"Pen\"><summary>" + QByteArray(" A summary").repeated(50)
-        + "</summary></hintreel>");
-    fixture.context.set(simpleTooltipKey, true);
-
-    fixture.show();
-    QVERIFY(fixture.view()->width() < 200);
-    QVERIFY(fixture.view()->height() < 80);
-    QCOMPARE(fixture.text("summary"), QString("A summary"));
-
-    fixture.show("long");
-    QVERIFY(fixture.view()->width() > 300);
-    QVERIFY(fixture.view()->width() < 500);
 }
 
 void tst_StandardUi::example_isShownWithoutTrouble_data()

@@ -16,9 +16,10 @@ private Q_SLOTS:
     void readCaptions_returnsTextWithItsTimes();
     void readCaptions_returnsPlainText_data();
     void readCaptions_returnsPlainText();
-    void readCaptions_isLinear_inFormatting();
+    void readCaptions_takesMuchFormatting();
     void readCaptions_returnsNothing_whenFileHasNone_data();
     void readCaptions_returnsNothing_whenFileHasNone();
+    void readCaptions_readsUpTo100000Bytes();
     void readCaptions_returnsNothing_whenThereIsNoFile();
     void captionFiles_namesTheBestFirst_data();
     void captionFiles_namesTheBestFirst();
@@ -53,6 +54,9 @@ void tst_captions::readCaptions_returnsPlainText_data()
     QTest::newRow("voice") << QByteArray("<v Ada>Hello</v>") << "Hello";
     QTest::newRow("entities") << QByteArray("1 &lt; 2 &amp; 3") << "1 < 2 & 3";
     QTest::newRow("braces") << QByteArray("{a} and b}") << "{a} and b}";
+    QTest::newRow("backslashes") << QByteArray("C:\\a\\{b}") << "C:\\a\\{b}";
+    QTest::newRow("a backslash at the end") << QByteArray("{a} \\") << "{a} \\";
+    QTest::newRow("an open brace at the end") << QByteArray("a {") << "a {";
     QTest::newRow("other scripts") << QByteArray("Größe, עט") << QString::fromUtf8("Größe, עט");
 }
 
@@ -70,25 +74,13 @@ void tst_captions::readCaptions_returnsPlainText()
     QCOMPARE(captions[0].text, expected);
 }
 
-void tst_captions::readCaptions_isLinear_inFormatting()
+void tst_captions::readCaptions_takesMuchFormatting()
 {
     TestPackages files;
-    const auto timeFor = [&files](int words) {
-        const QString path = files.write("clip.vtt",
-            "WEBVTT\n\n00:00.000 --> 00:01.000\n" + QByteArray("<i>a</i>").repeated(words) + "\n");
-        QElapsedTimer time;
-        time.start();
-        const QString text = readCaptions(path).value(0).text;
-        return text.size() == words ? time.nsecsElapsed() : 0;
-    };
-    timeFor(100); // FFmpeg sets itself up
-
-    const qint64 few = timeFor(750);
-    const qint64 many = timeFor(12'000);
-
-    // 16 times as many; what is quadratic takes 256 times as long.
-    QVERIFY(few > 0 && many > 0);
-    QVERIFY2(many < 100 * few, qPrintable(QString("%1 ns, %2 ns").arg(few).arg(many)));
+    constexpr int words = 12'000; // nearly as large as a file may be
+    const QString path = files.write("clip.vtt",
+        "WEBVTT\n\n00:00.000 --> 00:01.000\n" + QByteArray("<i>a</i>").repeated(words) + "\n");
+    QCOMPARE(readCaptions(path).value(0).text, QString(words, 'a'));
 }
 
 void tst_captions::readCaptions_returnsNothing_whenFileHasNone_data()
@@ -113,6 +105,15 @@ void tst_captions::readCaptions_returnsNothing_whenFileHasNone()
     QVERIFY(readCaptions(files.write("clip.vtt", content)).isEmpty());
 }
 
+void tst_captions::readCaptions_readsUpTo100000Bytes()
+{
+    TestPackages files;
+    const QByteArray caption = "WEBVTT\n\n00:00.000 --> 00:01.000\nText\n\n";
+    const QByteArray largest = caption + QByteArray(100'000 - caption.size(), '\n');
+    QCOMPARE(readCaptions(files.write("largest.vtt", largest)).size(), 1);
+    QCOMPARE(readCaptions(files.write("larger.vtt", largest + '\n')).size(), 0);
+}
+
 void tst_captions::readCaptions_returnsNothing_whenThereIsNoFile()
 {
     TestPackages files;
@@ -133,6 +134,8 @@ void tst_captions::captionFiles_namesTheBestFirst_data()
                                  << QStringList{ "clip.de_DE.vtt", "clip.en_US.vtt", "clip.vtt" };
     QTest::newRow("the same locale twice") << "clip.mp4" << QStringList{ "en_US", "en_US" }
                                            << QStringList{ "clip.en_US.vtt", "clip.vtt" };
+    QTest::newRow("a plain name") << "clip" << QStringList{ "de_DE" }
+                                  << QStringList{ "clip.de_DE.vtt", "clip.vtt" };
     QTest::newRow("in a folder") << "a.b/clip.webm" << QStringList{ "de_DE" }
                                  << QStringList{ "a.b/clip.de_DE.vtt", "a.b/clip.vtt" };
     QTest::newRow("without a suffix") << "a.b/clip" << QStringList{ "de_DE" }
