@@ -31,6 +31,13 @@ void tst_printable::printable_escapesWhatForgesLines_data()
     QTest::newRow("zero") << QString::fromLatin1("a\0b", 3) << "a\\u0000b";
     QTest::newRow("second set of controls") << QString(QChar(0x85)) << "\\u0085";
     QTest::newRow("line separator") << QString(QChar(0x2028)) << "\\u2028";
+    QTest::newRow("paragraph separator") << QString(QChar(0x2029)) << "\\u2029";
+    QTest::newRow("delete") << QString(QChar(0x7F)) << "\\u007f";
+    for (const ushort turn : { 0x202A, 0x202B, 0x202E, 0x2066, 0x2067, 0x2069 })
+        QTest::addRow("turn %04x", turn)
+            << QString(QChar(turn)) << QString("\\u%1").arg(turn, 0, 16);
+    for (const ushort other : { 0x20, 0x7E, 0xA0, 0x2027, 0x202F, 0x2065, 0x206A })
+        QTest::addRow("no turn %04x", other) << QString(QChar(other)) << QString(QChar(other));
     QTest::newRow("turned text") << QString(QChar(0x202E)) + "lmx"
                                  << "\\u202elmx";
     QTest::newRow("beyond the first plane") << QString("\U0001F600") << QString("\U0001F600");

@@ -41,6 +41,13 @@ void tst_interpolation::interpolated_replacesPlaceholders_data()
     QTest::newRow("letter beyond ASCII stays") << "%(ä)s" << Values{ { "ä", "x" } } << "%(ä)s";
     QTest::newRow("empty name stays") << "%()s" << Values{ { "", "x" } } << "%()s";
     QTest::newRow("all name characters") << "%(-_aZ09)s" << Values{ { "-_aZ09", "x" } } << "x";
+    for (const char c : { 'a', 'z', 'A', 'Z', '0', '9', '-', '_' })
+        QTest::addRow("name of %c", c)
+            << QString("%(%1)s").arg(c) << Values{ { QChar(c), "x" } } << "x";
+    for (const char c : { '`', '{', '@', '[', '/', ':', ',', '.', '^', '(' }) {
+        QTest::addRow("name of %c stays", c)
+            << QString("%(%1)s").arg(c) << Values{ { QChar(c), "x" } } << QString("%(%1)s").arg(c);
+    }
     QTest::newRow("unfinished") << "%(key) %(key" << key << "%(key) %(key";
     QTest::newRow("percent before") << "%%(key)s" << key << "%F1";
     QTest::newRow("empty value removes") << "a%(e)sb" << Values{ { "e", "" } } << "ab";

@@ -76,7 +76,18 @@ void tst_HRControlDigest::search_findsPlainFiles_data()
         "key='a'/></hintreels>",
         "ED----");
     row("byte-order mark", "\xEF\xBB\xBF<hintreels><hintreel key='a'/></hintreels>", "ED----");
+    row("blank in a value", "<hintreels x=' '><hintreel x='a b' key='a'/></hintreels>", "ED----");
+    row("no blank before the end", "<hintreels/><hintreel key='a'/>", "ED----");
+    row("tag cut at the end of the file", "<hintreels><hintreel key='a'/><hintreel", "ED----");
+    row("character beside the dropped one",
+        "<hintreels>\xEF\xBF\xBD\xEF\xBF<hintreel key='a'/></hintreels>\xEF", "ED----");
+    row("declaration without an encoding",
+        "<?xml version='1.0'?><hintreels><hintreel key='a'/></hintreels>", "ED----");
+    row("tag of 4,096 bytes",
+        "<hintreels><hintreel x='" + QByteArray(4096 - 15, 'x') + "' key='a'/></hintreels>",
+        "ED----");
     row("no key", "<hintreels><hintreel name='a'/><hintreel/></hintreels>", "------");
+    row("key without a value", "<hintreels><hintreel key/></hintreels>", "------");
     row("longer name", "<hintreels><hintreelx key='a'/></hintreels>", "------");
     row("key of another tag", "<hintreels><other key='a'/></hintreels>", "------");
     row("in a comment, at worst too much", "<hintreels><!--<hintreel key='a'/>--></hintreels>",
@@ -110,6 +121,18 @@ void tst_HRControlDigest::search_leavesUnusualFilesToTheParser_data()
     row("reference in the locale", "<hintreels locale='de&#95;DE'>" + entry);
     row("locale twice", "<hintreels locale='de' locale='en'>" + entry);
     row("broken UTF-8 in a key", "<hintreels><hintreel key='\xC3'/></hintreels>");
+    row("byte of no character in a key", "<hintreels><hintreel key='\x80'/></hintreels>");
+    row("longer name of the root", "<hintreelsx><hintreel key='a'/></hintreelsx>");
+    row("nothing behind the root's name", "<hintreels");
+    row("no name", "<hintreels><hintreel ='x' key='a'/></hintreels>");
+    row("no name at the root", "<hintreels ='x'>" + entry);
+    row("nothing behind the equals sign", "<hintreels><hintreel key=");
+    row("tag that never ends", "<hintreels><hintreel key='a'");
+    row("stroke behind a value", "<hintreels><hintreel key='a'/ ></hintreels>");
+    row("unfinished declaration", "<?xml version='1.0'");
+    row("second comment unfinished", "<!-- --><!-- <hintreels>" + entry);
+    row("tag of 4,097 bytes",
+        "<hintreels><hintreel x='" + QByteArray(4097 - 15, 'x') + "' key='a'/></hintreels>");
     row("no quotes", "<hintreels><hintreel key=a/></hintreels>");
     row("no end quote", "<hintreels><hintreel key='a/></hintreels>");
     row("tag in a value", "<hintreels><hintreel x='<' key='a'/></hintreels>");

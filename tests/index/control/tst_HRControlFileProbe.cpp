@@ -45,9 +45,9 @@ bool isControlFile(const QByteArray &content)
 void tst_HRControlFileProbe::startTagInAscii_agreesWithTheExpression()
 {
     QRegExp expression("<(\\w+)\\s*(\\w|>|/>)");
-    const QByteArray letters("<<<aZ_0>/ \t\n\v\x1f\x7f:!?-");
+    const QByteArray letters("<<<<<<aazzAZZ_0099>>// \t\n\v\x1f\x7f:!?-@[`{");
     QRandomGenerator random(20261121);
-    for (int round = 0; round < 100'000; ++round) {
+    for (int round = 0; round < 200'000; ++round) {
         QByteArray text;
         const int length = random.bounded(12);
         for (int i = 0; i < length; ++i)

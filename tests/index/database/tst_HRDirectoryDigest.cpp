@@ -18,6 +18,9 @@ private Q_SLOTS:
     void put_replaces_andRemoveRemoves();
     void untouched_areThoseNotAskedFor();
     void decoded_tellsEveryDamage();
+    void decoded_refusesAnEntry_whosePartsDoNotFillIt_data();
+    void decoded_refusesAnEntry_whosePartsDoNotFillIt();
+    void decoded_takesNoEntries();
     void decoded_ignoresOtherFormats();
 };
 
@@ -147,6 +150,32 @@ void tst_HRDirectoryDigest::decoded_tellsEveryDamage()
     for (int length = 0; length < bytes.size(); ++length)
         QVERIFY2(
             !HRDirectoryDigest::decoded(bytes.left(length)), qPrintable(QString::number(length)));
+}
+
+void tst_HRDirectoryDigest::decoded_refusesAnEntry_whosePartsDoNotFillIt_data()
+{
+    QTest::addColumn<int>("nameLength");
+    QTest::addColumn<bool>("isTaken");
+    QTest::newRow("as long as its head can say") << 0xffff << true;
+    QTest::newRow("longer than its head can say") << 0x10000 << false;
+}
+
+/// An entry says its length twice; where the name is too long for its head they differ.
+void tst_HRDirectoryDigest::decoded_refusesAnEntry_whosePartsDoNotFillIt()
+{
+    QFETCH(int, nameLength);
+    HRDirectoryDigest snapshot;
+    snapshot.put(std::string(size_t(nameLength), 'x'), storedFile());
+    snapshot.put("b.xml", storedFile());
+    QTEST(HRDirectoryDigest::decoded(snapshot.encoded()).has_value(), "isTaken");
+}
+
+void tst_HRDirectoryDigest::decoded_takesNoEntries()
+{
+    const std::optional<HRDirectoryDigest> loaded
+        = HRDirectoryDigest::decoded(HRDirectoryDigest().encoded());
+    QVERIFY(loaded);
+    QVERIFY(loaded->untouched().empty());
 }
 
 void tst_HRDirectoryDigest::decoded_ignoresOtherFormats()

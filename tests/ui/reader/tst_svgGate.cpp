@@ -30,6 +30,11 @@ QByteArray elements(int count)
     return QByteArray("<g/>").repeated(count);
 }
 
+QByteArray sheet(int letters)
+{
+    return "<style>" + QByteArray(letters, 's') + "</style>";
+}
+
 /// A part of so many steps, its own included, and copies of it.
 QByteArray copiedPart(int steps, int copies)
 {
@@ -94,6 +99,18 @@ void tst_svgGate::isHarmlessSvg_boundsDrawing_data()
     QTest::newRow("a copy by the name of a file")
         << copiedPart(50'000, 0) + QByteArray("<use xlink:href=\"a.svg#part\"/>").repeated(2)
         << false;
+    // Letters of style, by 1,000 elements with the root and the sheet, by levels.
+    QTest::newRow("200,000,000 of style") << sheet(100'000) + elements(998) << true;
+    QTest::newRow("a letter more of style") << sheet(100'001) + elements(998) << false;
+    QTest::newRow("an element more of style") << sheet(100'000) + elements(999) << false;
+    QTest::newRow("199,998,000 of style on three levels")
+        << sheet(66'666) + elements(996) + nested(2) << true;
+    QTest::newRow("a level more of style") << sheet(66'667) + elements(996) + nested(2) << false;
+    QTest::newRow("two sheets") << sheet(50'000) + sheet(50'001) + elements(997) << false;
+    QTest::newRow("style inside of style")
+        << "<style><g>" + QByteArray(70'000, 's') + "</g></style>" + elements(997) << false;
+    QTest::newRow("letters that are no style")
+        << "<text>" + QByteArray(100'001, 's') + "</text>" + elements(998) << true;
     QTest::newRow("a name in another space copies nothing")
         << copiedPart(50'000, 0) + QByteArray("<use href=\"#part\"/>").repeated(2) << true;
 }

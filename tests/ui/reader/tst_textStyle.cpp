@@ -45,6 +45,9 @@ private Q_SLOTS:
     void setMarkdown_keepsTheLook_whenAppliedAgain();
     void setMarkdown_acceptsAnEmptyDocument();
     void linksIn_findsLinksInReadingOrder();
+    void picturesIn_findsPicturesInReadingOrder();
+    void setMarkdown_growsLines_unlessAPictureStandsInThem();
+    void setMarkdown_keepsEmptyLinesOfCode();
 };
 
 void tst_textStyle::setMarkdown_spacesParagraphsOnlyBetween()
@@ -93,7 +96,8 @@ void tst_textStyle::setMarkdown_indentsCode_asOneBlock()
     const Styled styled("Before\n\n```\nfirst\nsecond\n```\n\nAfter");
 
     QCOMPARE(styled.block(1).text(), QString("first"));
-    QVERIFY(styled.block(1).blockFormat().leftMargin() > 0);
+    QCOMPARE(styled.block(1).blockFormat().leftMargin(), 20.0);
+    QCOMPARE(styled.block(0).blockFormat().bottomMargin(), 8.0);
     QCOMPARE(styled.block(1).blockFormat().bottomMargin(), 0.0);
     QCOMPARE(styled.block(2).blockFormat().bottomMargin(), 8.0);
     QVERIFY(!styled.formatOf("first").hasProperty(QTextFormat::BackgroundBrush));
@@ -112,6 +116,8 @@ void tst_textStyle::setMarkdown_indentsQuotations()
 
     QCOMPARE(styled.block(0).blockFormat().leftMargin(), 20.0);
     QCOMPARE(styled.block(0).blockFormat().rightMargin(), 0.0);
+    QCOMPARE(Styled("> > Quoted").block(0).blockFormat().leftMargin(), 40.0);
+    QCOMPARE(Styled("Plain").block(0).blockFormat().leftMargin(), 0.0);
 }
 
 void tst_textStyle::setMarkdown_setsHeadingsInTheSizeOfTheText()
@@ -168,6 +174,48 @@ void tst_textStyle::linksIn_findsLinksInReadingOrder()
     QCOMPARE(links[0].toMap(),
         (QVariantMap{ { "href", "a/b" }, { "text", "one" }, { "start", 4 }, { "end", 7 } }));
     QCOMPARE(links[1].toMap()["href"].toString(), QString("https://example.org"));
+}
+
+void tst_textStyle::picturesIn_findsPicturesInReadingOrder()
+{
+    const HRMarkdownGate gate([](const QString &path) {
+        return HRTextPicture{ QUrl("file:///" + path), QSize(20, 10) };
+    });
+    QTextDocument document;
+    setMarkdown(document, "See ![One](a.png) and\n\n- ![Two](b.png)", look, gate);
+
+    const QVariantList pictures = picturesIn(document);
+
+    QCOMPARE(pictures.size(), 2);
+    QCOMPARE(pictures[0].toMap(),
+        (QVariantMap{ { "url", QUrl("file:///a.png") }, { "text", "One" }, { "start", 4 },
+            { "width", 20.0 }, { "height", 10.0 } }));
+    QCOMPARE(pictures[1].toMap()["text"].toString(), QString("Two"));
+}
+
+void tst_textStyle::setMarkdown_growsLines_unlessAPictureStandsInThem()
+{
+    const HRMarkdownGate gate([](const QString &) {
+        return HRTextPicture{ QUrl("file:///a.png"), QSize(20, 10) };
+    });
+    QTextDocument document;
+    setMarkdown(document, "Text\n\nA ![picture](a.png)", look, gate);
+
+    QCOMPARE(document.firstBlock().blockFormat().lineHeight(), 120.0);
+    QCOMPARE(document.lastBlock().blockFormat().lineHeight(), 0.0);
+}
+
+void tst_textStyle::setMarkdown_keepsEmptyLinesOfCode()
+{
+    const Styled styled("```\nfirst\n\nlast\n```\n\n```\nnext\n```\n\nAfter");
+
+    QStringList lines;
+    for (QTextBlock block = styled.block(0); block.isValid(); block = block.next())
+        lines.append(block.text());
+    QCOMPARE(lines.first(), QString("first"));
+    QCOMPARE(lines.mid(1, 2), (QStringList{ "", "last" }));
+    QCOMPARE(lines.last(), QString("After"));
+    QCOMPARE(styled.document.lastBlock().previous().text(), QString("next"));
 }
 
 QTEST_MAIN(tst_textStyle)
