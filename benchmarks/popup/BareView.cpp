@@ -3,13 +3,39 @@
 
 #include "popup/BareView.h"
 
+#include "ui/reader/HRReaderSettings_p.h"
+
 #include <QQmlContext>
 #include <QQmlEngine>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QtQml>
 
-QVariantMap StandInReader::read(QObject *element) const
+using namespace Hintreels;
+
+namespace {
+
+template <typename T>
+void nameType(const char *name)
+{
+    qmlRegisterUncreatableType<T>("com.zentora.hintreels.qml", 1, 1, name, {});
+}
+
+} // namespace
+
+StandInView::StandInView()
+{
+    nameType<StandInView>("HRView");
+    nameType<HRContentReader>("HRContentReader");
+}
+
+StandInReader::StandInReader()
+    : HRContentReader([] { return HRReaderSettings(); })
+{
+}
+
+QVariantMap StandInReader::read(HRXmlElement *element, const QJSValue &) const
 {
     const auto *content = qobject_cast<const StandInElement *>(element);
     return content ? content->values() : QVariantMap();
@@ -20,8 +46,8 @@ QVariantList StandInReader::keyCaps(const QString &shortcut) const
     return { QVariant(shortcut.split('+', Qt::SkipEmptyParts)) };
 }
 
-QVariantList StandInReader::showMarkdown(
-    QQuickTextDocument *document, const QString &markdown, const QVariantMap &look) const
+QVariantList StandInReader::showMarkdown(QQuickTextDocument *document, const QString &markdown,
+    const QVariantMap &look, const QJSValue &) const
 {
     document->textDocument()->setMarkdown(markdown);
     QTextBlockFormat format;
@@ -35,11 +61,11 @@ QVariantList StandInReader::showMarkdown(
     return {};
 }
 
-BareView::BareView()
+BareView::BareView(QObject &view)
 {
     m_window.setFlags(Qt::ToolTip | Qt::FramelessWindowHint);
     m_window.setResizeMode(QQuickView::SizeViewToRootObject);
-    m_window.rootContext()->setContextProperty("hintreelView", &m_view);
+    m_window.rootContext()->setContextProperty("hintreelView", &view);
     m_window.rootContext()->setContextProperty("hintreelReader", &m_reader);
 }
 

@@ -3,7 +3,6 @@
 
 #include "popup/Popups.h"
 
-#include "ui/popup/HRView.h"
 #include "ui/popup/HRWidget.h"
 
 #include <QEventLoop>
@@ -128,9 +127,10 @@ double firstBareView()
     const PopupHost host;
     settle(host);
     FrameWatch watch;
+    StandInView services;
     std::unique_ptr<BareView> view;
     return watch.secondsFor([&] {
-        view = std::make_unique<BareView>();
+        view = std::make_unique<BareView>(services);
         view->show(PopupContent(0), BesideTheTool);
         watch.watch(view->window());
     });

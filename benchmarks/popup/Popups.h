@@ -6,6 +6,7 @@
 #include "popup/BareView.h"
 #include "popup/Painting.h"
 #include "popup/PopupHost.h"
+#include "ui/popup/HRView.h"
 
 /// The library's popup, and the two that it is held against, each shown and painted once.
 ///
@@ -34,7 +35,8 @@ private:
     double showToolTip();
 
     PopupHost m_host;
-    BareView m_bareView;
+    Hintreels::HRView m_services{ nullptr, nullptr };
+    BareView m_bareView{ m_services };
     int m_number = 0;
 };
 
