@@ -13,8 +13,11 @@
 set(HINTREELS_CLAZY_CHECKS level1,no-fully-qualified-moc-types,no-non-pod-global-static)
 string(APPEND HINTREELS_CLAZY_CHECKS
     ,no-overloaded-signal,no-overridden-signal,no-qproperty-without-notify)
-target_compile_options(hintreels_objects PRIVATE
-    "SHELL:-Xclang -plugin-arg-clazy -Xclang ${HINTREELS_CLAZY_CHECKS}")
+
+function(hintreels_choose_clazy_checks target)
+    target_compile_options(${target} PRIVATE
+        "SHELL:-Xclang -plugin-arg-clazy -Xclang ${HINTREELS_CLAZY_CHECKS}")
+endfunction()
 
 # hintreels_tidy(<target> <checked target>): the target has clang-tidy look at each source.
 function(hintreels_tidy target checked)
@@ -58,8 +61,11 @@ function(hintreels_lonely_headers target)
     add_library(${target} OBJECT EXCLUDE_FROM_ALL ${sources})
     set_target_properties(${target} PROPERTIES AUTOMOC OFF)
     hintreels_compile_options(${target})
+    hintreels_choose_clazy_checks(${target})
+    target_compile_definitions(${target} PRIVATE HINTREELS_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
     target_link_libraries(${target} PRIVATE hintreels_objects hintreels_test_support)
 endfunction()
 
+hintreels_choose_clazy_checks(hintreels_objects)
 hintreels_tidy(hintreels_tidy hintreels_objects)
 hintreels_lonely_headers(hintreels_headers ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/tests)

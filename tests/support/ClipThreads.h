@@ -12,7 +12,8 @@ inline QStringList clipThreads()
 {
     const QDir threads(QStringLiteral("/proc/self/task"));
     QStringList names;
-    for (const QString &id : threads.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+    const QStringList ids = threads.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QString &id : ids) {
         QFile file(threads.filePath(id + "/comm"));
         if (!file.open(QIODevice::ReadOnly))
             continue; // it has ended meanwhile

@@ -256,7 +256,7 @@ QString HRView::categoryPath(
 QString HRView::findComponent(const QString &attributeName, HRContextKey key,
     const QString &defaultValue, const QString &relativePath) const
 {
-    const QString base = categoryPath(attributeName, defaultValue, key);
+    QString base = categoryPath(attributeName, defaultValue, key);
     if (!m_content || !m_manager)
         return base;
     followRules();

@@ -21,7 +21,7 @@ class HRWidget;
 /// What a popup is made of, and how its pieces play together.
 struct HRWidgetPrivate
 {
-    HRWidgetPrivate(HRWidget *q, HRManager *hrManager, QWidget *referenceWidget);
+    HRWidgetPrivate(HRWidget *widget, HRManager *hrManager, QWidget *referenceWidget);
 
     template <typename T>
     T setting(contextKey key, const T &defaultValue) const

@@ -21,7 +21,7 @@ namespace {
 constexpr int mostHeaps = 4; // those of two clips, which have two threads each
 
 // Freeing as much makes glibc shrink a heap at its end; more would not lie in one.
-constexpr size_t largePiece = 96 * 1024;
+constexpr size_t largePiece = 96UL * 1024;
 
 /// Of threads that are there at the same time, so that each has a heap of its own.
 struct Meeting
