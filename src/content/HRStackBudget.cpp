@@ -10,7 +10,7 @@ namespace Hintreels {
 namespace {
 
 // For stacks that the system knows nothing of, such as those of coroutines: about 200 elements.
-constexpr quintptr unknownStackBytes = 64U * 1024;
+constexpr quintptr unknownStackBytes = quintptr(64) * 1024;
 
 struct Stack
 {

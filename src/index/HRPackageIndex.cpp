@@ -35,7 +35,7 @@ bool makeDirectory(const QString &path)
 }
 
 /// Absolute path of the file to open; empty, after a message, where there is no directory for it.
-QString databaseFilePath(const HRContext &context)
+QString digestsFilePath(const HRContext &context)
 {
     QString directory = setting(context, persistentDirectoryKey, QString());
     if (directory.isEmpty() || !QFileInfo(directory).isDir())
@@ -50,10 +50,10 @@ QString databaseFilePath(const HRContext &context)
 }
 
 /// Where the database lies. A file that HRSQLiteIndex has filled may serve this index, too.
-HRDatabasePlace databasePlace(const HRContext &context)
+HRDatabasePlace digestsPlace(const HRContext &context)
 {
     HRDatabasePlace place;
-    place.path = databaseFilePath(context);
+    place.path = digestsFilePath(context);
     place.connection = indexConnection(context);
     place.tables = QStringList{ QStringLiteral("packages"), QStringLiteral("hintreels"),
         HRDigestDatabase::tableName() };
@@ -128,7 +128,7 @@ bool HRPackageIndex::open()
 {
     HRIndex::open();
     HRIndex::endUpdate();
-    return d->digests.open(databasePlace(context()));
+    return d->digests.open(digestsPlace(context()));
 }
 
 bool HRPackageIndex::setup()
