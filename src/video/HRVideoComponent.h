@@ -24,6 +24,8 @@ class HRVideoSourceFFMPEG;
 class HINTREELS_EXPORT HRVideoComponent : public QQuickPaintedItem
 {
     Q_OBJECT
+    ///@{
+    /// What QML reads and writes; the operations behind it say more.
     Q_PROPERTY(QString source READ source WRITE setSource NOTIFY sourceChanged)
     Q_PROPERTY(VideoState state READ state WRITE setState NOTIFY stateChanged)
     Q_PROPERTY(qint64 position READ position WRITE setPosition NOTIFY positionChanged)
@@ -34,6 +36,7 @@ class HINTREELS_EXPORT HRVideoComponent : public QQuickPaintedItem
     Q_PROPERTY(double contentWidth READ contentWidth NOTIFY contentWidthChanged)
     Q_PROPERTY(double loadProgress READ loadProgress NOTIFY loadProgressChanged)
 
+    ///@}
 public:
     /// QML does not resolve enumerators that begin with a small letter: use the numbers there. It
     /// may set any number; others than these do nothing.
