@@ -48,6 +48,7 @@ public:
     };
     Q_ENUM(VideoState)
 
+    /// Starts both threads.
     explicit HRVideoComponent(QQuickItem *parent = nullptr);
     /// Stops both threads. A source that is amid a large picture ends by itself.
     ~HRVideoComponent() override;
