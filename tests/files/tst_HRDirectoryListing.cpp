@@ -32,6 +32,8 @@ class tst_HRDirectoryListing : public QObject
 private Q_SLOTS:
     void holdsWhatQDirFinds();
     void isEmpty_whereThereIsNoDirectory();
+    void keepFirst_forgetsTheRest_data();
+    void keepFirst_forgetsTheRest();
 };
 
 void tst_HRDirectoryListing::holdsWhatQDirFinds()
@@ -62,6 +64,31 @@ void tst_HRDirectoryListing::isEmpty_whereThereIsNoDirectory()
     const QString file = files.write("a.xml", "<hintreels/>");
     QCOMPARE(namesIn(file), QStringList());
     QCOMPARE(namesIn(files.path() + "/none"), QStringList());
+}
+
+void tst_HRDirectoryListing::keepFirst_forgetsTheRest_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::addColumn<QString>("names");
+    QTest::newRow("none") << 0 << "";
+    QTest::newRow("one") << 1 << "a.xml";
+    QTest::newRow("all") << 2 << "a.xml b.xml";
+    QTest::newRow("more than there are") << 3 << "a.xml b.xml";
+}
+
+void tst_HRDirectoryListing::keepFirst_forgetsTheRest()
+{
+    QFETCH(int, count);
+    const TestPackages files;
+    files.write("b.xml", "");
+    files.write("a.xml", "");
+    HRDirectoryListing listing(files.path() + '/', ".xml");
+    QCOMPARE(listing.directory(), files.path() + '/');
+    listing.keepFirst(size_t(count));
+    QStringList names;
+    for (const HRListedFile &file : listing.files())
+        names += file.name;
+    QTEST(names.join(' '), "names");
 }
 
 QTEST_APPLESS_MAIN(tst_HRDirectoryListing)

@@ -1,17 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
-#include "content/HRXmlElement.h"
-#include "context/HRContext.h"
-#include "index/HRIndex.h"
+#include "index/IndexFixture.h"
+
 #include "support/MessageGuard.h"
-#include "support/TestPackage.h"
 
 #include <QDir>
 #include <QFile>
-#include <QLocale>
-#include <QPointer>
-#include <QXmlAttributes>
 #include <QtTest>
 
 #include <sys/stat.h>
@@ -43,57 +38,10 @@ private Q_SLOTS:
     void indexControlFile_passesOver();
     void indexControlFile_doesNotBlock_onANamedPipe();
     void indexControlFile_keepsOneRecordForPathAndDepth();
-    void load_leavesRootAlone_whenThereIsNoFile();
-    void load_marksTheEntry();
-    void load_keepsTheMarks_againstKeyData();
-    void loadKeyData_overwritesAttributes();
     void keys_repeatAndKeepTheirOrder();
-    void componentPaths_ofAPackage();
-    void componentPaths_ofAnElement();
-    void packageSuffix_isASetting();
-    void mapControlFile_seesADirectoryThatIsMadeLater();
-    void mapControlFile_seesASuffix_whenSettingsAreAssigned();
 };
 
 namespace {
-
-/// An index over packages in a temporary directory.
-struct Fixture
-{
-    TestPackages packages;
-    HRContext context;
-    HRIndex index{ &context, {} };
-    QString directory;
-    int depth = -1;
-    HRXmlElement *root = nullptr;
-
-    QString add(const QString &package, const QString &name, const QByteArray &entries,
-        const QByteArray &rootAttributes = {})
-    {
-        const QString file = packages.writeControl(package, name, entries, rootAttributes);
-        index.indexControlFile(file, packagePath(package));
-        return file;
-    }
-
-    QString packagePath(const QString &package) const
-    {
-        return packages.path() + '/' + package + ".hintreels";
-    }
-
-    /// The root of the found entry, which owns it.
-    std::unique_ptr<HRXmlElement> find(const QString &key, const QString &locale = "en_US")
-    {
-        HRXmlElement *entry = index.retrieve(key, QLocale(locale), directory, depth, root);
-        return std::unique_ptr<HRXmlElement>(entry ? root : nullptr);
-    }
-
-    /// Attribute "n" of the found entry, by which tests tell entries apart.
-    QString found(const QString &key, const QString &locale = "en_US")
-    {
-        const auto tree = find(key, locale);
-        return tree ? tree->childElement("hintreel")->attribute("n") : QString();
-    }
-};
 
 class ClearedIndex : public HRIndex
 {
@@ -162,7 +110,7 @@ void tst_HRIndex::update_isFlagged()
 
 void tst_HRIndex::retrieve_returnsNull_whenEmpty()
 {
-    Fixture fixture;
+    IndexFixture fixture;
     QVERIFY(!fixture.find("pen"));
     QCOMPARE(fixture.depth, -1);
     QVERIFY(fixture.directory.isNull());
@@ -170,7 +118,7 @@ void tst_HRIndex::retrieve_returnsNull_whenEmpty()
 
 void tst_HRIndex::retrieve_tellsWhereTheEntryLies()
 {
-    Fixture fixture;
+    IndexFixture fixture;
     fixture.add("A", "a.xml", "<hintreel key='pen'><title>Pen</title></hintreel>");
     const auto tree = fixture.find("pen");
     QVERIFY(tree);
@@ -183,7 +131,7 @@ void tst_HRIndex::retrieve_tellsWhereTheEntryLies()
 
 void tst_HRIndex::retrieve_findsTheNewestFile()
 {
-    Fixture fixture;
+    IndexFixture fixture;
     fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/><hintreel key='line' n='1'/>");
     fixture.add("A", "b.xml", "<hintreel key='pen' n='2'/>");
     QCOMPARE(fixture.found("pen"), QString("2"));
@@ -193,7 +141,7 @@ void tst_HRIndex::retrieve_findsTheNewestFile()
 
 void tst_HRIndex::retrieve_goesOn_whenTheNewestFileHasTheKeyTwice()
 {
-    Fixture fixture;
+    IndexFixture fixture;
     fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/>");
     fixture.add("A", "b.xml", "<hintreel key='pen' n='2'/><hintreel key='pen' n='3'/>");
     QCOMPARE(fixture.found("pen"), QString("1"));
@@ -201,7 +149,7 @@ void tst_HRIndex::retrieve_goesOn_whenTheNewestFileHasTheKeyTwice()
 
 void tst_HRIndex::retrieve_seesAnEditedFile()
 {
-    Fixture fixture;
+    IndexFixture fixture;
     fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/>");
     QCOMPARE(fixture.found("pen"), QString("1"));
     fixture.packages.writeControl("A", "a.xml", "<hintreel key='pen' n='2'/>");
@@ -215,7 +163,7 @@ void tst_HRIndex::retrieve_seesAnEditedFile()
 
 void tst_HRIndex::retrieve_makesAFreshTreeEachTime()
 {
-    Fixture fixture;
+    IndexFixture fixture;
     fixture.add("A", "a.xml", "<hintreel key='pen'/>");
     const auto first = fixture.find("pen");
     const auto second = fixture.find("pen");
@@ -244,7 +192,7 @@ void tst_HRIndex::retrieve_comparesLocales()
 {
     QFETCH(QString, served);
     QFETCH(QString, asked);
-    Fixture fixture;
+    IndexFixture fixture;
     fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/>", "locale='" + served.toUtf8() + "'");
     QTEST(!fixture.found("pen", asked).isNull(), "isFound");
 }
@@ -280,7 +228,7 @@ void tst_HRIndex::retrieve_survivesBadFiles()
 {
     QFETCH(QByteArray, content);
     MessageGuard messages;
-    Fixture fixture;
+    IndexFixture fixture;
     const QString file = fixture.packages.write("A.hintreels/Control/a.xml", content);
     fixture.index.indexControlFile(file, fixture.packagePath("A"));
     QTEST(!fixture.found("pen").isNull(), "isFound");
@@ -289,7 +237,7 @@ void tst_HRIndex::retrieve_survivesBadFiles()
 
 void tst_HRIndex::store_appendsTheFile()
 {
-    Fixture fixture;
+    IndexFixture fixture;
     fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/>");
     const QString file = fixture.packages.writeControl(
         "A", "b.xml", "<hintreel key='pen' n='2'/><hintreel key='line' n='2'/>");
@@ -323,7 +271,7 @@ void tst_HRIndex::indexControlFile_passesOver()
 {
     QFETCH(QString, file);
     QFETCH(QString, package);
-    Fixture fixture;
+    IndexFixture fixture;
     fixture.packages.writeControl("A", "a.xml", "<hintreel key='pen'/>");
     fixture.packages.write("A.hintreels/Control/other.xml", "<other><hintreel key='pen'/></other>");
     fixture.packages.write("B.hintreels/b.xml", "");
@@ -335,7 +283,7 @@ void tst_HRIndex::indexControlFile_passesOver()
 
 void tst_HRIndex::indexControlFile_doesNotBlock_onANamedPipe()
 {
-    Fixture fixture;
+    IndexFixture fixture;
     const QString directory = fixture.packagePath("A");
     const QString pipe = directory + "/Control/pipe.xml";
     QVERIFY(QDir().mkpath(directory + "/Control"));
@@ -351,7 +299,7 @@ void tst_HRIndex::indexControlFile_doesNotBlock_onANamedPipe()
 
 void tst_HRIndex::indexControlFile_keepsOneRecordForPathAndDepth()
 {
-    Fixture fixture;
+    IndexFixture fixture;
     const QString file = fixture.packages.write(
         "A.hintreels/B.hintreels/Control/a.xml", "<hintreels ><hintreel key='pen'/></hintreels>");
     const QString outer = fixture.packagePath("A");
@@ -365,139 +313,12 @@ void tst_HRIndex::indexControlFile_keepsOneRecordForPathAndDepth()
     QCOMPARE(fixture.depth, 2);
 }
 
-void tst_HRIndex::load_leavesRootAlone_whenThereIsNoFile()
-{
-    Fixture fixture;
-    HRXmlElement other;
-    HRXmlElement *root = &other;
-    const QString none = fixture.packages.path() + "/none.xml";
-    QVERIFY(!fixture.index.load("pen", none, QLocale("en_US"), root));
-    QCOMPARE(root, &other);
-    const QString file = fixture.packages.writeControl("A", "a.xml", "<hintreel key='line'/>");
-    QVERIFY(!fixture.index.load("pen", file, QLocale("en_US"), root));
-    QVERIFY(!root);
-}
-
-void tst_HRIndex::load_marksTheEntry()
-{
-    Fixture fixture;
-    const QString file = fixture.packages.writeControl(
-        "A", "a.xml", "<hintreel key='pen' HRLocation='/etc' HRPackagName='B'/>");
-    HRXmlElement *root = nullptr;
-    HRXmlElement *entry = fixture.index.load("pen", file, QLocale("en_US"), root);
-    QVERIFY(entry);
-    const std::unique_ptr<HRXmlElement> tree(root);
-    QCOMPARE(entry->parent(), root);
-    QCOMPARE(entry->attribute("HRLocation"), file);
-    QCOMPARE(entry->attribute("HRPackagName"), QString("A"));
-}
-
-void tst_HRIndex::load_keepsTheMarks_againstKeyData()
-{
-    Fixture fixture;
-    fixture.context.set(keyDataFileKey,
-        fixture.packages.write("keys.xml",
-            "<hintreelkeys><key name='pen' HRLocation='/etc' HRPackagName='B' a='1'/>"
-            "</hintreelkeys>"));
-    const QString file = fixture.add("A", "a.xml", "<hintreel key='pen'/>");
-    const auto tree = fixture.find("pen");
-    QVERIFY(tree);
-    const HRXmlElement *entry = tree->childElement("hintreel");
-    QCOMPARE(entry->attribute("HRLocation"), file);
-    QCOMPARE(entry->attribute("HRPackagName"), QString("A"));
-    QCOMPARE(entry->attribute("a"), QString("1"));
-}
-
-void tst_HRIndex::loadKeyData_overwritesAttributes()
-{
-    Fixture fixture;
-    HRXmlElement entry;
-    entry.setAttribute("n", "1");
-    entry.setAttribute("name", "kept");
-    fixture.index.loadKeyData("pen", QString(), &entry);
-    QCOMPARE(entry.attribute("n"), QString("1"));
-    fixture.context.set(keyDataFileKey,
-        fixture.packages.write("keys.xml",
-            "<hintreelkeys><key name='pen' n='2' m='3'/><key name='pen' n='4'/></hintreelkeys>"));
-    fixture.index.loadKeyData("pen", QString(), &entry);
-    QCOMPARE(entry.attribute("n"), QString("2"));
-    QCOMPARE(entry.attribute("m"), QString("3"));
-    QCOMPARE(entry.attribute("name"), QString("kept"));
-}
-
 void tst_HRIndex::keys_repeatAndKeepTheirOrder()
 {
-    Fixture fixture;
+    IndexFixture fixture;
     fixture.add("A", "a.xml", "<hintreel key='pen'/><hintreel key='line'/>");
     fixture.add("A", "b.xml", "<hintreel key='pen'/><hintreel/>", "locale='de_DE'");
     QCOMPARE(fixture.index.keys(), QStringList({ "pen", "pen", "line" }));
-}
-
-void tst_HRIndex::componentPaths_ofAPackage()
-{
-    Fixture fixture;
-    fixture.add("1/A", "a.xml", "<hintreel key='pen'/>");
-    fixture.add("2/A", "a.xml", "<hintreel key='pen'/>");
-    fixture.add("1/A", "b.xml", "<hintreel key='line'/>");
-    const QStringList both{ fixture.packagePath("1/A"), fixture.packagePath("2/A") };
-    QCOMPARE(fixture.index.componentPathsForPackageNamed("A"), both);
-    QCOMPARE(fixture.index.componentPathsForPackageNamed("B"), QStringList());
-    fixture.context.set(componentDirectoryKey, "/shared");
-    QCOMPARE(fixture.index.componentPathsForPackageNamed("A"), both + QStringList("/shared"));
-    QCOMPARE(fixture.index.componentPathsForPackageNamed("B"), QStringList("/shared"));
-}
-
-void tst_HRIndex::componentPaths_ofAnElement()
-{
-    Fixture fixture;
-    fixture.add("B", "b.xml", "<hintreel key='x'/>");
-    fixture.add("C", "c.xml", "<hintreel key='x'/>");
-    fixture.add("A", "a.xml", "<hintreel key='pen'/>", "search=' C, ;B X'");
-    fixture.context.set(componentDirectoryKey, "/shared");
-    const auto tree = fixture.find("pen");
-    QVERIFY(tree);
-    const HRXmlElement *entry = tree->childElement("hintreel");
-    const QStringList directories{ fixture.packagePath("A"), "/shared", fixture.packagePath("C"),
-        fixture.packagePath("B") };
-    QCOMPARE(fixture.index.componentPathsForElement(entry, QString()), directories);
-    QStringList files;
-    for (const QString &directory : directories)
-        files.append(directory + "/video/a.mp4");
-    QCOMPARE(fixture.index.componentPathsForElement(entry, "video/a.mp4"), files);
-}
-
-void tst_HRIndex::packageSuffix_isASetting()
-{
-    Fixture fixture;
-    fixture.packages.write("A.tips/x.xml", "");
-    const QString file = fixture.packages.path() + "/A.tips/x.xml";
-    QCOMPARE(fixture.index.packageNameForLocation(file), QString());
-    fixture.context.set(packageSuffixKey, "tips");
-    QCOMPARE(fixture.index.packageNameForLocation(file), QString("A"));
-}
-
-void tst_HRIndex::mapControlFile_seesADirectoryThatIsMadeLater()
-{
-    Fixture fixture;
-    const QString package = fixture.packagePath("A");
-    fixture.index.mapControlFile(QString(), package);
-    QVERIFY(fixture.index.componentPathsForPackageNamed("A").isEmpty());
-    fixture.packages.write("A.hintreels/x.xml", "");
-    fixture.index.mapControlFile(QString(), package);
-    QCOMPARE(fixture.index.componentPathsForPackageNamed("A"), QStringList(package));
-}
-
-void tst_HRIndex::mapControlFile_seesASuffix_whenSettingsAreAssigned()
-{
-    Fixture fixture;
-    fixture.packages.write("A.tips/x.xml", "");
-    const QString package = fixture.packages.path() + "/A.tips";
-    fixture.index.mapControlFile(QString(), package);
-    HRContext settings;
-    settings.set(packageSuffixKey, "tips");
-    fixture.context = settings;
-    fixture.index.mapControlFile(QString(), package);
-    QCOMPARE(fixture.index.componentPathsForPackageNamed("A"), QStringList(package));
 }
 
 QTEST_GUILESS_MAIN(tst_HRIndex)

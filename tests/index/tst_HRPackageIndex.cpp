@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
+#include "index/settled.h"
+
 #include "content/HRXmlElement.h"
 #include "context/HRContext.h"
 #include "files/HRFileStamp_p.h"
@@ -164,7 +166,7 @@ void tst_HRPackageIndex::initTestCase()
         m_many.writeControl("A", QString::number(i) + ".xml", "<hintreel key='a'/>");
     writeTree(m_mixed[0], 1);
     writeTree(m_mixed[1], 2);
-    QTest::qWait(2600);
+    QVERIFY(becomesSettled(m_pair.write("last", "")));
 }
 
 /// Forgets the runs of the tests before.

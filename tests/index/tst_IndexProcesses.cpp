@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
+#include "index/settled.h"
+
 #include "content/HRXmlElement.h"
 #include "context/HRContext.h"
 #include "index/HRPackageIndex.h"
@@ -56,7 +58,7 @@ constexpr int KeysInFile = 20;
 
 int kills()
 {
-    constexpr int Enough = 60;
+    constexpr int Enough = 24;
     const int asked = qEnvironmentVariableIntValue("HINTREELS_KILLS");
     return asked > 0 ? asked : Enough;
 }
@@ -196,7 +198,7 @@ void tst_IndexProcesses::initTestCase()
                 entries, "locale='en_US'");
         }
     }
-    QTest::qWait(2600); // files just written are not kept
+    QVERIFY(becomesSettled(m_packages.write("last", "")));
 }
 
 void tst_IndexProcesses::start_answersRightly_afterAKill_data()
@@ -214,7 +216,7 @@ void tst_IndexProcesses::start_answersRightly_afterAKill()
     for (int kill = 0; kill < kills() / 2; ++kill) {
         const auto process = startProcess({ "fill", kind, m_packages.path(), "100000", "-1" });
         QVERIFY(process->waitForReadyRead());
-        QThread::usleep(random.bounded(30000));
+        QThread::usleep(random.bounded(30000)); // whatever it is doing then
         process->kill();
         QVERIFY(process->waitForFinished());
         startTwice(kind);
@@ -238,7 +240,7 @@ void tst_IndexProcesses::start_answersRightly_whileAnotherIsKilled()
         QVERIFY(victim->waitForReadyRead());
         const auto witness = startProcess({ "check", kind, m_packages.path(), "1" });
         QVERIFY(witness->waitForReadyRead());
-        QThread::usleep(random.bounded(30000));
+        QThread::usleep(random.bounded(30000)); // whatever it is doing then
         victim->kill();
         QVERIFY(victim->waitForFinished());
         QVERIFY(witness->waitForFinished());

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
-#include "files/HRFileStamp_p.h"
+#include "index/settled.h"
+
 #include "index/control/HRControlDigest_p.h"
 #include "index/control/HRControlPrefilter_p.h"
 #include "index/control/HRControlRecords_p.h"
@@ -21,8 +22,6 @@ class tst_HRControlPrefilter : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void stamp_settles_data();
-    void stamp_settles();
     void mayServe_seesEveryEdit_inATightLoop_data();
     void mayServe_seesEveryEdit_inATightLoop();
     void mayServe_trustsASettledReading();
@@ -33,8 +32,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-constexpr qint64 Second = 1'000'000'000;
 
 struct Fixture
 {
@@ -62,31 +59,6 @@ void setOldTime(const QString &path)
 }
 
 } // namespace
-
-void tst_HRControlPrefilter::stamp_settles_data()
-{
-    QTest::addColumn<qint64>("modified");
-    QTest::addColumn<qint64>("changed");
-    QTest::addColumn<bool>("settled");
-    const qint64 now = 1000 * Second;
-    QTest::newRow("old") << now - 10 * Second << now - 10 * Second << true;
-    QTest::newRow("just now") << now << now << false;
-    QTest::newRow("the last step of a slow clock") << now - 2 * Second << now - 2 * Second << false;
-    QTest::newRow("time put back") << now - 10 * Second << now << false;
-    QTest::newRow("time to come, changed now") << now + 100 * Second << now << false;
-    QTest::newRow("time to come") << now + 100 * Second << now - 10 * Second << true;
-    QTest::newRow("clock put back") << now + 100 * Second << now + 100 * Second << true;
-}
-
-void tst_HRControlPrefilter::stamp_settles()
-{
-    QFETCH(qint64, modified);
-    QFETCH(qint64, changed);
-    HRFileStamp stamp;
-    stamp.modified = modified;
-    stamp.changed = changed;
-    QTEST(isSettled(stamp, 1000 * Second), "settled");
-}
 
 void tst_HRControlPrefilter::mayServe_seesEveryEdit_inATightLoop_data()
 {
@@ -124,10 +96,10 @@ void tst_HRControlPrefilter::mayServe_seesEveryEdit_inATightLoop()
 void tst_HRControlPrefilter::mayServe_trustsASettledReading()
 {
     Fixture fixture;
-    fixture.add(fixture.packages.writeControl("A", "a.xml", "<hintreel key='pen'/>"));
+    const QString file = fixture.packages.writeControl("A", "a.xml", "<hintreel key='pen'/>");
+    fixture.add(file);
     QVERIFY(fixture.mayServe("pen"));
-    QVERIFY(!fixture.record->isSettled);
-    QTest::qWait(2600);
+    QVERIFY(becomesSettled(file));
     QVERIFY(fixture.mayServe("pen"));
     QVERIFY(fixture.record->isSettled);
     fixture.record->digest.keys = { keyNumber(QString("line")) };
@@ -141,7 +113,7 @@ void tst_HRControlPrefilter::mayServe_seesAnEdit_thatPutsTheTimeBack()
     const QString file = fixture.packages.writeControl("A", "a.xml", "<hintreel key='pen'/>");
     setOldTime(file);
     fixture.add(file);
-    QTest::qWait(2600);
+    QVERIFY(becomesSettled(file));
     QVERIFY(fixture.mayServe("pen"));
     QVERIFY(fixture.record->isSettled);
     fixture.packages.writeControl("A", "a.xml", "<hintreel key='ink'/>");
