@@ -158,7 +158,7 @@ HRXmlElement *HRIndex::retrieve(
 {
     const quint32 number = keyNumber(key);
     for (HRControlRecord &record : d->records) {
-        if (!d->reader.mayServe(record, number, locale))
+        if (!d->prefilter.mayServe(record, number, locale))
             continue;
         const QString path = record.path();
         HRXmlElement *entry = load(key, path, locale, root);
@@ -191,7 +191,7 @@ QStringList HRIndex::keys()
 {
     QStringList keys;
     for (const HRControlRecord &record : d->records) {
-        if (d->reader.mayRead(record.path()))
+        if (d->prefilter.mayRead(record.path()))
             keys += keysOfControlFile(record.path());
     }
     return keys;
@@ -209,7 +209,7 @@ void HRIndex::indexControlFile(const QString &filePath, const QString &packagePa
 HRXmlElement *HRIndex::load(
     const QString &key, const QString &filePath, const QLocale &locale, HRXmlElement *&root)
 {
-    if (!d->reader.mayRead(filePath))
+    if (!d->prefilter.mayRead(filePath))
         return nullptr;
     std::unique_ptr<HRXmlElement> tree = readOnlyTree(filePath, generateContentElement, key);
     if (!tree)

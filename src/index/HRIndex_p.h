@@ -52,7 +52,7 @@ struct HRIndexPrivate
     QPointer<HRContext> context;
     QStringList paths;
     HRControlRecords records;
-    HRControlPrefilter reader;
+    HRControlPrefilter prefilter;
     HRPackageMap packages;
     HRControlFileProbe probe;
     HRPackageDepth depth;

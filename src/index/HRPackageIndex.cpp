@@ -100,7 +100,7 @@ bool HRPackageIndexPrivate::learn(HRControlRecord &record, std::string_view name
     HRStoredFile file;
     const qint64 now = nanosecondsNow();
     file.isControlFile = memory.isControlFile(record.path());
-    if (file.isControlFile && !memory.reader.read(record))
+    if (file.isControlFile && !memory.prefilter.read(record))
         return false;
     file.stamp = record.stamp;
     file.digest = record.digest;

@@ -61,7 +61,7 @@ HRPackageScanner::HRPackageScanner(
     , m_refuse(std::move(refuse))
 {
     // The index may live for longer.
-    HRIndexPrivate::of(m_index).reader.setJudge(
+    HRIndexPrivate::of(m_index).prefilter.setJudge(
         [this, life = std::weak_ptr<bool>(m_life)](
             const QString &path, qint64 size) { return life.expired() || mayRead(path, size); });
 }
