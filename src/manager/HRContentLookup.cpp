@@ -21,6 +21,23 @@ namespace {
 // first, and a hint in English is better than none.
 const QString defaultLocale = QStringLiteral("en_US");
 
+/// What an index answers with.
+struct Answer
+{
+    QString path;
+    int depth = 0;
+    HRXmlElement *root = nullptr; // on a miss it may be the address of what the index has deleted
+};
+
+/// The tree that an index hands over begins at the element's parent, whatever it says of the root.
+std::optional<HRFoundContent> foundContent(HRXmlElement *element, const Answer &answer)
+{
+    if (!element)
+        return std::nullopt;
+    return HRFoundContent{ HRContent(element, element->parent()), answer.root != nullptr,
+        answer.path, answer.depth };
+}
+
 } // namespace
 
 QString HRFoundContent::packageDirectory() const
@@ -28,19 +45,6 @@ QString HRFoundContent::packageDirectory() const
     QDir directory(path);
     for (int level = 1; level < depth && directory.cdUp(); ++level) { }
     return directory.canonicalPath();
-}
-
-void HRFoundContent::discard()
-{
-    if (element)
-        delete (element->parent() ? element->parent() : element);
-    element = root = nullptr;
-}
-
-void HRFoundContent::forgetStrayRoot()
-{
-    if (!element)
-        root = nullptr;
 }
 
 HRContentLookup::HRContentLookup(const HRContext &context, HRIndex &index, Report report)
@@ -65,23 +69,22 @@ HRXmlElement *HRContentLookup::retrieve(
     return element;
 }
 
-HRFoundContent HRContentLookup::find(const QString &key) const
+std::optional<HRFoundContent> HRContentLookup::find(const QString &key) const
 {
-    HRFoundContent found;
-    found.element = retrieve(key, found.path, found.depth, found.root);
-    found.forgetStrayRoot();
-    return found;
+    Answer answer;
+    HRXmlElement *element = retrieve(key, answer.path, answer.depth, answer.root);
+    return foundContent(element, answer);
 }
 
-HRFoundContent HRContentLookup::findFallback() const
+std::optional<HRFoundContent> HRContentLookup::findFallback() const
 {
-    HRFoundContent found;
     const QString key = fallbackKey();
     if (key.isNull())
-        return found;
-    found.element = m_index.retrieve(key, fallbackLocale(), found.path, found.depth, found.root);
-    found.forgetStrayRoot();
-    return found;
+        return std::nullopt;
+    Answer answer;
+    HRXmlElement *element
+        = m_index.retrieve(key, fallbackLocale(), answer.path, answer.depth, answer.root);
+    return foundContent(element, answer);
 }
 
 QString HRContentLookup::fallbackKey() const

@@ -3,37 +3,30 @@
 
 #pragma once
 
+#include "content/HRContent_p.h"
+
 #include <QLocale>
 #include <QString>
 
 #include <functional>
+#include <optional>
 
 class HRContext;
 
 namespace Hintreels {
 
 class HRIndex;
-class HRXmlElement;
 
-/// The content found for a key; whoever takes it owns the tree until it is handed on.
+/// The content found for a key.
 struct HRFoundContent
 {
-    HRXmlElement *element = nullptr;
-    HRXmlElement *root = nullptr; ///< top of the element's tree
+    HRContent content; ///< with an entry in it
+    bool hasRoot = false; ///< whether the index has named one; what has none is not shown
     QString path; ///< directory of the control file
     int depth = 0; ///< levels from the package directory down to the control file
 
-    explicit operator bool() const { return element && root; }
-
     /// The package directory, canonical; a control file directly in it has the depth 1.
     QString packageDirectory() const;
-
-    /// Clears the root where there is no element: an index may leave the address of what it has
-    /// deleted.
-    void forgetStrayRoot();
-
-    /// Frees the tree: with the element's parent where it has one, else the element.
-    void discard();
 };
 
 /// Looks content up, first for the primary locale, then for the fallback locale.
@@ -52,11 +45,11 @@ public:
     HRXmlElement *retrieve(
         const QString &key, QString &path, int &depth, HRXmlElement *&root) const;
 
-    /// The same as a record, which is safe to look at on a miss.
-    HRFoundContent find(const QString &key) const;
+    /// The same with an owner; nothing on a miss, whatever the index has written.
+    std::optional<HRFoundContent> find(const QString &key) const;
 
     /// The fallback key's content, which is looked for in the fallback locale only.
-    HRFoundContent findFallback() const;
+    std::optional<HRFoundContent> findFallback() const;
 
     /// The key to show where another has no content; null where the host sets none.
     QString fallbackKey() const;

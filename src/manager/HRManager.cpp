@@ -287,10 +287,8 @@ QString HRManager::hintreelAttribute(
     if (const HRXmlElement *reserved = d->reservedPopups.content(key))
         return valueOf(*reserved);
     const std::shared_ptr<HRManagerPrivate> work = d;
-    HRFoundContent found = work->lookup.find(key);
-    QString value = found.element ? valueOf(*found.element) : defaultValue;
-    found.discard();
-    return value;
+    const std::optional<HRFoundContent> found = work->lookup.find(key);
+    return found ? valueOf(*found->content.entry()) : defaultValue;
 }
 
 int HRManager::getScaledSize(int size) const

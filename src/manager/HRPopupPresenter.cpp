@@ -3,25 +3,24 @@
 
 #include "manager/HRPopupPresenter_p.h"
 
-#include "content/HRXmlElement.h"
 #include "context/setting_p.h"
 #include "interface/HRInterface.h"
-#include "ui/popup/HRView.h"
+#include "ui/popup/HRViewPrivate_p.h"
 
 #include <limits>
+#include <utility>
 
 namespace Hintreels {
 
 namespace {
 
-// Takes what a view shows out of it, with its whole tree, unless it shows that next, too.
-QObject *takeShownContent(HRView *view, const HRXmlElement *next)
+// Returns what the view has shown. An index that gives an entry once more keeps it, and with it the
+// tree that it had handed over.
+HRContent putInto(HRView &view, HRContent content)
 {
-    HRXmlElement *content = view->content();
-    if (!content || content == next)
-        return nullptr;
-    view->setContent(nullptr);
-    return content->parent() ? content->parent() : content;
+    const bool isGivenAgain = view.content() == content.entry();
+    return HRViewPrivate::of(view).exchangeContent(
+        isGivenAgain ? HRContent::of(content.release()) : std::move(content));
 }
 
 // Any numbers may be set and asked for.
@@ -53,22 +52,20 @@ bool HRPopupPresenter::show(const HRHover &hover)
 {
     if (keepsShowing(hover.key))
         return true;
-    HRFoundContent found = m_lookup.find(hover.key);
-    if (!found.element && keepsShowing(m_lookup.fallbackKey()))
+    std::optional<HRFoundContent> found = m_lookup.find(hover.key);
+    if (!found && keepsShowing(m_lookup.fallbackKey()))
         return true;
-    if (!found.element)
+    if (!found)
         found = m_lookup.findFallback();
-    if (!found) {
-        found.discard();
+    if (!found || !found->hasRoot)
         return keepOrHide(hover);
-    }
-    if (!canPresent()) {
-        found.discard();
+    if (!canPresent())
         return false;
-    }
-    if (isPopupVisible() && m_popup->view()->content() == found.element)
+    if (isPopupVisible() && m_popup->view()->content() == found->content.entry()) {
+        putInto(*m_popup->view(), std::move(found->content));
         return true;
-    return present(hover, found) || (canPresent() && isPopupVisible());
+    }
+    return present(hover, std::move(*found)) || (canPresent() && isPopupVisible());
 }
 
 QPoint HRPopupPresenter::position(const QPoint &globalPos) const
@@ -106,15 +103,14 @@ bool HRPopupPresenter::canPresent() const
     return m_interface && m_popup && m_popup->view();
 }
 
-bool HRPopupPresenter::present(const HRHover &hover, const HRFoundContent &found)
+bool HRPopupPresenter::present(const HRHover &hover, HRFoundContent found)
 {
     const QPointer<HRWidget> popup = m_popup;
-    const QPointer<HRXmlElement> element = found.element;
+    const QPointer<HRXmlElement> element = found.content.entry();
     // Before the host is asked for the shortcut: an offset that it sets then is for the next hint.
     const QPoint corner = position(hover.globalPos);
     // Freed only at the end, or the scene's bindings would see null on the way.
-    const QPointer<QObject> previous = takeShownContent(popup->view(), element);
-    popup->view()->setContent(element);
+    HRContent previous = putInto(*popup->view(), std::move(found.content));
     nameShortcut(hover, element);
     const bool isWanted
         = canPresent() && popup == m_popup && element && popup->view()->content() == element;
@@ -125,9 +121,7 @@ bool HRPopupPresenter::present(const HRHover &hover, const HRFoundContent &found
             popup->raise();
     }
     if (popup && popup->view())
-        popup->view()->discard(previous);
-    else
-        delete previous;
+        HRViewPrivate::of(*popup->view()).freeContent(std::move(previous));
     return isWanted && popup;
 }
 

@@ -53,7 +53,7 @@ private:
     bool keepsShowing(const QString &key);
     bool keepOrHide(const HRHover &hover);
     bool canPresent() const;
-    bool present(const HRHover &hover, const HRFoundContent &found);
+    bool present(const HRHover &hover, HRFoundContent found);
     void nameShortcut(const HRHover &hover, HRXmlElement *element);
 
     const HRContext &m_context;

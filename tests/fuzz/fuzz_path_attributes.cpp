@@ -11,7 +11,7 @@
 #include "manager/externalResource_p.h"
 #include "support/Promises.h"
 #include "support/TestPackage.h"
-#include "ui/popup/HRView.h"
+#include "ui/popup/HRViewPrivate_p.h"
 #include "video/captions_p.h"
 
 #include <QFileInfo>
@@ -56,7 +56,8 @@ bool liesInPackages(const Host &host, const QString &path)
 
 void requireOwn(const Host &host, const QString &path)
 {
-    if (QFileInfo::exists(path) && host.view->mayOpen("resources", path, HRFileUse::any))
+    if (QFileInfo::exists(path)
+        && HRViewPrivate::of(*host.view).mayOpen("resources", path, HRFileUse::any))
         require(!host.ownFilesOnly || liesInPackages(host, path), "own files only");
 }
 

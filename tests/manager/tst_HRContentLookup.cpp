@@ -26,14 +26,16 @@ public:
         root = reinterpret_cast<HRXmlElement *>(quintptr(8));
         if (!entries.contains(questions.last()))
             return nullptr;
-        root = new HRXmlElement;
+        auto *top = new HRXmlElement;
+        root = namesRoot ? top : nullptr;
         directory = "directory";
         depth = 3;
-        return new HRXmlElement(root);
+        return new HRXmlElement(top);
     }
 
     QStringList entries;
     QStringList questions;
+    bool namesRoot = true;
 };
 
 struct Fixture
@@ -54,11 +56,10 @@ private Q_SLOTS:
     void find_triesLocalesInOrder_data();
     void find_triesLocalesInOrder();
     void find_reportsTime();
-    void find_returnsNoRoot_whenNothingIsFound();
+    void find_ownsTheTree_withOrWithoutNamedRoot_data();
+    void find_ownsTheTree_withOrWithoutNamedRoot();
     void findFallback_asksInFallbackLocaleOnly();
     void findFallback_asksNothing_whenKeyIsNull();
-    void discard_freesWholeTree();
-    void discard_freesElementWithoutParent();
     void packageDirectory_goesUpByDepth_data();
     void packageDirectory_goesUpByDepth();
 };
@@ -93,33 +94,47 @@ void tst_HRContentLookup::find_triesLocalesInOrder()
     if (!fallback.isNull())
         f.context.set(fallbackLocaleKey, fallback);
 
-    HRFoundContent found = f.lookup.find("k");
+    const std::optional<HRFoundContent> found = f.lookup.find("k");
 
-    QCOMPARE(bool(found), !f.index.entries.isEmpty());
+    QCOMPARE(found.has_value(), !f.index.entries.isEmpty());
     QTEST(f.index.questions, "questions");
-    found.discard();
 }
 
 void tst_HRContentLookup::find_reportsTime()
 {
     Fixture f;
     f.index.entries = QStringList{ "%2/en_US" };
-    f.lookup.find("missing").discard();
+    QVERIFY(!f.lookup.find("missing"));
     QVERIFY(f.reports.isEmpty());
 
-    f.lookup.find("%2").discard();
+    QVERIFY(f.lookup.find("%2"));
 
     QCOMPARE(f.reports.size(), 1);
     const QRegularExpression expected("^Retrieved %2 in [0-9.e-]+ seconds$");
     QVERIFY2(expected.match(f.reports.first()).hasMatch(), qPrintable(f.reports.first()));
 }
 
-void tst_HRContentLookup::find_returnsNoRoot_whenNothingIsFound()
+void tst_HRContentLookup::find_ownsTheTree_withOrWithoutNamedRoot_data()
 {
+    QTest::addColumn<bool>("namesRoot");
+    QTest::newRow("the index names it") << true;
+    QTest::newRow("the index keeps silent on it") << false;
+}
+
+void tst_HRContentLookup::find_ownsTheTree_withOrWithoutNamedRoot()
+{
+    QFETCH(bool, namesRoot);
     Fixture f;
-    const HRFoundContent found = f.lookup.find("k");
-    QCOMPARE(found.element, nullptr);
-    QCOMPARE(found.root, nullptr);
+    f.index.entries = QStringList{ "k/en_US" };
+    f.index.namesRoot = namesRoot;
+    QPointer<QObject> root;
+    {
+        const std::optional<HRFoundContent> found = f.lookup.find("k");
+        QVERIFY(found);
+        QCOMPARE(found->hasRoot, namesRoot);
+        root = found->content.entry()->parent();
+    }
+    QVERIFY(!root);
 }
 
 void tst_HRContentLookup::findFallback_asksInFallbackLocaleOnly()
@@ -129,14 +144,13 @@ void tst_HRContentLookup::findFallback_asksInFallbackLocaleOnly()
     f.context.set(fallbackKeyKey, "other");
     f.index.entries = QStringList{ "other/en_US" };
 
-    HRFoundContent found = f.lookup.findFallback();
+    const std::optional<HRFoundContent> found = f.lookup.findFallback();
 
     QVERIFY(found);
-    QCOMPARE(found.depth, 3);
-    QCOMPARE(found.path, QString("directory"));
+    QCOMPARE(found->depth, 3);
+    QCOMPARE(found->path, QString("directory"));
     QCOMPARE(f.index.questions, QStringList{ "other/en_US" });
     QVERIFY(f.reports.isEmpty());
-    found.discard();
 }
 
 void tst_HRContentLookup::findFallback_asksNothing_whenKeyIsNull()
@@ -145,31 +159,6 @@ void tst_HRContentLookup::findFallback_asksNothing_whenKeyIsNull()
     QVERIFY(!f.lookup.findFallback());
     QVERIFY(f.index.questions.isEmpty());
     QVERIFY(f.lookup.fallbackKey().isNull());
-}
-
-void tst_HRContentLookup::discard_freesWholeTree()
-{
-    HRFoundContent found;
-    found.root = new HRXmlElement;
-    found.element = new HRXmlElement(found.root);
-    const QPointer<HRXmlElement> root = found.root;
-    const QPointer<HRXmlElement> element = found.element;
-
-    found.discard();
-
-    QVERIFY(!root);
-    QVERIFY(!element);
-    QVERIFY(!found);
-    found.discard();
-}
-
-void tst_HRContentLookup::discard_freesElementWithoutParent()
-{
-    HRFoundContent found;
-    found.element = new HRXmlElement;
-    const QPointer<HRXmlElement> element = found.element;
-    found.discard();
-    QVERIFY(!element);
 }
 
 void tst_HRContentLookup::packageDirectory_goesUpByDepth_data()

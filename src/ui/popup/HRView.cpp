@@ -3,21 +3,16 @@
 
 #include "ui/popup/HRView.h"
 
-#include "gates/HRSceneGates_p.h"
-#include "gates/HRScriptWatch_p.h"
+#include "context/setting_p.h"
 #include "index/HRIndex.h"
 #include "interface/HRInterface.h"
-#include "manager/HRManager.h"
-#include "ui/popup/HROverrideCursors_p.h"
-#include "ui/popup/HRSceneLoader_p.h"
-#include "ui/popup/HRViewClips_p.h"
-#include "ui/popup/contentTree_p.h"
+#include "ui/popup/HRViewPrivate_p.h"
+#include "ui/popup/componentSearch_p.h"
 #include "ui/popup/cursorShape_p.h"
 #include "ui/popup/quickRenderer_p.h"
 #include "ui/popup/sceneReach_p.h"
 #include "ui/popup/serviceTypes_p.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QQmlEngine>
 #include <QQuickItem>
@@ -26,57 +21,9 @@ namespace Hintreels {
 
 namespace {
 
-/// The value of an attribute in the element, else in its parent element; no further up.
-QString attributeNearby(const HRXmlElement *element, const QString &name)
-{
-    if (element->hasAttribute(name))
-        return element->attribute(name);
-    const auto *parent = qobject_cast<const HRXmlElement *>(element->parent());
-    return parent ? parent->attribute(name) : QString();
-}
-
-void report(HRManager *manager, const QString &message)
-{
-    if (manager)
-        manager->handleMessage(messageDebug, message);
-}
-
-void reportErrors(HRManager *manager, const QString &pattern, const QList<QQmlError> &errors)
-{
-    for (const QQmlError &error : errors)
-        report(manager, pattern.arg(error.line()).arg(error.column()).arg(error.description()));
-}
-
-QString packageName(const HRXmlElement *content)
-{
-    return content ? content->attribute(QStringLiteral("HRPackagName")) : QString();
-}
-
-void reportRefusal(
-    HRManager *manager, const HRXmlElement *content, const QString &kind, const QString &path)
-{
-    if (manager)
-        manager->handleMessage(messageWarning,
-            QStringLiteral("Package \"%1\" may not use %2 \"%3\"")
-                .arg(packageName(content), kind, path));
-}
-
-/// Null for the defaults.
 const HRContext *settingsOf(const HRManager *manager)
 {
     return manager ? &manager->context() : nullptr;
-}
-
-HRReach reachOf(const HRManager *manager, const HRXmlElement *content, const QString &qmlFile,
-    const QQmlEngine &engine)
-{
-    return manager ? reachOfScene(manager->context(), *manager->index(), content, qmlFile, engine)
-                   : HRReach();
-}
-
-QVariant managerSetting(HRManager *manager, HRContextKey key, const QVariant &defaultValue)
-{
-    return manager ? manager->context().get(key, defaultValue) : defaultValue;
 }
 
 } // namespace
@@ -92,26 +39,16 @@ int HRSceneWindow::qt_metacall(QMetaObject::Call call, int id, void **arguments)
 
 HRView::HRView(HRManager *manager, QWindow *parent)
     : HRSceneWindow((chooseQuickRenderer(settingsOf(manager)), parent))
-    , m_manager(manager)
-    , m_cursors(std::make_unique<HROverrideCursors>())
-    , m_loader(std::make_unique<HRSceneLoader>(
-          this, engine(), [this](const QUrl &source) { take(source); }))
-    , m_gates(std::make_unique<HRSceneGates>(engine(), contentItem(),
-          [this](const QString &kind, const QString &path) {
-              reportRefusal(m_manager, m_content, kind, path);
-          }))
-    , m_watch(std::make_shared<HRScriptWatch>(engine()))
-    , m_clips(new HRViewClips(this))
 {
-    connect(m_watch.get(), &HRScriptWatch::stopped, this, &HRView::scriptStopped);
+    // Empty until here, since the view hears of the children that its pieces make.
+    d = std::make_unique<HRViewPrivate>(this, manager);
+    connect(
+        d->watch.get(), &HRScriptWatch::stopped, this, [this](int limit) { d->stopScript(limit); });
     connect(engine(), &QQmlEngine::warnings, this, &HRView::handleWarnings);
     connect(this, &QQuickView::statusChanged, this, &HRView::statusHasChanged);
     // A renderer that fails ends the application unless somebody listens.
     connect(this, &QQuickWindow::sceneGraphError, this,
-        [this](SceneGraphError, const QString &message) {
-            if (m_manager)
-                m_manager->handleMessage(messageError, message);
-        });
+        [this](SceneGraphError, const QString &message) { d->report(messageError, message); });
     if (manager)
         connect(&manager->context(), &HRContext::settingDidChange, this,
             &HRView::managerContextSettingDidChange);
@@ -122,20 +59,20 @@ HRView::HRView(HRManager *manager, QWindow *parent)
 
 HRView::~HRView()
 {
-    m_cursors->release();
+    d->cursors.release();
     // The scene first: its bindings should not see the content go.
-    endScene();
-    deleteContentTree(m_content);
+    d->endScene();
+    d->content = HRContent();
 }
 
 HRManager *HRView::manager() const
 {
-    return m_manager;
+    return d->manager;
 }
 
 QUrl HRView::source() const
 {
-    return m_loader->waiting().value_or(QQuickView::source());
+    return d->loader.waiting().value_or(QQuickView::source());
 }
 
 void HRView::setSource(const QUrl &source)
@@ -143,72 +80,48 @@ void HRView::setSource(const QUrl &source)
     load(source);
 }
 
-HRSceneLoader *HRView::sceneLoader() const
-{
-    return m_loader.get();
-}
-
-const std::shared_ptr<HRScriptWatch> &HRView::scriptWatch() const
-{
-    return m_watch;
-}
-
-bool HRView::mayOpen(const QString &attribute, const QString &path, HRFileUse use) const
-{
-    followRules();
-    return m_gates->admits(attribute, path, use);
-}
-
 bool HRView::stayOpen() const
 {
-    return m_stayOpen;
+    return d->stayOpen;
 }
 
 void HRView::setStayOpen(bool stayOpen)
 {
-    const HRScriptWatch::HostCall call(m_watch);
-    m_stayOpen = stayOpen;
+    const HRScriptWatch::HostCall call(d->watch);
+    d->stayOpen = stayOpen;
     Q_EMIT stayOpenChanged();
 }
 
 bool HRView::reserved() const
 {
-    return m_reserved;
+    return d->reserved;
 }
 
 void HRView::setReserved(bool reserved)
 {
-    if (m_reserved == reserved)
+    if (d->reserved == reserved)
         return;
-    const HRScriptWatch::HostCall call(m_watch);
-    m_reserved = reserved;
+    const HRScriptWatch::HostCall call(d->watch);
+    d->reserved = reserved;
     Q_EMIT reservedChanged();
 }
 
 HRXmlElement *HRView::content() const
 {
-    return m_content;
+    return d->content.entry();
 }
 
 void HRView::setContent(HRXmlElement *content)
 {
-    if (m_content != content)
-        m_gates->forgetRefusals();
-    m_content = content;
-    followRules();
-}
-
-void HRView::discard(QObject *contentTree)
-{
-    if (contentTree && m_loader->isSceneAtWork())
-        contentTree->deleteLater();
+    if (content != d->content.entry())
+        d->exchangeContent(HRContent::of(content)).release();
     else
-        delete contentTree;
+        d->followRules();
 }
 
 bool HRView::documentationAvailable() const
 {
-    return managerSetting(m_manager, allowNamedResourcesKey, {}).toBool();
+    return setting(d->settings(), allowNamedResourcesKey, false);
 }
 
 QString HRView::resourceDirectoryPath() const
@@ -220,12 +133,12 @@ QString HRView::resourceDirectoryPath() const
 
 QDir HRView::packageRoot() const
 {
-    return QDir(m_packageRoot);
+    return QDir(d->packageRoot);
 }
 
 void HRView::setPackageRoot(const QDir &directory)
 {
-    m_packageRoot = directory.absolutePath();
+    d->packageRoot = directory.absolutePath();
 }
 
 void HRView::setViewPos(int x, int y)
@@ -235,9 +148,9 @@ void HRView::setViewPos(int x, int y)
 
 QString HRView::uiRootFilePath() const
 {
-    const bool simple = managerSetting(m_manager, simpleTooltipKey, false).toBool();
-    followRules();
-    if (m_gates->rules().fromStrangers)
+    const bool simple = setting(d->settings(), simpleTooltipKey, false);
+    d->followRules();
+    if (d->gates.rules().fromStrangers)
         return builtInUi(simple);
     if (simple)
         return findComponent(QStringLiteral("simple"), simpleUiFileKey,
@@ -249,71 +162,69 @@ QString HRView::uiRootFilePath() const
 QString HRView::categoryPath(
     const QString &attributeName, const QString &defaultValue, HRContextKey key) const
 {
-    const QString chosen = m_content ? attributeNearby(m_content, attributeName) : QString();
-    return chosen.isEmpty() ? managerSetting(m_manager, key, defaultValue).toString() : chosen;
+    const QString chosen = chosenByContent(d->content.entry(), attributeName);
+    return chosen.isEmpty() ? setting(d->settings(), contextKey(key), defaultValue) : chosen;
 }
 
 QString HRView::findComponent(const QString &attributeName, HRContextKey key,
     const QString &defaultValue, const QString &relativePath) const
 {
     QString base = categoryPath(attributeName, defaultValue, key);
-    if (!m_content || !m_manager)
+    const HRXmlElement *content = d->content.entry();
+    if (!content || !d->manager)
         return base;
-    followRules();
-    const QStringList candidates = m_manager->index()->componentPathsForElement(m_content, base);
-    for (const QString &candidate : candidates) {
-        const QString file
-            = relativePath.isEmpty() ? candidate : QDir(candidate).absoluteFilePath(relativePath);
-        if (QFile::exists(file))
-            return m_gates->admits(attributeName, file, HRFileUse::any)
-                ? QFileInfo(file).absoluteFilePath()
-                : QString();
-    }
+    d->followRules();
+    const QString file
+        = firstExisting(d->manager->index()->componentPathsForElement(content, base), relativePath);
+    if (!file.isNull())
+        return d->gates.admits(attributeName, file, HRFileUse::any)
+            ? QFileInfo(file).absoluteFilePath()
+            : QString();
     // Such a name would be looked for in the working directory.
-    return m_gates->rules().ownFilesOnly && !relativePath.isEmpty() ? QString() : base;
+    return d->gates.rules().ownFilesOnly && !relativePath.isEmpty() ? QString() : base;
 }
 
 void HRView::releaseOverrideCursors()
 {
-    m_cursors->release();
+    d->cursors.release();
 }
 
 void HRView::setDecodingPaused(bool paused)
 {
-    m_clips->setDecodingPaused(paused);
+    d->clips->setDecodingPaused(paused);
 }
 
 bool HRView::isDecodingPaused() const
 {
-    return m_clips->isDecodingPaused();
+    return d->clips->isDecodingPaused();
 }
 
 void HRView::handleWarnings(const QList<QQmlError> &warnings)
 {
     // Qt tells of a script's error when the script has left the stack, and the scene is at work
     // yet.
-    const HRSceneLoader::Work work(m_loader.get());
-    const HRScriptWatch::HostCall call(m_watch);
-    reportErrors(m_manager, QStringLiteral("QML Warning %1:%2:%3"), warnings);
+    const HRSceneLoader::Work work(&d->loader);
+    const HRScriptWatch::HostCall call(d->watch);
+    d->reportErrors(QStringLiteral("QML Warning %1:%2:%3"), warnings);
 }
 
 void HRView::statusHasChanged(QQuickView::Status s)
 {
     if (s == QQuickView::Error)
-        reportErrors(m_manager, QStringLiteral("Error %1:%2:%3"), errors());
+        d->reportErrors(QStringLiteral("Error %1:%2:%3"), errors());
 }
 
 void HRView::loadQML(const QString &path)
 {
     const QFileInfo file(path);
     if (!file.exists()) {
-        report(m_manager, QStringLiteral("Can't find :%1").arg(path));
+        d->report(messageDebug, QStringLiteral("Can't find :%1").arg(path));
         return;
     }
     // The same scene stays loaded: it follows the context property that holds the content.
     const QUrl url = urlOfFile(file.absoluteFilePath());
     if (QQuickView::source() == url)
-        m_loader->forget();
+        d->loader.forget();
     else if (source() != url)
         setSource(url);
 }
@@ -326,7 +237,7 @@ void HRView::resetState()
 
 void HRView::managerContextSettingDidChange(const HRContextKey &key)
 {
-    followRules();
+    d->followRules();
     if (key == allowNamedResourcesKey)
         Q_EMIT documentationAvailableChanged();
 }
@@ -343,39 +254,39 @@ void HRView::setItemCursor(QQuickPaintedItem *object, const QString &shape, cons
 
 void HRView::debugLog(const QString &msg)
 {
-    const HRScriptWatch::HostCall call(m_watch);
-    report(m_manager, msg);
+    const HRScriptWatch::HostCall call(d->watch);
+    d->report(messageDebug, msg);
 }
 
 void HRView::openExternalResource(const QString &resourceLocator)
 {
-    const HRScriptWatch::HostCall call(m_watch);
+    const HRScriptWatch::HostCall call(d->watch);
     // A link may come out of a property for URLs, which are refused where they would be loaded.
-    if (m_manager)
-        m_manager->openExternalResource(withoutRefusal(resourceLocator));
+    if (d->manager)
+        d->manager->openExternalResource(withoutRefusal(resourceLocator));
 }
 
 QString HRView::interpolate(const QString &string)
 {
-    return m_manager ? m_manager->interpolate(string) : string;
+    return d->manager ? d->manager->interpolate(string) : string;
 }
 
 void HRView::setOverrideCursor(const QString &shape)
 {
-    m_cursors->push(cursorShapeNamed(shape));
+    d->cursors.push(cursorShapeNamed(shape));
 }
 
 void HRView::restoreOverrideCursor()
 {
-    m_cursors->restore();
+    d->cursors.restore();
 }
 
 QString HRView::translate(const QString &string, const QString &context)
 {
-    if (!m_manager || !m_manager->interface())
+    if (!d->manager || !d->manager->interface())
         return string;
-    const HRScriptWatch::HostCall call(m_watch);
-    return m_manager->interface()->translateString(string, context);
+    const HRScriptWatch::HostCall call(d->watch);
+    return d->manager->interface()->translateString(string, context);
 }
 
 QString HRView::findResource(const QString &relativePath)
@@ -386,64 +297,23 @@ QString HRView::findResource(const QString &relativePath)
 
 int HRView::getScaledSize(int size)
 {
-    return m_manager ? m_manager->getScaledSize(size) : size;
+    return d->manager ? d->manager->getScaledSize(size) : size;
 }
 
 void HRView::load(const QUrl &source)
 {
-    m_loader->load(source);
+    d->loader.load(source);
 }
 
 bool HRView::event(QEvent *event)
 {
-    if (m_loader->holdsBack(*event))
+    if (!d)
+        return QQuickView::event(event);
+    if (d->loader.holdsBack(*event))
         return true;
-    const HRSceneLoader::Work work(m_loader.get());
-    const HRScriptWatch::Entry entry(m_watch);
+    const HRSceneLoader::Work work(&d->loader);
+    const HRScriptWatch::Entry entry(d->watch);
     return QQuickView::event(event);
-}
-
-void HRView::take(const QUrl &source)
-{
-    followRules();
-    if (!mayBecomeScene(source, reachOf(m_manager, m_content, m_qmlFile, *engine()))) {
-        m_gates->refuse(QStringLiteral("ui"), source.toLocalFile());
-        return;
-    }
-    m_qmlFile = source.toLocalFile();
-    followRules();
-    if (source.isEmpty()) {
-        endScene();
-        return;
-    }
-    m_watch->start(scriptLimit(settingsOf(m_manager)));
-    const HRScriptWatch::Entry entry(m_watch);
-    QQuickView::setSource(source);
-    m_gates->tellRefusals();
-}
-
-/// Watched to the end, since a scene may have scripts for that, too.
-void HRView::endScene()
-{
-    {
-        const HRScriptWatch::Entry entry(m_watch);
-        QQuickView::setSource(QUrl());
-    }
-    m_watch->start(0);
-}
-
-void HRView::followRules() const
-{
-    m_gates->setReach(reachOf(m_manager, m_content, m_qmlFile, *engine()));
-}
-
-void HRView::scriptStopped(int limit)
-{
-    setSource(QUrl());
-    if (m_manager)
-        m_manager->handleMessage(messageWarning,
-            QStringLiteral("A script of package \"%1\" ran for more than %2 ms and was stopped")
-                .arg(packageName(m_content), QString::number(limit)));
 }
 
 void HRView::resizeEvent(QResizeEvent *)
@@ -454,8 +324,8 @@ void HRView::resizeEvent(QResizeEvent *)
 
 void HRView::focusInEvent(QFocusEvent *)
 {
-    // When the focus comes from a Qt::Tool window around the view, Qt says that a popup has
-    // closed, and then no item becomes active.
+    // When the focus comes from a Qt::Tool window around the view, Qt says that a popup has closed,
+    // and then no item becomes active.
     QFocusEvent event(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
     QQuickView::focusInEvent(&event);
 }

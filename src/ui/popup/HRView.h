@@ -9,7 +9,6 @@
 
 #include <QDir>
 #include <QList>
-#include <QPointer>
 #include <QQmlError>
 #include <QQuickPaintedItem>
 #include <QQuickView>
@@ -21,12 +20,7 @@
 namespace Hintreels {
 
 class HRManager;
-class HROverrideCursors;
-class HRSceneGates;
-class HRSceneLoader;
-class HRScriptWatch;
-class HRViewClips;
-enum class HRFileUse;
+struct HRViewPrivate;
 
 /// A view whose scripts may ask for another QML file by what QQuickView itself offers them.
 class HINTREELS_EXPORT HRSceneWindow : public QQuickView
@@ -85,15 +79,6 @@ public:
     /// being made), the file waits for the event loop, and nothing is painted until then.
     void setSource(const QUrl &source);
 
-    /// What knows whether the scene is at work; for the popup that holds the view.
-    HRSceneLoader *sceneLoader() const;
-
-    /// What stops scripts that run for too long; for the popup that holds the view.
-    const std::shared_ptr<HRScriptWatch> &scriptWatch() const;
-
-    /// Whether the settings let the content use a file, which is told where they do not.
-    bool mayOpen(const QString &attribute, const QString &path, HRFileUse use) const;
-
     /// Whether the popup stays when the pointer leaves it.
     bool stayOpen() const;
 
@@ -113,10 +98,6 @@ public:
     /// Takes an element over without a signal. The old one is not deleted: whoever replaces it
     /// does that.
     void setContent(HRXmlElement *content);
-
-    /// Deletes what is shown no longer: at once, or from the event loop when it is called from
-    /// inside the scene, which may be working on it.
-    void discard(QObject *contentTree);
 
     /// Whether the UI offers documentation: the setting allowNamedResourcesKey, false by default.
     bool documentationAvailable() const;
@@ -227,22 +208,9 @@ protected:
     void focusInEvent(QFocusEvent *event) override;
 
 private:
-    void take(const QUrl &source);
-    void endScene();
-    void followRules() const;
-    void scriptStopped(int limit);
+    friend struct HRViewPrivate;
 
-    QPointer<HRManager> m_manager;
-    QPointer<HRXmlElement> m_content;
-    QString m_packageRoot;
-    bool m_stayOpen = false;
-    bool m_reserved = false;
-    std::unique_ptr<HROverrideCursors> m_cursors;
-    std::unique_ptr<HRSceneLoader> m_loader;
-    QString m_qmlFile; // of the scene
-    std::unique_ptr<HRSceneGates> m_gates;
-    std::shared_ptr<HRScriptWatch> m_watch;
-    HRViewClips *m_clips;
+    std::unique_ptr<HRViewPrivate> d;
 };
 
 } // namespace Hintreels

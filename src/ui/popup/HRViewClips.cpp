@@ -5,8 +5,7 @@
 
 #include "context/setting_p.h"
 #include "gates/HRFileUse_p.h"
-#include "manager/HRManager.h"
-#include "ui/popup/HRView.h"
+#include "ui/popup/HRViewPrivate_p.h"
 #include "video/HRVideoComponent.h"
 #include "video/HRVideoSourceFFMPEG.h"
 
@@ -42,15 +41,14 @@ QString HRViewClips::findClip(const QString &source)
 {
     const QString path = m_view->findResource(source);
     const bool isUsable = QFileInfo(path).isFile()
-        && m_view->mayOpen(QStringLiteral("source"), path, HRFileUse::clip);
+        && HRViewPrivate::of(*m_view).mayOpen(QStringLiteral("source"), path, HRFileUse::clip);
     return isUsable ? path : QString();
 }
 
 int HRViewClips::largestPicture() const
 {
-    const int standard = HRVideoSourceFFMPEG::standardLargestPicture;
-    const HRManager *manager = m_view->manager();
-    return manager ? setting(manager->context(), largestPictureKey, standard) : standard;
+    return setting(HRViewPrivate::of(*m_view).settings(), largestPictureKey,
+        int(HRVideoSourceFFMPEG::standardLargestPicture));
 }
 
 void HRViewClips::setDecodingPaused(bool paused)

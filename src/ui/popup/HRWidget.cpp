@@ -3,9 +3,9 @@
 
 #include "ui/popup/HRWidget.h"
 
-#include "gates/HRScriptWatch_p.h"
+#include "context/setting_p.h"
+#include "ui/popup/HRViewPrivate_p.h"
 #include "ui/popup/HRWidgetPrivate_p.h"
-#include "ui/popup/contentTree_p.h"
 #include "ui/popup/popupFit_p.h"
 #include "ui/popup/popupGeometry_p.h"
 #include "ui/popup/popupReserving_p.h"
@@ -16,6 +16,8 @@
 #include <QFileInfo>
 #include <QLayout>
 #include <QTimer>
+
+#include <utility>
 
 namespace Hintreels {
 
@@ -38,7 +40,7 @@ HRWidget::HRWidget(HRManager *manager, QWidget *parent, QWidget *reference)
     : QWidget(parent)
     , d(std::make_unique<HRWidgetPrivate>(this, manager, reference))
 {
-    if (!d->setting(embeddedPopupKey, false))
+    if (!setting(d->settings(), embeddedPopupKey, false))
         setWindowFlags(Qt::ToolTip);
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAutoFillBackground(true);
@@ -73,7 +75,8 @@ void HRWidget::setView(HRView *view)
     connect(view, &HRView::reservedChanged, this, &HRWidget::contentReservedChanged);
     connect(view, &HRView::contentSizeChanged, this, &HRWidget::contentResized);
     connect(view, &QQuickView::statusChanged, this, [this] { d->followScene(); });
-    connect(view->scriptWatch().get(), &HRScriptWatch::stopped, this, [this] { d->dismiss(); });
+    connect(HRViewPrivate::of(*view).watch.get(), &HRScriptWatch::stopped, this,
+        [this] { d->dismiss(); });
     connect(view, &HRView::stayOpenChanged, this, [this] { d->followStayOpen(); });
     connect(
         view, &QQuickWindow::frameSwapped, this, [this] { d->paintHeldBack(); },
@@ -100,7 +103,7 @@ void HRWidget::SetContainerWidget(QWidget *container)
 bool HRWidget::isSafe(const QPoint &pos) const
 {
     const QRect area(mapToGlobal(QPoint(0, 0)), frameGeometry().size());
-    return isNear(area, d->setting(safeMarginKey, QSize(20, 20)), pos)
+    return isNear(area, setting(d->settings(), safeMarginKey, QSize(20, 20)), pos)
         || isTopmostAt(d->reference, pos);
 }
 
@@ -142,27 +145,21 @@ void HRWidget::showWithContent(
     cancelHiding();
     d->reference = qobject_cast<QWidget *>(reference);
     d->view->setPackageRoot(rootPath);
-    const QPointer<HRXmlElement> previous = d->view->content();
-    d->view->setContent(content);
+    HRContent previous;
+    if (content != d->view->content())
+        previous = HRViewPrivate::of(*d->view).exchangeContent(HRContent::of(content));
     move(withinReach(pos));
     if (isVisible())
         reposition();
     setSceneContext(*d->view, content, rootPath, d->manager);
     // Not before the scene has let go of it, or its bindings would see null on the way.
-    if (previous != content)
-        d->view->discard(contentTreeOf(previous));
+    HRViewPrivate::of(*d->view).freeContent(std::move(previous));
     // The host may delete the popup or its view when it is told of a missing file.
     const QPointer<HRWidget> guarded = this;
     d->view->loadQML(QFileInfo(d->view->uiRootFilePath()).absoluteFilePath());
     if (!guarded || !d->view)
         return;
-    if (!isVisible())
-        takeContentSize(*this, d->container);
-    matchBackground(*this);
-    if (isVisible()) {
-        d->followContent();
-        d->keepTimeFor(QCursor::pos());
-    }
+    d->takeInContent();
     showAnimated();
 }
 
@@ -178,7 +175,7 @@ void HRWidget::hideAnimated()
 {
     if (d->reserved || !isVisible() || d->fade.isRunning())
         return;
-    const int duration = d->setting(hideAnimationDurationKey, 300);
+    const int duration = setting(d->settings(), hideAnimationDurationKey, 300);
     if (duration <= 0) {
         hideAnimationFinished();
         return;
@@ -198,7 +195,7 @@ void HRWidget::showAnimated()
 {
     if (isVisible())
         return;
-    const int duration = d->setting(showAnimationDurationKey, 0);
+    const int duration = setting(d->settings(), showAnimationDurationKey, 0);
     if (duration <= 0) {
         setWindowOpacity(1.0);
         show();

@@ -3,6 +3,7 @@
 
 #include "ui/popup/HRWidgetPrivate_p.h"
 
+#include "context/setting_p.h"
 #include "ui/popup/HRWidget.h"
 #include "ui/popup/popupFit_p.h"
 #include "ui/popup/popupScreen_p.h"
@@ -35,7 +36,7 @@ QRect HRWidgetPrivate::screen() const
 double HRWidgetPrivate::hideDelay() const
 {
     const bool stays = reserved || (view && view->stayOpen());
-    return stays ? 0.0 : double(setting(hideDelayKey, 3000.0F));
+    return stays ? 0.0 : double(setting(settings(), hideDelayKey, 3000.0F));
 }
 
 /// On Wayland a popup has its position only beside a window that it belongs to.
@@ -116,6 +117,19 @@ void HRWidgetPrivate::followContent()
         return;
     paintAfterContent();
     q->contentResized();
+}
+
+/// Fits the popup to what it shows now: before it appears, or while it is seen; then its time until
+/// hiding starts anew, too.
+void HRWidgetPrivate::takeInContent()
+{
+    if (!q->isVisible())
+        takeContentSize(*q, container);
+    matchBackground(*q);
+    if (!q->isVisible())
+        return;
+    followContent();
+    keepTimeFor(QCursor::pos());
 }
 
 /// A scene that had to wait for the event loop comes when the popup shows already.

@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include "context/setting_p.h"
 #include "manager/HRManager.h"
 #include "ui/popup/HRHideTimer_p.h"
 #include "ui/popup/HRPointerWatch_p.h"
@@ -23,11 +22,8 @@ struct HRWidgetPrivate
 {
     HRWidgetPrivate(HRWidget *widget, HRManager *hrManager, QWidget *referenceWidget);
 
-    template <typename T>
-    T setting(contextKey key, const T &defaultValue) const
-    {
-        return Hintreels::setting(manager ? &manager->context() : nullptr, key, defaultValue);
-    }
+    /// Null without manager, for the defaults.
+    const HRContext *settings() const { return manager ? &manager->context() : nullptr; }
 
     QRect screen() const;
     double hideDelay() const;
@@ -42,6 +38,7 @@ struct HRWidgetPrivate
     void paintAfterContent();
     void paintHeldBack();
     void followContent();
+    void takeInContent();
     void followScene();
     void dismiss();
 

@@ -3,12 +3,7 @@
 
 #include "ui/popup/sceneContext_p.h"
 
-#include "content/HRXmlElement.h"
-#include "gates/HRFileUse_p.h"
-#include "gates/HRScriptWatch_p.h"
-#include "manager/HRManager.h"
-#include "ui/popup/HRSceneLoader_p.h"
-#include "ui/popup/HRView.h"
+#include "ui/popup/HRViewPrivate_p.h"
 #include "ui/reader/HRContentReader_p.h"
 
 #include <QQmlContext>
@@ -25,7 +20,7 @@ void setLastingProperties(QQmlContext &context, HRView *view, const QPointer<HRM
         return m ? readerSettings(m->context(), m->currentLocale()) : readerSettings();
     };
     const auto admits = [v = QPointer<HRView>(view)](const QString &path, HRFileUse use) {
-        return v && v->mayOpen(QStringLiteral("source"), path, use);
+        return v && HRViewPrivate::of(*v).mayOpen(QStringLiteral("source"), path, use);
     };
     context.setContextProperty(
         QStringLiteral("hintreelReader"), new HRContentReader(settings, view, admits));
@@ -36,8 +31,8 @@ void setLastingProperties(QQmlContext &context, HRView *view, const QPointer<HRM
 void setSceneContext(HRView &view, HRXmlElement *content, const QString &packageRoot,
     const QPointer<HRManager> &manager)
 {
-    const HRSceneLoader::Work work(view.sceneLoader());
-    const HRScriptWatch::Entry entry(view.scriptWatch());
+    const HRSceneLoader::Work work(&HRViewPrivate::of(view).loader);
+    const HRScriptWatch::Entry entry(HRViewPrivate::of(view).watch);
     QQmlContext *context = view.rootContext();
     context->setContextProperty(QStringLiteral("hintreel"), content);
     context->setContextProperty(QStringLiteral("dataLocation"), packageRoot);

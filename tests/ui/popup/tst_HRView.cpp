@@ -70,6 +70,7 @@ private Q_SLOTS:
     void loadQML_reportsMissingFile_andKeepsScene();
     void loadQML_reportsErrors();
     void loadQML_reportsWarnings();
+    void handleWarnings_tellsAll_whenHostDeletesTheView();
     void resetState_emptiesStateOfRoot();
     void documentationAvailable_followsSetting();
     void setItemCursor_setsAndUnsets();
@@ -264,6 +265,37 @@ void tst_HRView::loadQML_reportsWarnings()
     // Qt names no column for these.
     QCOMPARE(
         f.takeMessages(), QStringList{ "QML Warning 2:-1:ReferenceError: nowhere is not defined" });
+}
+
+void tst_HRView::handleWarnings_tellsAll_whenHostDeletesTheView()
+{
+    class DeletingHost : public RecordingHost
+    {
+    public:
+        using RecordingHost::RecordingHost;
+        void handleMessage(HRMessageType type, const QString &message) override
+        {
+            RecordingHost::handleMessage(type, message);
+            delete view;
+        }
+        QPointer<HRView> view;
+    };
+
+    HRContext context;
+    context.set(messageLevelKey, int(messageDebug));
+    DeletingHost host(context, {});
+    host.view = new HRView(host.manager(), nullptr);
+    QQmlError first;
+    first.setDescription("first");
+    QQmlError second;
+    second.setDescription("second");
+
+    host.view->handleWarnings({ first, second });
+
+    QVERIFY(!host.view);
+    const QStringList messages = host.takeMessages(messageDebug);
+    QCOMPARE(messages.size(), 2);
+    QVERIFY2(messages.last().endsWith("second"), qPrintable(messages.last()));
 }
 
 void tst_HRView::resetState_emptiesStateOfRoot()
