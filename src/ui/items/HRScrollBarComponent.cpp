@@ -5,6 +5,8 @@
 
 #include "ui/items/widgetLength_p.h"
 
+#include <QPointer>
+#include <QScrollBar>
 #include <QtMath>
 
 #include <limits>
@@ -30,42 +32,50 @@ float fromHundredths(int hundredths)
 
 } // namespace
 
+struct HRScrollBarComponentPrivate
+{
+    // Guarded, since nothing keeps others from deleting a top-level widget.
+    QPointer<QScrollBar> bar = new QScrollBar;
+};
+
 HRScrollBarComponent::HRScrollBarComponent(QQuickPaintedItem *parent)
     : QQuickPaintedItem(parent)
-    , m_bar(new QScrollBar)
+    , d(std::make_unique<HRScrollBarComponentPrivate>())
 {
-    connect(m_bar, &QScrollBar::valueChanged, this, &HRScrollBarComponent::scrollBarPositionChanged,
-        Qt::QueuedConnection);
+    connect(d->bar, &QScrollBar::valueChanged, this,
+        &HRScrollBarComponent::scrollBarPositionChanged, Qt::QueuedConnection);
     setAcceptedMouseButtons(Qt::AllButtons);
 }
 
+HRScrollBarComponent::~HRScrollBarComponent() = default;
+
 float HRScrollBarComponent::start() const
 {
-    return m_bar ? fromHundredths(m_bar->minimum()) : 0;
+    return d->bar ? fromHundredths(d->bar->minimum()) : 0;
 }
 
 void HRScrollBarComponent::setStart(float start)
 {
-    if (m_bar)
-        m_bar->setMinimum(toHundredths(start));
+    if (d->bar)
+        d->bar->setMinimum(toHundredths(start));
     Q_EMIT startChanged();
 }
 
 float HRScrollBarComponent::end() const
 {
-    return m_bar ? fromHundredths(m_bar->maximum()) : 0;
+    return d->bar ? fromHundredths(d->bar->maximum()) : 0;
 }
 
 void HRScrollBarComponent::setEnd(float end)
 {
-    if (m_bar)
-        m_bar->setMaximum(toHundredths(end));
+    if (d->bar)
+        d->bar->setMaximum(toHundredths(end));
     Q_EMIT endChanged();
 }
 
 float HRScrollBarComponent::position() const
 {
-    return m_bar ? fromHundredths(m_bar->value()) : 0;
+    return d->bar ? fromHundredths(d->bar->value()) : 0;
 }
 
 void HRScrollBarComponent::setPosition(float position)
@@ -76,21 +86,21 @@ void HRScrollBarComponent::setPosition(float position)
 
 bool HRScrollBarComponent::orientHorizontal() const
 {
-    return m_bar && m_bar->orientation() == Qt::Horizontal;
+    return d->bar && d->bar->orientation() == Qt::Horizontal;
 }
 
 void HRScrollBarComponent::setOrientHorizontal(bool horizontal)
 {
-    if (m_bar)
-        m_bar->setOrientation(horizontal ? Qt::Horizontal : Qt::Vertical);
+    if (d->bar)
+        d->bar->setOrientation(horizontal ? Qt::Horizontal : Qt::Vertical);
     Q_EMIT orientHorizontalChanged();
 }
 
 float HRScrollBarComponent::scrollBarWidth() const
 {
-    if (!m_bar)
+    if (!d->bar)
         return 0;
-    return float(orientHorizontal() ? m_bar->height() : m_bar->width());
+    return float(orientHorizontal() ? d->bar->height() : d->bar->width());
 }
 
 void HRScrollBarComponent::paint(QPainter *)
@@ -105,21 +115,21 @@ void HRScrollBarComponent::scrollBarPositionChanged(int)
 
 void HRScrollBarComponent::updateDimensions()
 {
-    if (m_bar)
-        m_bar->setFixedSize(Hintreels::widgetLength(width()), Hintreels::widgetLength(height()));
+    if (d->bar)
+        d->bar->setFixedSize(Hintreels::widgetLength(width()), Hintreels::widgetLength(height()));
 }
 
 void HRScrollBarComponent::setPositionExternal(float value)
 {
-    if (m_bar)
-        m_bar->setValue(toHundredths(value));
+    if (d->bar)
+        d->bar->setValue(toHundredths(value));
 }
 
 void HRScrollBarComponent::itemChange(ItemChange change, const ItemChangeData &value)
 {
-    if (m_bar && change == ItemVisibleHasChanged)
-        m_bar->setVisible(value.boolValue);
-    if (m_bar && change == ItemOpacityHasChanged)
-        m_bar->setWindowOpacity(value.realValue);
+    if (d->bar && change == ItemVisibleHasChanged)
+        d->bar->setVisible(value.boolValue);
+    if (d->bar && change == ItemOpacityHasChanged)
+        d->bar->setWindowOpacity(value.realValue);
     QQuickPaintedItem::itemChange(change, value);
 }

@@ -5,9 +5,11 @@
 
 #include "context/HRExport.h"
 
-#include <QPointer>
 #include <QQuickPaintedItem>
-#include <QScrollBar>
+
+#include <memory>
+
+struct HRScrollBarComponentPrivate;
 
 /// A QML item that drives a native scroll bar: `HRScrollBar`.
 ///
@@ -32,6 +34,7 @@ class HINTREELS_EXPORT HRScrollBarComponent : public QQuickPaintedItem
 public:
     /// Makes the bar as well, hidden.
     explicit HRScrollBarComponent(QQuickPaintedItem *parent = nullptr);
+    ~HRScrollBarComponent() override;
 
     ///@{
     /// Where the bar's range begins.
@@ -89,6 +92,5 @@ protected:
     void itemChange(ItemChange change, const ItemChangeData &value) override;
 
 private:
-    // Guarded, since nothing keeps others from deleting a top-level widget.
-    QPointer<QScrollBar> m_bar;
+    std::unique_ptr<HRScrollBarComponentPrivate> d;
 };

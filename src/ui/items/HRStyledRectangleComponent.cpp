@@ -17,44 +17,51 @@ const QLatin1String frameName("PE_Frame");
 
 } // namespace
 
+struct HRStyledRectangleComponentPrivate
+{
+    QString element = widgetName;
+    bool toolTipStyle = false;
+};
+
 HRStyledRectangleComponent::HRStyledRectangleComponent(QQuickPaintedItem *parent)
     : QQuickPaintedItem(parent)
-    , m_element(widgetName)
+    , d(std::make_unique<HRStyledRectangleComponentPrivate>())
 {
     setFlag(ItemHasContents);
     connect(qGuiApp, &QGuiApplication::paletteChanged, this,
         &HRStyledRectangleComponent::followPalette);
 }
 
+HRStyledRectangleComponent::~HRStyledRectangleComponent() = default;
+
 QString HRStyledRectangleComponent::element() const
 {
-    return m_element;
+    return d->element;
 }
 
 void HRStyledRectangleComponent::setElement(const QString &element)
 {
     if (element != widgetName && element != frameName)
         return;
-    m_element = element;
-    m_primitive = element == frameName ? QStyle::PE_Frame : QStyle::PE_Widget;
+    d->element = element;
     Q_EMIT elementChanged();
 }
 
 QColor HRStyledRectangleComponent::textColor() const
 {
-    if (m_toolTipStyle)
+    if (d->toolTipStyle)
         return Qt::black;
     return QGuiApplication::palette().color(QPalette::Active, QPalette::WindowText);
 }
 
 bool HRStyledRectangleComponent::toolTipStyle() const
 {
-    return m_toolTipStyle;
+    return d->toolTipStyle;
 }
 
 void HRStyledRectangleComponent::setToolTipStyle(bool toolTipStyle)
 {
-    m_toolTipStyle = toolTipStyle;
+    d->toolTipStyle = toolTipStyle;
     Q_EMIT toolTipStyleChanged();
     Q_EMIT textColorChanged();
     update();
@@ -63,7 +70,7 @@ void HRStyledRectangleComponent::setToolTipStyle(bool toolTipStyle)
 void HRStyledRectangleComponent::paint(QPainter *painter)
 {
     // The pen is left alone in both cases.
-    if (m_toolTipStyle) {
+    if (d->toolTipStyle) {
         painter->setBrush(QToolTip::palette().toolTipBase());
         painter->drawRect(boundingRect().toRect());
         return;

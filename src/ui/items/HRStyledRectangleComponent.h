@@ -8,9 +8,12 @@
 #include <QColor>
 #include <QQuickPaintedItem>
 #include <QString>
-#include <QStyle>
+
+#include <memory>
 
 namespace Hintreels {
+
+struct HRStyledRectangleComponentPrivate;
 
 /// A QML item filled with the platform's window or tool-tip colour: `HRStyledRectangle`.
 class HINTREELS_EXPORT HRStyledRectangleComponent : public QQuickPaintedItem
@@ -26,6 +29,7 @@ class HINTREELS_EXPORT HRStyledRectangleComponent : public QQuickPaintedItem
 public:
     /// Makes a rectangle in the colour of windows.
     explicit HRStyledRectangleComponent(QQuickPaintedItem *parent = nullptr);
+    ~HRStyledRectangleComponent() override;
 
     /// Name of the style's primitive, "PE_Widget" or "PE_Frame". It does not change what is
     /// painted.
@@ -57,9 +61,7 @@ Q_SIGNALS:
 private:
     void followPalette();
 
-    QString m_element;
-    QStyle::PrimitiveElement m_primitive = QStyle::PE_Widget;
-    bool m_toolTipStyle = false;
+    std::unique_ptr<HRStyledRectangleComponentPrivate> d;
 };
 
 } // namespace Hintreels

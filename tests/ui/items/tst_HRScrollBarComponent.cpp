@@ -4,6 +4,7 @@
 #include "ui/items/HRScrollBarComponent.h"
 
 #include <QApplication>
+#include <QScrollBar>
 #include <QtTest>
 
 #include <limits>
