@@ -27,12 +27,14 @@ private Q_SLOTS:
     void frames_equalThePlainCache_whicheverPixelChanges();
     void addFrame_keepsThePicture_fromAQuarterOfNewPixelsOn_data();
     void addFrame_keepsThePicture_fromAQuarterOfNewPixelsOn();
+    void addFrame_takesNoTileForNew_whereOneBelowHasChangedBefore();
     void addFrame_trustsDamage_onlyOfThePictureBefore();
     void frames_equalThePlainCache_whenSizeAndFormatChange();
     void frame_returnsNull_beyondTheLast();
     void frame_sharesPixels_whenReadAgain();
     void frame_handsOutPixels_thatLaterReadsLeaveAlone();
     void frame_isMadeOfTheOneBefore_thatNobodyHolds();
+    void frame_isMadeOfTheOneBeforeThat_whenTheLastIsHeld();
     void addFrame_keepsPixels_whenTheCallerOverwritesItsOwn();
 };
 
@@ -252,6 +254,8 @@ void tst_HRCompactFrameCache::addFrame_keepsThePicture_fromAQuarterOfNewPixelsOn
         << QSize(80, 20) << QRect(0, 16, 80, 4) << false;
     QTest::newRow("the pixels of tiles at the edge count")
         << QSize(80, 22) << QRect(0, 16, 80, 6) << true;
+    QTest::newRow("beside a tile of a pixel's width")
+        << QSize(17, 64) << QRect(0, 0, 1, 16) << false;
     QTest::newRow("nothing") << QSize(32, 32) << QRect() << false;
 }
 
@@ -274,6 +278,24 @@ void tst_HRCompactFrameCache::addFrame_keepsThePicture_fromAQuarterOfNewPixelsOn
 
     QTEST(kept.constBits() == qAsConst(second).constBits(), "isKept");
     QCOMPARE(static_cast<const QImage &>(kept), static_cast<const QImage &>(second));
+}
+
+/// Shown as above: one tile of six is new, two would be more than a quarter.
+void tst_HRCompactFrameCache::addFrame_takesNoTileForNew_whereOneBelowHasChangedBefore()
+{
+    HRVideoFrame picture(48, 32, QImage::Format_RGB32, 0);
+    picture.fill(Qt::gray);
+    HRCompactFrameCache cache("x");
+    cache.addFrame(picture);
+    for (const QPoint &changed : { QPoint(0, 31), QPoint(47, 0) }) {
+        picture.setPixel(changed, qRgb(255, 0, 0));
+        cache.addFrame(picture);
+    }
+
+    const HRVideoFrame last = cache.frame(2);
+
+    QVERIFY(last.constBits() != qAsConst(picture).constBits());
+    QCOMPARE(static_cast<const QImage &>(last), static_cast<const QImage &>(picture));
 }
 
 void tst_HRCompactFrameCache::addFrame_trustsDamage_onlyOfThePictureBefore()
@@ -321,7 +343,7 @@ void tst_HRCompactFrameCache::frame_returnsNull_beyondTheLast()
 void tst_HRCompactFrameCache::frame_sharesPixels_whenReadAgain()
 {
     HRCompactFrameCache cache("x");
-    for (const HRVideoFrame &picture : scribbles(QSize(20, 20), 3))
+    for (const HRVideoFrame &picture : withMovingDot(QSize(64, 64), 3))
         cache.addFrame(picture);
     const HRVideoFrame first = cache.frame(2);
     const HRVideoFrame again = cache.frame(2);
@@ -355,6 +377,24 @@ void tst_HRCompactFrameCache::frame_isMadeOfTheOneBefore_thatNobodyHolds()
         QCOMPARE(static_cast<const QImage &>(shown), static_cast<const QImage &>(pictures[i]));
     }
     QVERIFY(cache.frame(4).constBits() != memory);
+}
+
+void tst_HRCompactFrameCache::frame_isMadeOfTheOneBeforeThat_whenTheLastIsHeld()
+{
+    const Pictures pictures = withMovingDot(QSize(64, 64), 8);
+    HRCompactFrameCache cache("x");
+    for (const HRVideoFrame &picture : pictures)
+        cache.addFrame(picture);
+    HRVideoFrame first = cache.frame(1);
+    const uchar *const memory = first.constBits();
+    const HRVideoFrame held = cache.frame(2);
+    first = HRVideoFrame();
+
+    const HRVideoFrame third = cache.frame(3);
+
+    QCOMPARE(third.constBits(), memory);
+    QCOMPARE(static_cast<const QImage &>(third), static_cast<const QImage &>(pictures[3]));
+    QCOMPARE(static_cast<const QImage &>(held), static_cast<const QImage &>(pictures[2]));
 }
 
 void tst_HRCompactFrameCache::addFrame_keepsPixels_whenTheCallerOverwritesItsOwn()

@@ -121,6 +121,7 @@ void tst_HRControlDigest::search_leavesUnusualFilesToTheParser_data()
     row("reference in the locale", "<hintreels locale='de&#95;DE'>" + entry);
     row("locale twice", "<hintreels locale='de' locale='en'>" + entry);
     row("broken UTF-8 in a key", "<hintreels><hintreel key='\xC3'/></hintreels>");
+    row("control character in a key", "<hintreels><hintreel key='\x1f'/></hintreels>");
     row("byte of no character in a key", "<hintreels><hintreel key='\x80'/></hintreels>");
     row("longer name of the root", "<hintreelsx><hintreel key='a'/></hintreelsx>");
     row("nothing behind the root's name", "<hintreels");

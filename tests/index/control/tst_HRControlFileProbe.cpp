@@ -20,6 +20,7 @@ private Q_SLOTS:
     void isControlFile_looksAtTheFirstElement();
     void isControlFile_readsPiecesOf1024Bytes_data();
     void isControlFile_readsPiecesOf1024Bytes();
+    void isControlFile_readsByteByByte();
     void isControlFile_isQuick_whenLinesHoldNothing();
     void isControlFile_readsNoFurther_whenItHasFound();
 };
@@ -114,6 +115,15 @@ void tst_HRControlFileProbe::isControlFile_readsPiecesOf1024Bytes()
     QFETCH(int, position);
     QByteArray content = QByteArray(position, ' ') + "<hintreels locale=\"en_US\">";
     QTEST(isControlFile(content), "isControlFile");
+}
+
+void tst_HRControlFileProbe::isControlFile_readsByteByByte()
+{
+    QByteArray content = "<?xml version=\"1.0\"?>\n<hintreels locale=\"en_US\">";
+    QBuffer file(&content);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(HRControlFileProbe().isControlFile(
+        [&](char *buffer, qint64) { return file.read(buffer, 1); }));
 }
 
 void tst_HRControlFileProbe::isControlFile_isQuick_whenLinesHoldNothing()

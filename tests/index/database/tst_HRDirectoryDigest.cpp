@@ -21,6 +21,7 @@ private Q_SLOTS:
     void decoded_refusesAnEntry_whosePartsDoNotFillIt_data();
     void decoded_refusesAnEntry_whosePartsDoNotFillIt();
     void decoded_takesNoEntries();
+    void encoded_staysAsItIs_inOneFormat();
     void decoded_ignoresOtherFormats();
 };
 
@@ -176,6 +177,14 @@ void tst_HRDirectoryDigest::decoded_takesNoEntries()
         = HRDirectoryDigest::decoded(HRDirectoryDigest().encoded());
     QVERIFY(loaded);
     QVERIFY(loaded->untouched().empty());
+}
+
+/// What is encoded otherwise takes another number of its format, or what is stored is lost.
+void tst_HRDirectoryDigest::encoded_staysAsItIs_inOneFormat()
+{
+    HRDirectoryDigest snapshot;
+    snapshot.put("a.xml", storedFile());
+    QCOMPARE(snapshot.encoded().left(12).toHex(), QByteArray("0100000056b1ed90eb72e93d"));
 }
 
 void tst_HRDirectoryDigest::decoded_ignoresOtherFormats()

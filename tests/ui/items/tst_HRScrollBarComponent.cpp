@@ -206,6 +206,8 @@ void tst_HRScrollBarComponent::component_toleratesDeletedBar()
     f.component.setVisible(false);
     f.component.setOpacity(0.5);
     f.component.updateDimensions();
+    QCOMPARE(f.component.start(), 0.0F);
+    QCOMPARE(f.component.end(), 0.0F);
     QCOMPARE(f.component.position(), 0.0F);
     QCOMPARE(f.component.scrollBarWidth(), 0.0F);
 }

@@ -31,6 +31,7 @@ void tst_readableColor::contrastRatio_followsTheGuidelines_data()
     QTest::newRow("equal") << QColor("#777777") << QColor("#777777") << 1.0;
     QTest::newRow("the grey that just fails") << QColor("#777777") << QColor("#ffffff") << 4.478;
     QTest::newRow("the grey that just passes") << QColor("#767676") << QColor("#ffffff") << 4.542;
+    QTest::newRow("nearly black on white") << QColor("#0a0a0a") << QColor("#ffffff") << 19.798;
     QTest::newRow("pure red on white") << QColor("#ff0000") << QColor("#ffffff") << 3.998;
 }
 

@@ -96,6 +96,8 @@ void tst_svgGate::isHarmlessSvg_boundsDrawing_data()
     QTest::newRow("a part beside one that holds a copy")
         << "<g><use xlink:href=\"#part\"/></g><g id=\"part\"/>" + use << true;
     QTest::newRow("a copy of nothing") << use << true;
+    QTest::newRow("100,000 steps with a copy of nothing") << use + elements(99'998) << true;
+    QTest::newRow("100,001 steps with a copy of nothing") << use + elements(99'999) << false;
     QTest::newRow("a copy by the name of a file")
         << copiedPart(50'000, 0) + QByteArray("<use xlink:href=\"a.svg#part\"/>").repeated(2)
         << false;
@@ -177,6 +179,11 @@ void tst_svgGate::readSvg_returnsNull_whenThereIsNoFile()
 {
     const TestPackages files;
     QVERIFY(readSvg(files.path() + "/a.svg").isNull());
+    // What is repeated from nearly as far back as gzip looks.
+    QByteArray far;
+    for (int i = 0; far.size() < 30'000; ++i)
+        far += QByteArray::number(i * 7919 % 10'007);
+    QVERIFY(readSvg(files.write("far.svg", packed(far + far))) == far + far);
     QVERIFY(readSvg(files.write("cut.svg", packed(svg("<g/>")).chopped(9))).isNull());
     QCOMPARE(readSvg(files.write("magic.svg", "\x1f s")), QByteArray("\x1f s"));
 }
