@@ -389,6 +389,7 @@ void tst_HRCompactFrameCache::frame_isMadeOfTheOneBeforeThat_whenTheLastIsHeld()
     const uchar *const memory = first.constBits();
     const HRVideoFrame held = cache.frame(2);
     first = HRVideoFrame();
+    const QImage other(64, 64, QImage::Format_RGB32); // takes the memory if it was let go
 
     const HRVideoFrame third = cache.frame(3);
 
