@@ -1,111 +1,70 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
-#include "video/HRVideoController.h"
+#include "video/HRVideoController_p.h"
 
-#include "video/HRMutex_p.h"
-#include "video/HRPacing_p.h"
 #include "video/HRSchedule_p.h"
 #include "video/HRVideoSource.h"
-#include "video/HRWakeup_p.h"
-
-#include <QDebug>
+#include "video/stopThread_p.h"
 
 #include <algorithm>
-#include <atomic>
 
 namespace Hintreels {
 
 namespace {
 
-constexpr unsigned long quitTime = 10000; // ms, before and after terminating
 constexpr int longestLockWait = 100; // ms
 constexpr std::chrono::milliseconds longestRest(100);
 
 } // namespace
 
-struct HRVideoControllerPrivate
+HRPlayhead::Step HRVideoControllerPrivate::nextStepLocked()
 {
-    /// What one pass of the thread finds to do.
-    enum Step
-    {
-        present, ///< the next picture of a clip that plays
-        showStill, ///< the picture at the position of a clip that is paused
-        announceEnd, ///< the position has reached the last picture
-        rest
-    };
-
-    Step nextStepLocked();
-    void goToLocked(quint64 index);
-    bool isFrameAvailable(quint64 index) const;
-    quint64 frameCount() const;
-    HRVideoFrame frame(quint64 index) const;
-    bool isSleepOverLocked() const;
-
-    HRVideoSource *source = nullptr;
-    quint64 displayedIndex = 0;
-    std::atomic<quint64> position{ 0 }; // written under the lock, read without
-    // Guards every field but source, due and wakeup. The source's locks are taken while it is held,
-    // never the other way round.
-    HRMutex controllerMutex{ HRLock::controller };
-    bool shouldQuit = false;
-    bool needFrame = true;
-    bool scrubbing = false;
-    bool moved = false; // by hand, since the last picture
-    QDateTime lastFrameDisplayTime;
-    HRVideoController::State state = HRVideoController::controllerPaused;
-    HRDueTime due; // the controller's thread only
-    // Rung by every request, and by the source at the first picture of a clip.
-    std::shared_ptr<HRWakeup> wakeup = std::make_shared<HRWakeup>();
-};
-
-HRVideoControllerPrivate::Step HRVideoControllerPrivate::nextStepLocked()
-{
-    if (state != HRVideoController::controllerPaused) {
-        if (isFrameAvailable(position)) {
-            needFrame = false;
-            return present;
-        }
-        if (frameCount() < position)
-            return rest;
-        state = HRVideoController::controllerPaused;
-        return announceEnd;
-    }
-    if (!needFrame || !isFrameAvailable(position) || frame(0).isNull())
-        return rest;
-    needFrame = false;
-    return showStill;
+    const HRPlayhead::Step step = playhead.nextStep(pictureCount());
+    if (step != HRPlayhead::showStill)
+        return step;
+    // It is the first picture that tells whether there are any to show.
+    if (picture(0).isNull())
+        return HRPlayhead::rest;
+    playhead.setNeedsPicture(false);
+    return step;
 }
 
-void HRVideoControllerPrivate::goToLocked(quint64 index)
-{
-    // Without any picture this wraps round to the largest number, as the header says.
-    const quint64 count = frameCount();
-    position = index < count ? index : count - 1;
-    // The picture there counts as one step ahead of what is shown.
-    displayedIndex = position - 1;
-    needFrame = true;
-}
-
-bool HRVideoControllerPrivate::isFrameAvailable(quint64 index) const
-{
-    return source && source->isFrameAvailable(index);
-}
-
-quint64 HRVideoControllerPrivate::frameCount() const
+quint64 HRVideoControllerPrivate::pictureCount() const
 {
     return source ? source->totalFrameCount() : 0;
 }
 
-HRVideoFrame HRVideoControllerPrivate::frame(quint64 index) const
+HRVideoFrame HRVideoControllerPrivate::picture(quint64 index) const
 {
     // Compared before it is narrowed.
-    return isFrameAvailable(index) ? source->getFrame(unsigned(index)) : HRVideoFrame();
+    return index < pictureCount() ? source->getFrame(unsigned(index)) : HRVideoFrame();
 }
 
-bool HRVideoControllerPrivate::isSleepOverLocked() const
+void HRVideoControllerPrivate::pace(const HRPlayhead::Advance &advance, HRDueTime::Time came)
 {
-    return shouldQuit || moved;
+    HRPacing pacing{ advance.displayed, advance.position, source->frameRate(), {},
+        QDateTime::currentDateTime() };
+    {
+        const HRMutexLocker lock(controllerMutex);
+        pacing.last = lastFrameDisplayTime;
+        if (advance.moves)
+            lastFrameDisplayTime = pacing.now;
+    }
+    sleepUntil(due.next(came, pacing.delay()));
+}
+
+/// Only the wish to quit and a position moved by hand end the sleep early, or else whoever asks for
+/// this and that would push a clip on; but a clip with one picture in a quarter of an hour obeys.
+void HRVideoControllerPrivate::sleepUntil(HRDueTime::Time latest)
+{
+    while (wakeup->waitUntil(latest)) {
+        const HRMutexLocker lock(controllerMutex);
+        if (!shouldQuit && !playhead.hasMoved())
+            continue;
+        due.forget();
+        return;
+    }
 }
 
 HRVideoController::HRVideoController(HRVideoSource *source, QObject *parent)
@@ -117,7 +76,7 @@ HRVideoController::HRVideoController(HRVideoSource *source, QObject *parent)
     connect(this, &QThread::finished, this, &QObject::deleteLater);
     if (!source)
         return;
-    source->setReader(d->wakeup);
+    source->onFirstPicture([wakeup = d->wakeup] { wakeup->ring(); });
     connect(source, &HRVideoSource::streamEnded, this, &HRVideoController::streamEnded);
     connect(source, &HRVideoSource::sourceLoaded, this, &HRVideoController::sourceLoaded);
     connect(
@@ -134,10 +93,7 @@ void HRVideoController::play()
     bool rewound = false;
     {
         const HRMutexLocker lock(d->controllerMutex);
-        d->state = controllerPlaying;
-        rewound = d->position >= d->frameCount();
-        if (rewound)
-            d->goToLocked(0);
+        rewound = d->playhead.play(d->pictureCount());
     }
     if (rewound)
         Q_EMIT positionChanged();
@@ -154,7 +110,7 @@ void HRVideoController::setState(State state)
 {
     {
         const HRMutexLocker lock(d->controllerMutex);
-        d->state = state;
+        d->playhead.setState(state);
     }
     Q_EMIT stateChanged();
     d->wakeup->ring();
@@ -163,15 +119,14 @@ void HRVideoController::setState(State state)
 HRVideoController::State HRVideoController::state() const
 {
     const HRMutexLocker lock(d->controllerMutex);
-    return d->state;
+    return d->playhead.state();
 }
 
 void HRVideoController::setPosition(size_t index)
 {
     {
         const HRMutexLocker lock(d->controllerMutex);
-        d->goToLocked(index);
-        d->moved = true;
+        d->playhead.goTo(index, d->pictureCount());
     }
     Q_EMIT positionChanged();
     d->wakeup->ring();
@@ -179,7 +134,7 @@ void HRVideoController::setPosition(size_t index)
 
 size_t HRVideoController::position() const
 {
-    return d->position;
+    return d->playhead.position();
 }
 
 void HRVideoController::setProgress(double progress)
@@ -204,22 +159,23 @@ double HRVideoController::loadProgress() const
 void HRVideoController::setScrubbing(bool scrubbing)
 {
     const HRMutexLocker lock(d->controllerMutex);
-    d->scrubbing = scrubbing;
+    d->playhead.setScrubbing(scrubbing);
 }
 
 bool HRVideoController::isScrubbing() const
 {
     const HRMutexLocker lock(d->controllerMutex);
-    return d->scrubbing;
+    return d->playhead.isScrubbing();
+}
+
+void HRVideoController::setAwaitsDecoder(bool awaits)
+{
+    d->change([this, awaits] { d->playhead.setAwaitsDecoder(awaits); });
 }
 
 void HRVideoController::setNeedFrame(bool needFrame)
 {
-    {
-        const HRMutexLocker lock(d->controllerMutex);
-        d->needFrame = needFrame;
-    }
-    d->wakeup->ring();
+    d->change([this, needFrame] { d->playhead.setNeedsPicture(needFrame); });
 }
 
 QDateTime HRVideoController::lastFrameDisplayTime() const
@@ -236,31 +192,37 @@ void HRVideoController::setLastFrameDisplayTime(const QDateTime &time)
 
 size_t HRVideoController::frameCount() const
 {
-    return d->frameCount();
+    return d->pictureCount();
 }
 
 HRVideoFrame HRVideoController::currentFrame()
 {
     const HRMutexLocker lock(d->controllerMutex);
-    d->displayedIndex = d->position;
-    return d->frame(d->position);
+    d->playhead.fetch();
+    return d->picture(d->playhead.position());
 }
 
 bool HRVideoController::replaceByCurrentFrame(HRVideoFrame *frame)
 {
     const HRMutexLocker lock(d->controllerMutex);
-    d->displayedIndex = d->position;
-    if (!d->isFrameAvailable(d->position))
+    d->playhead.fetch();
+    return replaceByFrame(d->playhead.position(), frame);
+}
+
+bool HRVideoController::replaceByFrame(size_t index, HRVideoFrame *frame)
+{
+    const HRMutexLocker lock(d->controllerMutex);
+    if (index >= d->pictureCount())
         return false;
     *frame = HRVideoFrame();
-    *frame = d->frame(d->position);
+    *frame = d->picture(index);
     return !frame->isNull();
 }
 
 HRVideoFrame HRVideoController::getFrame(size_t index)
 {
     const HRMutexLocker lock(d->controllerMutex);
-    return d->frame(index);
+    return d->picture(index);
 }
 
 QUrl HRVideoController::source() const
@@ -278,7 +240,7 @@ bool HRVideoController::setSource(const QUrl &url)
         return false;
     {
         const HRMutexLocker lock(d->controllerMutex);
-        d->position = 0;
+        d->playhead.setPosition(0);
     }
     setNeedFrame(true);
     return true;
@@ -302,11 +264,7 @@ double HRVideoController::frameHeight() const
 
 void HRVideoController::setShouldQuit()
 {
-    {
-        const HRMutexLocker lock(d->controllerMutex);
-        d->shouldQuit = true;
-    }
-    d->wakeup->ring();
+    d->change([this] { d->shouldQuit = true; });
 }
 
 bool HRVideoController::shouldQuit() const
@@ -320,15 +278,7 @@ bool HRVideoController::shouldQuit() const
 
 void HRVideoController::quit()
 {
-    setShouldQuit();
-    if (wait(quitTime)) {
-        HRSchedule::hasEnded(this);
-        return;
-    }
-    qDebug("HRVideoController did not quit in a timely fashion");
-    terminate();
-    if (!wait(quitTime))
-        qDebug("HRVideoController did not quit at all");
+    stopThreadAtLast(this, "HRVideoController");
 }
 
 void HRVideoController::streamEnded()
@@ -336,9 +286,7 @@ void HRVideoController::streamEnded()
     bool paused = false;
     {
         const HRMutexLocker lock(d->controllerMutex);
-        paused = !d->scrubbing;
-        if (paused)
-            d->state = controllerPaused;
+        paused = d->playhead.endDecoding();
     }
     if (paused)
         Q_EMIT stateChanged();
@@ -356,22 +304,21 @@ void HRVideoController::sourceLoaded()
 
 void HRVideoController::run()
 {
-    using Private = HRVideoControllerPrivate;
     const HRSchedule::Work work(this);
     while (!shouldQuit()) {
         if (!d->controllerMutex.tryLock(longestLockWait))
             continue;
-        const Private::Step step = d->nextStepLocked();
+        const HRPlayhead::Step step = d->nextStepLocked();
         d->controllerMutex.unlock();
 
-        if (step == Private::present) {
+        if (step == HRPlayhead::present) {
             presentFrame();
             continue;
         }
         d->due.forget();
-        if (step == Private::showStill)
+        if (step == HRPlayhead::showStill)
             Q_EMIT displayFrame();
-        if (step == Private::announceEnd)
+        if (step == HRPlayhead::announceEnd)
             Q_EMIT stateChanged();
         d->wakeup->waitFor(longestRest);
     }
@@ -379,55 +326,19 @@ void HRVideoController::run()
 
 void HRVideoController::presentFrame()
 {
-    HRPacing pacing;
-    bool advances = false;
-    bool playing = false;
+    HRPlayhead::Advance advance;
     HRDueTime::Time came;
     {
         const HRMutexLocker lock(d->controllerMutex);
         came = std::chrono::steady_clock::now();
-        d->moved = false;
-        playing = d->state == controllerPlaying;
-        const quint64 count = d->frameCount();
-        pacing.displayed = d->displayedIndex;
-        pacing.position = d->position;
-        if (playing && pacing.displayed == pacing.position && pacing.displayed >= count)
-            return;
-        advances = playing && pacing.position < count;
-        // Before the picture goes out: who fetches it finds the new position.
-        if (advances)
-            ++d->position;
+        advance = d->playhead.advance(d->pictureCount());
     }
-    if (!playing || advances)
+    if (advance.displays)
         Q_EMIT displayFrame();
-    if (advances)
+    if (advance.moves)
         Q_EMIT positionChanged();
-    if (playing)
-        pace(&pacing, advances, came);
-}
-
-void HRVideoController::pace(
-    HRPacing *pacing, bool advanced, std::chrono::steady_clock::time_point came)
-{
-    pacing->frameRate = d->source->frameRate();
-    pacing->last = lastFrameDisplayTime();
-    pacing->now = QDateTime::currentDateTime();
-    if (advanced)
-        setLastFrameDisplayTime(pacing->now);
-    sleepUntil(d->due.next(came, pacing->delay()));
-}
-
-/// Only the wish to quit and a position moved by hand end the sleep early, or else whoever asks for
-/// this and that would push a clip on; but a clip with one picture in a quarter of an hour obeys.
-void HRVideoController::sleepUntil(std::chrono::steady_clock::time_point due)
-{
-    while (d->wakeup->waitUntil(due)) {
-        const HRMutexLocker lock(d->controllerMutex);
-        if (!d->isSleepOverLocked())
-            continue;
-        d->due.forget();
-        return;
-    }
+    if (advance.paces)
+        d->pace(advance, came);
 }
 
 } // namespace Hintreels

@@ -5,14 +5,12 @@
 
 #include "video/HRSchedule_p.h"
 #include "video/HRVideoSource_p.h"
-
-#include <QDebug>
+#include "video/stopThread_p.h"
 
 namespace Hintreels {
 
 namespace {
 
-constexpr unsigned long quitTime = 10000; // ms, before and after terminating
 constexpr std::chrono::milliseconds longestPause(100);
 
 } // namespace
@@ -115,15 +113,7 @@ void HRVideoSource::setShouldQuit()
 
 void HRVideoSource::quit()
 {
-    setShouldQuit();
-    if (wait(quitTime)) {
-        HRSchedule::hasEnded(this);
-        return;
-    }
-    qDebug("HRVideoSource did not quit in a timely fashion");
-    terminate();
-    if (!wait(quitTime))
-        qDebug("HRVideoSource did not quit at all");
+    stopThreadAtLast(this, "HRVideoSource");
 }
 
 QUrl HRVideoSource::source()
@@ -146,17 +136,17 @@ bool HRVideoSource::shouldQuit()
 
 void HRVideoSource::pushFrame(const HRVideoFrame &frame)
 {
-    std::shared_ptr<HRWakeup> readerOfFirst;
+    std::function<void()> tellOfFirst;
     {
         const HRMutexLocker lock(d->frameMutex);
         if (!d->cache)
             return;
         if (d->cache->length() == 0)
-            readerOfFirst = d->reader;
+            tellOfFirst = d->onFirstPicture;
         d->cache->addFrame(frame);
     }
-    if (readerOfFirst)
-        readerOfFirst->ring();
+    if (tellOfFirst)
+        tellOfFirst();
 }
 
 HRVideoFrame HRVideoSource::getFrame(unsigned int index)
@@ -180,6 +170,12 @@ size_t HRVideoSource::totalFrameCount()
 {
     const HRMutexLocker lock(d->frameMutex);
     return d->cache ? d->cache->length() : 0;
+}
+
+void HRVideoSource::onFirstPicture(std::function<void()> tell)
+{
+    const HRMutexLocker lock(d->frameMutex);
+    d->onFirstPicture = std::move(tell);
 }
 
 void HRVideoSource::clearChanges()
@@ -207,6 +203,16 @@ void HRVideoSource::notifyStreamEnded()
     Q_EMIT streamEnded();
 }
 
+void HRVideoSource::dropClip()
+{
+    const HRSchedule::Work work(this);
+    std::unique_ptr<HRVideoFrameCache> dropped;
+    {
+        const HRMutexLocker lock(d->frameMutex);
+        d->cache.swap(dropped);
+    }
+}
+
 void HRVideoSource::processActionQueue()
 {
     const std::unique_ptr<HRVideoSourceChange> change = d->changes.takeFirst();
@@ -224,25 +230,9 @@ void HRVideoSource::wake()
     d->changes.wake();
 }
 
-void HRVideoSource::setReader(const std::shared_ptr<HRWakeup> &reader)
-{
-    const HRMutexLocker lock(d->frameMutex);
-    d->reader = reader;
-}
-
 std::unique_ptr<HRVideoFrameCache> HRVideoSource::createCache(const QString &name) const
 {
     return std::make_unique<HRVideoFrameCache>(name);
-}
-
-void HRVideoSource::dropClip()
-{
-    const HRSchedule::Work work(this);
-    std::unique_ptr<HRVideoFrameCache> dropped;
-    {
-        const HRMutexLocker lock(d->frameMutex);
-        d->cache.swap(dropped);
-    }
 }
 
 } // namespace Hintreels

@@ -9,12 +9,12 @@
 #include <QThread>
 #include <QUrl>
 
+#include <functional>
 #include <memory>
 
 namespace Hintreels {
 
 class HRVideoFrameCache;
-class HRWakeup;
 struct HRVideoSourcePrivate;
 
 /// A thread that fills a cache with the pictures of a clip, as other threads tell it to.
@@ -108,6 +108,9 @@ public:
     size_t loadedFrameCount();
     /// The same: all pictures that are known of are loaded.
     size_t totalFrameCount();
+    /// Has @p tell called at the first picture of each clip, on the source's thread and with no
+    /// lock held; in place of what was to be called before.
+    void onFirstPicture(std::function<void()> tell);
 
     // For the source's own thread.
 
@@ -118,6 +121,8 @@ public:
     void setupSource();
     /// Emits streamEnded().
     void notifyStreamEnded();
+    /// Frees all that is known of the clip. The thread's last act.
+    virtual void dropClip();
 
 Q_SIGNALS:
     // Listeners rely on this order.
@@ -140,14 +145,8 @@ protected:
     void rest();
     /// Ends the present or the next rest. From any thread.
     void wake();
-    /// Frees all that is known of the clip. On the source's thread, as its last act.
-    virtual void dropClip();
 
 private:
-    friend class HRVideoController; // rests until the first picture of a clip arrives
-    friend void retireSource(std::unique_ptr<HRVideoSource> source); // drops the clip
-
-    void setReader(const std::shared_ptr<HRWakeup> &reader);
     /// The cache for a clip, called @p name.
     virtual std::unique_ptr<HRVideoFrameCache> createCache(const QString &name) const;
 

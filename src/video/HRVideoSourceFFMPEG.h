@@ -55,11 +55,12 @@ public:
     /// How far decoding is, from 0 to 1 by the clip's duration; 0 where that is not known.
     virtual double progress();
 
+    void dropClip() override;
+
 protected:
     /// Carries out what is asked for, until it is to end.
     void run() override;
     bool loadSource() override;
-    void dropClip() override;
 
 private:
     std::unique_ptr<HRVideoFrameCache> createCache(const QString &name) const override;

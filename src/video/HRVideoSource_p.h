@@ -20,7 +20,7 @@ struct HRVideoSourcePrivate
     HRMutex stateMutex{ HRLock::state };
     HRVideoActionQueue changes;
     std::unique_ptr<HRVideoFrameCache> cache; // guarded by frameMutex, contents included
-    std::shared_ptr<HRWakeup> reader; // guarded by frameMutex; rung at the first picture of a clip
+    std::function<void()> onFirstPicture; // guarded by frameMutex
 };
 
 } // namespace Hintreels

@@ -4,6 +4,7 @@
 #include "video/retiredSources_p.h"
 
 #include "video/HRVideoSource.h"
+#include "video/stopThread_p.h"
 
 #include <QPointer>
 
@@ -58,8 +59,7 @@ void retireSource(std::unique_ptr<HRVideoSource> source)
         Qt::DirectConnection);
     QObject::connect(retired, &QThread::finished, retired, &QObject::deleteLater);
     const bool hasEnded = retired->isFinished();
-    retired->setShouldQuit();
-    if (hasEnded || retired->wait(retiredCount == 0 ? patience : 0))
+    if (hasEnded || stopThread(retired, retiredCount == 0 ? patience : 0))
         return;
     ++retiredCount;
     QObject::connect(retired, &QObject::destroyed, [] { --retiredCount; });
