@@ -1,11 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
-#include "video/HRVideoComponent.h"
+#include "video/HRVideoComponent_p.h"
 
 #include "video/HRClipFinder_p.h"
-#include "video/HRVideoController.h"
-#include "video/HRVideoSourceFFMPEG.h"
 #include "video/retiredSources_p.h"
 
 #include <QPainter>
@@ -15,203 +13,258 @@ namespace Hintreels {
 
 HRVideoComponent::HRVideoComponent(QQuickItem *parent)
     : QQuickPaintedItem(parent)
-    , m_videoSource(new HRVideoSourceFFMPEG(this))
-    , m_controller(new HRVideoController(m_videoSource, this))
+    , d(new HRVideoComponentPrivate(this))
 {
-    connect(m_controller, &HRVideoController::displayFrame, this, &HRVideoComponent::frameReady);
+    connect(d->controller, &HRVideoController::displayFrame, this, &HRVideoComponent::frameReady);
     setFlag(ItemHasContents, true);
-    connect(m_controller, &HRVideoController::stateChanged, this,
+    connect(d->controller, &HRVideoController::stateChanged, this,
         &HRVideoComponent::sourceChangedState);
-    connect(m_controller, &HRVideoController::positionChanged, this,
+    connect(d->controller, &HRVideoController::positionChanged, this,
         &HRVideoComponent::controllerPositionChanged);
-    connect(m_controller, &HRVideoController::heightChanged, this,
+    connect(d->controller, &HRVideoController::heightChanged, this,
         &HRVideoComponent::contentHeightChanged);
-    connect(m_controller, &HRVideoController::widthChanged, this,
+    connect(d->controller, &HRVideoController::widthChanged, this,
         &HRVideoComponent::contentWidthChanged);
-    connect(m_controller, &HRVideoController::loadProgressChanged, this,
+    connect(d->controller, &HRVideoController::loadProgressChanged, this,
         &HRVideoComponent::loadProgressChanged);
-    connect(m_videoSource, &HRVideoSource::sourceChanged, this, &HRVideoComponent::sourceTaken);
+    connect(d->videoSource, &HRVideoSource::sourceChanged, this, [this] { d->sourceTaken(); });
+    // Behind the controller's own slot, which may pause.
+    connect(d->videoSource, &HRVideoSource::streamEnded, this, [this] { d->decodingEnded(); });
     followWindow(window()); // the base has put the item there before it was one of this class
-    m_controller->start(QThread::InheritPriority);
-    m_videoSource->start(QThread::InheritPriority);
+    d->followVisibility(window());
+    d->controller->start(QThread::InheritPriority);
+    d->videoSource->start(QThread::InheritPriority);
 }
 
 HRVideoComponent::~HRVideoComponent()
 {
     // The controller reads what the source has.
-    m_controller->quit();
-    m_controller->wait();
-    retireSource(std::unique_ptr<HRVideoSource>(m_videoSource));
+    d->controller->quit();
+    d->controller->wait();
+    retireSource(std::unique_ptr<HRVideoSource>(d->videoSource));
 }
 
 QString HRVideoComponent::source() const
 {
-    return m_source;
+    return d->source;
 }
 
 void HRVideoComponent::setSource(const QString &source)
 {
     if (source.isEmpty()) {
-        m_controller->setSource(QUrl(source));
-        m_source = source;
+        d->controller->setSource(QUrl(source));
+        d->source = source;
+        d->apply(HRClipEvent::rewound);
+        d->apply(HRClipEvent::unwanted);
     }
     HRClipFinder *finder = HRClipFinder::of(window());
     if (!finder)
         return;
-    m_source = source;
-    m_videoSource->setLargestPicture(finder->largestPicture());
+    d->source = source;
+    d->videoSource->setLargestPicture(finder->largestPicture());
     const QString path = finder->findClip(source);
-    if (!path.isEmpty() && m_controller->setSource(QUrl::fromLocalFile(path)))
-        ++m_awaitedSources;
-    m_frame = HRVideoFrame();
-    update();
+    if (!path.isEmpty())
+        d->open(QUrl::fromLocalFile(path));
+    d->dropPicture();
 }
 
 HRVideoComponent::VideoState HRVideoComponent::state() const
 {
-    return m_controller->state() == HRVideoController::controllerPlaying ? playingState
-                                                                         : pausedState;
+    return d->controller->state() == HRVideoController::controllerPlaying ? playingState
+                                                                          : pausedState;
 }
 
 void HRVideoComponent::setState(VideoState state)
 {
     switch (state) {
     case playingState:
-        m_controller->play();
+        play();
         break;
     case pausedState:
-        m_controller->pause();
+        pause();
         break;
     case resetState:
-        m_controller->streamEnded();
+        d->controller->streamEnded();
+        if (!d->isPlaying())
+            d->apply(HRClipEvent::unwanted);
         break;
     }
 }
 
 qint64 HRVideoComponent::position() const
 {
-    return qint64(m_controller->position());
+    return qint64(d->controller->position());
 }
 
 void HRVideoComponent::setPosition(qint64 position)
 {
-    m_controller->setPosition(size_t(position));
+    d->apply(HRClipEvent::moved);
+    d->controller->setPosition(size_t(position));
 }
 
 double HRVideoComponent::progress() const
 {
-    return m_controller->progress();
+    return d->controller->progress();
 }
 
 void HRVideoComponent::setProgress(double progress)
 {
-    m_controller->setProgress(progress);
+    d->apply(HRClipEvent::moved);
+    d->controller->setProgress(progress);
 }
 
 QString HRVideoComponent::searchPath() const
 {
-    return m_searchPath;
+    return d->searchPath;
 }
 
 void HRVideoComponent::setSearchPath(const QString &searchPath)
 {
-    m_searchPath = searchPath;
+    d->searchPath = searchPath;
     Q_EMIT searchPathChanged();
 }
 
 bool HRVideoComponent::isScrubbing() const
 {
-    return m_controller->isScrubbing();
+    return d->controller->isScrubbing();
 }
 
 void HRVideoComponent::setScrubbing(bool scrubbing)
 {
-    m_controller->setScrubbing(scrubbing);
+    d->controller->setScrubbing(scrubbing);
+    d->apply(scrubbing ? HRClipEvent::scrubbed : HRClipEvent::released);
 }
 
 double HRVideoComponent::contentHeight() const
 {
-    return m_controller->frameHeight();
+    return d->controller->frameHeight();
 }
 
 double HRVideoComponent::contentWidth() const
 {
-    return m_controller->frameWidth();
+    return d->controller->frameWidth();
 }
 
 double HRVideoComponent::loadProgress() const
 {
-    return m_controller->loadProgress();
+    return d->controller->loadProgress();
+}
+
+double HRVideoComponent::pictureTime() const
+{
+    return d->picture.pts();
+}
+
+bool HRVideoComponent::isDecoded() const
+{
+    return d->clip.isDecoded();
+}
+
+bool HRVideoComponent::hasEnded() const
+{
+    return d->clip.isEnded();
+}
+
+bool HRVideoComponent::keepsPlaying() const
+{
+    return d->clip.isWanted();
+}
+
+void HRVideoComponent::setKeepPlaying(bool keep)
+{
+    d->apply(keep ? HRClipEvent::wanted : HRClipEvent::unwanted);
+}
+
+bool HRVideoComponent::isLooping() const
+{
+    return d->clip.isLooping();
+}
+
+void HRVideoComponent::setLooping(bool looping)
+{
+    if (looping == isLooping())
+        return;
+    d->clip.setLooping(looping);
+    Q_EMIT loopChanged();
 }
 
 void HRVideoComponent::setDecodingPaused(bool paused)
 {
-    m_videoSource->setDecodingPaused(paused);
+    d->videoSource->setDecodingPaused(paused);
 }
 
 void HRVideoComponent::paint(QPainter *painter)
 {
-    if (m_frame.isNull())
+    if (d->picture.isNull())
         return;
     painter->setRenderHint(QPainter::SmoothPixmapTransform, antialiasing());
-    painter->drawImage(QPoint(0, 0), m_frame);
+    painter->drawImage(QPoint(0, 0), d->picture);
 }
 
 void HRVideoComponent::frameReady()
 {
     // Until the source has taken the new clip, it still answers with the one before.
     HRVideoFrame before;
-    const bool isAwaiting = m_awaitedSources > 0;
-    if (!m_controller->replaceByCurrentFrame(isAwaiting ? &before : &m_frame) || isAwaiting)
+    const bool isAwaiting = d->awaitedSources > 0;
+    const double timeBefore = d->picture.pts();
+    if (!d->controller->replaceByCurrentFrame(isAwaiting ? &before : &d->picture) || isAwaiting)
         return;
-    setImplicitSize(m_frame.width(), m_frame.height());
-    if (m_contentHeightSeen != m_frame.height()) {
-        m_contentHeightSeen = m_frame.height();
+    setImplicitSize(d->picture.width(), d->picture.height());
+    if (d->contentHeightSeen != d->picture.height()) {
+        d->contentHeightSeen = d->picture.height();
         Q_EMIT heightChanged();
     }
-    const double progress = m_controller->progress();
-    if (m_progressSeen != progress) {
-        m_progressSeen = progress;
+    const double progress = d->controller->progress();
+    if (d->progressSeen != progress) {
+        d->progressSeen = progress;
         Q_EMIT progressChanged();
         Q_EMIT positionChanged();
     }
+    if (d->picture.pts() != timeBefore)
+        Q_EMIT timeChanged();
     update();
+    d->apply(HRClipEvent::pictureShown);
 }
 
 void HRVideoComponent::play()
 {
-    m_controller->play();
+    d->apply(HRClipEvent::moved);
+    d->controller->play();
 }
 
 void HRVideoComponent::pause()
 {
-    m_controller->pause();
+    d->controller->pause();
+    d->apply(HRClipEvent::unwanted);
 }
 
 void HRVideoComponent::sourceChangedState()
 {
     Q_EMIT stateChanged();
+    d->lookForEnd();
 }
 
 void HRVideoComponent::rewindToStart()
 {
-    m_controller->pause();
-    m_controller->setProgress(0.0);
+    pause();
+    setProgress(0.0);
     Q_EMIT progressChanged();
     Q_EMIT positionChanged();
 }
 
 void HRVideoComponent::controllerPositionChanged()
 {
-    m_progressSeen = m_controller->progress();
+    d->progressSeen = d->controller->progress();
     Q_EMIT positionChanged();
     Q_EMIT progressChanged();
 }
 
 void HRVideoComponent::itemChange(ItemChange change, const ItemChangeData &value)
 {
-    if (change == ItemSceneChange)
+    if (change == ItemSceneChange) {
         followWindow(value.window);
+        d->followVisibility(value.window);
+    }
     QQuickPaintedItem::itemChange(change, value);
 }
 
@@ -219,12 +272,6 @@ void HRVideoComponent::followWindow(QQuickWindow *window)
 {
     const HRClipFinder *finder = HRClipFinder::of(window);
     setDecodingPaused(finder && finder->isDecodingPaused());
-}
-
-void HRVideoComponent::sourceTaken()
-{
-    if (m_awaitedSources > 0)
-        --m_awaitedSources;
 }
 
 } // namespace Hintreels

@@ -4,14 +4,14 @@
 #pragma once
 
 #include "context/HRExport.h"
-#include "video/HRVideoFrame.h"
 
 #include <QQuickPaintedItem>
 
+#include <memory>
+
 namespace Hintreels {
 
-class HRVideoController;
-class HRVideoSourceFFMPEG;
+struct HRVideoComponentPrivate;
 
 /// The QML item that plays a clip of the package, at the clip's own size.
 ///
@@ -35,6 +35,11 @@ class HINTREELS_EXPORT HRVideoComponent : public QQuickPaintedItem
     Q_PROPERTY(double contentHeight READ contentHeight NOTIFY contentHeightChanged)
     Q_PROPERTY(double contentWidth READ contentWidth NOTIFY contentWidthChanged)
     Q_PROPERTY(double loadProgress READ loadProgress NOTIFY loadProgressChanged)
+    Q_PROPERTY(double time READ pictureTime NOTIFY timeChanged)
+    Q_PROPERTY(bool decoded READ isDecoded NOTIFY decodedChanged)
+    Q_PROPERTY(bool ended READ hasEnded NOTIFY endedChanged)
+    Q_PROPERTY(bool keepPlaying READ keepsPlaying WRITE setKeepPlaying NOTIFY keepPlayingChanged)
+    Q_PROPERTY(bool loop READ isLooping WRITE setLooping NOTIFY loopChanged)
 
     ///@}
 public:
@@ -59,80 +64,108 @@ public:
     /// in effect goes on, but its picture is no longer painted. Emits nothing.
     void setSource(const QString &source);
 
+    /// Whether the clip plays.
     VideoState state() const;
+    /// Does what play(), pause() or the end of decoding does.
     void setState(VideoState state);
 
     /// Index of the picture to show.
     qint64 position() const;
+    /// Goes to a picture; at most to the last one that is decoded.
     void setPosition(qint64 position);
     /// The position as a fraction of the decoded pictures.
     double progress() const;
+    /// Goes to a fraction of the decoded pictures.
     void setProgress(double progress);
 
     /// Kept for the UI's own use; it plays no part in finding the source.
     QString searchPath() const;
+    /// Sets it, and tells of that.
     void setSearchPath(const QString &searchPath);
 
     /// While scrubbing, the end of decoding does not pause.
     bool isScrubbing() const;
+    /// Begins or ends scrubbing. Emits nothing.
     void setScrubbing(bool scrubbing);
 
-    /// In pixels, of the clip that is being decoded; 200 x 150 before and after that.
+    /// In pixels, of the clip that is being decoded; 150 before and after that.
     double contentHeight() const;
+    /// In pixels, of the clip that is being decoded; 200 before and after that.
     double contentWidth() const;
     /// 1 as soon as a picture is decoded, else 0.
     double loadProgress() const;
 
     /// The time of the painted picture in seconds, 0 where there is none. The clock starts with the
-    /// item's first clip and runs on from clip to clip. Nothing tells of a change by itself: while
-    /// the clip plays, positionChanged() follows each picture.
-    Q_INVOKABLE double pictureTime() const { return m_frame.pts(); }
+    /// item's first clip and runs on from clip to clip.
+    Q_INVOKABLE double pictureTime() const;
+
+    /// Whether all pictures of the clip are there.
+    bool isDecoded() const;
+    /// Whether the clip rests where playing has come to its end. No longer once it is played, moved
+    /// or set again.
+    bool hasEnded() const;
+
+    /// While set, the clip plays whenever it can, and waits for the decoder where it has caught up
+    /// with it: not before its first picture is shown, nor in a window that is hidden, nor while
+    /// scrubbing. At the end, and by pause(), it becomes false. Set again there, it starts over.
+    bool keepsPlaying() const;
+    /// Plays whenever that is possible, or pauses.
+    void setKeepPlaying(bool keep);
+    /// With keepPlaying, the clip starts over at its end.
+    bool isLooping() const;
+    /// Decides what comes at the next end.
+    void setLooping(bool looping);
 
     /// Leaves the clip's further pictures undecoded until it is called with false; what is decoded
     /// already plays. The view does so while the popup around it is hidden.
     void setDecodingPaused(bool paused);
 
+    /// Draws the picture at its own size, from the item's top left corner.
     void paint(QPainter *painter) override;
 
 Q_SIGNALS:
     // Listeners rely on this order.
-    void sourceChanged();
-    void stateChanged();
-    void positionChanged();
-    void progressChanged();
+    void sourceChanged(); ///< never emitted
+    void stateChanged(); ///< the clip plays, or is paused
+    void positionChanged(); ///< another picture is to be shown
+    void progressChanged(); ///< the same, or more pictures are decoded
     void heightChanged(); ///< a picture of another height came
-    void searchPathChanged();
-    void scrubbingChanged();
-    void contentHeightChanged();
-    void contentWidthChanged();
-    void loadProgressChanged();
+    void searchPathChanged(); ///< it was set
+    void scrubbingChanged(); ///< never emitted
+    void contentHeightChanged(); ///< a clip was opened
+    void contentWidthChanged(); ///< a clip was opened
+    void loadProgressChanged(); ///< a clip was set, opened or decoded
+    void timeChanged(); ///< another picture is painted, or none
+    void decodedChanged(); ///< the last picture is decoded, or another clip was set
+    void endedChanged(); ///< the clip has come to its end, or has left it
+    void keepPlayingChanged(); ///< it was set, or the clip has ended or was paused
+    void loopChanged(); ///< it was set
+    /// The clip has been played to its end, and its last picture is shown; when looping, the first
+    /// follows.
+    void finished();
 
 public Q_SLOTS:
+    /// Fetches the picture that is due.
     void frameReady();
+    /// Plays what is decoded, from the start where the position is at the end.
     void play();
+    /// Holds at the picture on show.
     void pause();
+    /// Tells that the clip plays, or is paused.
     void sourceChangedState();
     /// Pauses at the first picture.
     void rewindToStart();
+    /// Tells that the position has changed.
     void controllerPositionChanged();
 
 protected:
+    /// Follows the item into its window.
     void itemChange(ItemChange change, const ItemChangeData &value) override;
 
 private:
     void followWindow(QQuickWindow *window);
-    void sourceTaken();
 
-    HRVideoSourceFFMPEG *m_videoSource;
-    HRVideoController *m_controller;
-    HRVideoFrame m_frame;
-    double m_contentHeightSeen = 0.0;
-    double m_progressSeen = 0.0;
-    QString m_searchPath;
-    QString m_source;
-    // Clips that were asked for and have not replaced the one before yet, whose pictures are not
-    // to be shown any more.
-    int m_awaitedSources = 0;
+    std::unique_ptr<HRVideoComponentPrivate> d;
 };
 
 } // namespace Hintreels

@@ -33,8 +33,7 @@ struct ClipFixture : StandardUiFixture
     QQuickItem *clip() const { return item("clip"); }
     QQuickPaintedItem *painted() const { return clip()->findChild<QQuickPaintedItem *>(); }
     bool wanted() const { return clip()->property("wanted").toBool(); }
-    /// A clip that is decoded is closed, and tells no size of its content any more.
-    bool isDecoded() const { return painted()->property("contentWidth").toDouble() == 200.0; }
+    bool isDecoded() const { return painted()->property("decoded").toBool(); }
     bool ended() const { return clip()->property("ended").toBool(); }
     qreal time() const { return clip()->property("time").toReal(); }
     /// Number of the picture on show, in a clip of 30 pictures a second.

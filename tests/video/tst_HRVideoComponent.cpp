@@ -5,25 +5,16 @@
 
 #include "support/MessageGuard.h"
 #include "support/RecordingHost.h"
-#include "support/SignalCounter.h"
-#include "support/TestClip.h"
 #include "ui/items/qmlTypes_p.h"
-#include "ui/popup/HRView.h"
+#include "video/ItemStage.h"
 
 #include <QElapsedTimer>
 #include <QPaintEngine>
 #include <QPainter>
-#include <QQmlComponent>
-#include <QQmlContext>
-#include <QQmlEngine>
-#include <QQmlExpression>
-#include <QQuickItem>
 #include <QSet>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include <random>
-#include <type_traits>
 
 using namespace Hintreels;
 
@@ -42,72 +33,20 @@ private Q_SLOTS:
     void source_isRefused_aboveTheSettingForPictures_data();
     void source_isRefused_aboveTheSettingForPictures();
     void clipBefore_neverFlashes();
-    void play_showsAllAndPauses();
-    void play_restartsAtTheEnd();
-    void state_mapsToTheController();
-    void state_holdsAnyNumber_thatQmlSets();
-    void resetState_leavesPlaybackAlone_whileScrubbing();
-    void rewindToStart_pausesAndAnnounces();
-    void progress_scrubs();
     void heightChanged_comesOncePerHeight();
     void searchPath_isKept();
     void paint_drawsThePictureAtItsOwnSize();
     void pictures_takeTheMemoryOfTheOneBefore();
-    void documentedExample_plays();
     void destruction_isQuick_atAnyMoment();
     void metaObject_keepsItsOrder();
 
 private:
-    QString clip(const QString &name, int first, int pictures, const QSize &size = QSize(64, 48),
-        int rate = 50);
-
-    QTemporaryDir m_directory;
+    NumberedClips m_clips;
     QString m_clip; // numbers 0 to 9
     QString m_other; // numbers 30 to 39, of another height
 };
 
 namespace {
-
-/// A view whose content has one resource: the file that every source then is.
-struct Stage
-{
-    explicit Stage(const QString &file = QString(), HRManager *manager = nullptr)
-        : view(manager, nullptr)
-    {
-        auto *content = new HRXmlElement;
-        content->setAttribute("resources", file);
-        view.setContent(content);
-        item = new HRVideoComponent(view.contentItem());
-        announced.reset(new SignalCounter(item, &HRVideoComponent::loadProgressChanged));
-    }
-
-    void setFile(const QString &file)
-    {
-        view.content()->setAttribute("resources", file);
-        announced->clear();
-        item->setSource("clip");
-    }
-
-    /// Setting the source, opening it and its end have announced themselves.
-    bool isDecoded() const { return announced->count() == 3; }
-
-    /// What the item paints; transparent where it paints nothing.
-    QImage painted()
-    {
-        QImage image(64, 48, QImage::Format_ARGB32);
-        image.fill(Qt::transparent);
-        QPainter painter(&image);
-        item->paint(&painter);
-        return image;
-    }
-
-    bool paintsNothing() { return qAlpha(painted().pixel(0, 0)) == 0; }
-    int number() { return paintsNothing() ? -1 : TestClip::numberOf(painted()); }
-
-    HRView view;
-    HRVideoComponent *item;
-    QScopedPointer<SignalCounter> announced;
-};
 
 /// Notes where the pixels lie that are drawn with it.
 class PixelWatch : public QPaintEngine
@@ -159,20 +98,8 @@ QImage movingSquare(const QSize &size, int number)
 void tst_HRVideoComponent::initTestCase()
 {
     registerQmlTypes();
-    m_clip = clip("clip.mp4", 0, 10);
-    m_other = clip("other.mp4", 30, 10, QSize(64, 64));
-}
-
-QString tst_HRVideoComponent::clip(
-    const QString &name, int first, int pictures, const QSize &size, int rate)
-{
-    TestClip encoded;
-    encoded.size = size;
-    encoded.pictures = pictures;
-    encoded.rate = rate;
-    return encoded.write(m_directory.filePath(name), [first](const QSize &pictureSize, int number) {
-        return TestClip::numbered(pictureSize, first + number);
-    });
+    m_clip = m_clips.write("clip.mp4", 0, 10);
+    m_other = m_clips.write("other.mp4", 30, 10, QSize(64, 64));
 }
 
 void tst_HRVideoComponent::newItem_isPausedWithTheSizeOfNoClip()
@@ -202,7 +129,7 @@ void tst_HRVideoComponent::source_isNotTaken_withoutAView()
 
 void tst_HRVideoComponent::source_showsItsFirstPicture()
 {
-    Stage stage;
+    ItemStage stage;
     QVERIFY(stage.paintsNothing());
     stage.setFile(m_clip);
     QTRY_COMPARE(stage.number(), 0);
@@ -215,12 +142,12 @@ void tst_HRVideoComponent::source_showsItsFirstPicture()
 
 void tst_HRVideoComponent::source_clearsThePictureOnly_whenNothingIsFound()
 {
-    Stage stage;
+    ItemStage stage;
     stage.setFile(m_clip);
     QTRY_COMPARE(stage.number(), 0);
     QTRY_VERIFY(stage.isDecoded());
 
-    stage.view.content()->setAttribute("resources", m_directory.filePath("missing.mp4"));
+    stage.view.content()->setAttribute("resources", m_clips.filePath("missing.mp4"));
     stage.item->setSource("missing");
     QVERIFY(stage.paintsNothing());
     QCOMPARE(stage.item->source(), QString("missing"));
@@ -232,11 +159,11 @@ void tst_HRVideoComponent::source_clearsThePictureOnly_whenNothingIsFound()
 
 void tst_HRVideoComponent::source_isEmpty_pausesAndClears()
 {
-    Stage stage;
+    ItemStage stage;
     stage.setFile(m_clip);
     QTRY_VERIFY(stage.isDecoded());
     stage.item->play();
-    stage.view.content()->setAttribute("resources", m_directory.path());
+    stage.view.content()->setAttribute("resources", m_clips.path());
     stage.item->setSource("");
     QCOMPARE(stage.item->source(), QString());
     QCOMPARE(stage.item->state(), HRVideoComponent::pausedState);
@@ -245,7 +172,7 @@ void tst_HRVideoComponent::source_isEmpty_pausesAndClears()
 
 void tst_HRVideoComponent::source_emitsNothing()
 {
-    Stage stage;
+    ItemStage stage;
     SignalCounter spy(stage.item, &HRVideoComponent::sourceChanged);
     stage.setFile(m_clip);
     QTRY_COMPARE(stage.number(), 0);
@@ -266,13 +193,13 @@ void tst_HRVideoComponent::source_isRefused_aboveTheSettingForPictures()
 {
     QFETCH(QVariant, megapixels);
     QFETCH(bool, shown);
-    const QString file = clip("megapixels.mp4", 0, 2, QSize(1600, 1000));
+    const QString file = m_clips.write("megapixels.mp4", 0, 2, QSize(1600, 1000));
     HRContext context;
     if (megapixels.isValid())
         context.set(largestPictureKey, megapixels);
     RecordingHost host(context, {});
     MessageGuard messages;
-    Stage stage(file, host.manager());
+    ItemStage stage(file, host.manager());
     stage.setFile(file);
     QStringList seen;
     QTRY_VERIFY(stage.number() == 0 || !(seen += messages.takeMessages()).isEmpty());
@@ -283,7 +210,7 @@ void tst_HRVideoComponent::source_isRefused_aboveTheSettingForPictures()
 
 void tst_HRVideoComponent::clipBefore_neverFlashes()
 {
-    Stage stage;
+    ItemStage stage;
     stage.setFile(m_clip);
     QTRY_VERIFY(stage.isDecoded());
     for (int i = 0; i < 30; ++i) {
@@ -298,121 +225,9 @@ void tst_HRVideoComponent::clipBefore_neverFlashes()
     }
 }
 
-void tst_HRVideoComponent::play_showsAllAndPauses()
-{
-    Stage stage;
-    stage.setFile(clip("slow.mp4", 0, 10, QSize(64, 48), 20));
-    QTRY_VERIFY(stage.isDecoded());
-    QTRY_COMPARE(stage.number(), 0);
-    QList<int> numbers;
-    connect(stage.item, &HRVideoComponent::positionChanged, this, [&] {
-        if (numbers.isEmpty() || numbers.last() != stage.number())
-            numbers.append(stage.number());
-    });
-    SignalCounter states(stage.item, &HRVideoComponent::stateChanged);
-    stage.item->play();
-    QTRY_COMPARE(states.count(), 2);
-    QCOMPARE(stage.item->state(), HRVideoComponent::pausedState);
-    QCOMPARE(stage.item->position(), qint64(10));
-    QCOMPARE(stage.item->progress(), 1.0);
-    // A picture that the GUI thread is too late for is passed over, be it the last.
-    QVERIFY2(stage.number() >= 8, qPrintable(QString::number(stage.number())));
-    QVERIFY2(numbers.size() >= 6, qPrintable(QString::number(numbers.size())));
-    QVERIFY(std::is_sorted(numbers.begin(), numbers.end()));
-}
-
-void tst_HRVideoComponent::play_restartsAtTheEnd()
-{
-    Stage stage;
-    stage.setFile(m_clip);
-    QTRY_VERIFY(stage.isDecoded());
-    stage.item->play();
-    QTRY_COMPARE(stage.item->position(), qint64(10));
-    QTRY_COMPARE(stage.item->state(), HRVideoComponent::pausedState);
-    stage.item->play();
-    QVERIFY(stage.item->position() < 10);
-    QTRY_COMPARE(stage.item->position(), qint64(10));
-}
-
-void tst_HRVideoComponent::state_mapsToTheController()
-{
-    Stage stage;
-    stage.setFile(clip("long.mp4", 0, 50));
-    QTRY_VERIFY(stage.isDecoded());
-    stage.item->setState(HRVideoComponent::playingState);
-    QCOMPARE(stage.item->state(), HRVideoComponent::playingState);
-    stage.item->setState(HRVideoComponent::pausedState);
-    QCOMPARE(stage.item->state(), HRVideoComponent::pausedState);
-    stage.item->setState(HRVideoComponent::playingState);
-    stage.item->setState(HRVideoComponent::resetState);
-    QCOMPARE(stage.item->state(), HRVideoComponent::pausedState);
-}
-
-void tst_HRVideoComponent::state_holdsAnyNumber_thatQmlSets()
-{
-    QVERIFY((std::is_same_v<std::underlying_type_t<HRVideoComponent::VideoState>, int>));
-    HRVideoComponent item;
-    QQmlEngine engine;
-    engine.rootContext()->setContextProperty("clip", &item);
-    for (const QString number : { "99", "-1", "2147483647" }) {
-        QQmlExpression expression(engine.rootContext(), nullptr, "clip.state = " + number);
-        expression.evaluate();
-        QVERIFY2(!expression.hasError(), qPrintable(expression.error().toString()));
-        QCOMPARE(item.state(), HRVideoComponent::pausedState);
-    }
-}
-
-void tst_HRVideoComponent::resetState_leavesPlaybackAlone_whileScrubbing()
-{
-    HRVideoComponent item;
-    item.setState(HRVideoComponent::playingState);
-    item.setScrubbing(true);
-    QVERIFY(item.isScrubbing());
-    SignalCounter loadProgress(&item, &HRVideoComponent::loadProgressChanged);
-    item.setState(HRVideoComponent::resetState);
-    QCOMPARE(loadProgress.count(), 1);
-    QCOMPARE(item.state(), HRVideoComponent::playingState);
-    item.setScrubbing(false);
-    QVERIFY(!item.isScrubbing());
-}
-
-void tst_HRVideoComponent::rewindToStart_pausesAndAnnounces()
-{
-    Stage stage;
-    stage.setFile(clip("rewind.mp4", 0, 50));
-    QTRY_VERIFY(stage.isDecoded());
-    stage.item->play();
-    QTRY_VERIFY(stage.item->position() > 2);
-    SignalCounter progress(stage.item, &HRVideoComponent::progressChanged);
-    SignalCounter position(stage.item, &HRVideoComponent::positionChanged);
-    stage.item->rewindToStart();
-    QVERIFY(progress.count() >= 1);
-    QVERIFY(position.count() >= 1);
-    QCOMPARE(stage.item->state(), HRVideoComponent::pausedState);
-    QTRY_COMPARE(stage.number(), 0);
-    QCOMPARE(stage.item->position(), qint64(0));
-}
-
-void tst_HRVideoComponent::progress_scrubs()
-{
-    Stage stage;
-    stage.setFile(m_clip);
-    QTRY_VERIFY(stage.isDecoded());
-    stage.item->setScrubbing(true);
-    for (int number : { 7, 2, 5 }) {
-        stage.item->setProgress(number / 10.0);
-        QTRY_COMPARE(stage.number(), number);
-        QCOMPARE(stage.item->position(), qint64(number));
-    }
-    stage.item->setProgress(qQNaN());
-    QTRY_COMPARE(stage.number(), 0);
-    stage.item->setPosition(-1); // the largest number there is: the last picture
-    QTRY_COMPARE(stage.number(), 9);
-}
-
 void tst_HRVideoComponent::heightChanged_comesOncePerHeight()
 {
-    Stage stage;
+    ItemStage stage;
     SignalCounter height(stage.item, &HRVideoComponent::heightChanged);
     stage.setFile(m_clip);
     QTRY_VERIFY(stage.isDecoded());
@@ -439,7 +254,7 @@ void tst_HRVideoComponent::searchPath_isKept()
 
 void tst_HRVideoComponent::paint_drawsThePictureAtItsOwnSize()
 {
-    Stage stage;
+    ItemStage stage;
     stage.setFile(m_clip);
     QTRY_COMPARE(stage.number(), 0);
     stage.item->setSize(QSizeF(640, 480));
@@ -459,8 +274,8 @@ void tst_HRVideoComponent::pictures_takeTheMemoryOfTheOneBefore()
     encoded.format = "gray";
     encoded.options = "";
     encoded.rate = 25;
-    Stage stage;
-    stage.setFile(encoded.write(m_directory.filePath("square.gif"), &movingSquare));
+    ItemStage stage;
+    stage.setFile(encoded.write(m_clips.filePath("square.gif"), &movingSquare));
     QTRY_VERIFY(stage.isDecoded());
     QSet<const uchar *> places;
     for (int position : { 2, 3, 4, 5 }) {
@@ -475,33 +290,14 @@ void tst_HRVideoComponent::pictures_takeTheMemoryOfTheOneBefore()
     QVERIFY(!places.contains(nullptr));
 }
 
-void tst_HRVideoComponent::documentedExample_plays()
-{
-    QFile file(DOCS_DIR "/video.md");
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray text = file.readAll();
-    const int begin = text.indexOf("```qml\n") + 7;
-    Stage stage(m_clip);
-    QQmlComponent component(stage.view.engine());
-    component.setData(text.mid(begin, text.indexOf("```", begin) - begin), QUrl());
-    QScopedPointer<QObject> object(component.create());
-    QVERIFY2(object, qPrintable(component.errorString()));
-    auto *item = qobject_cast<HRVideoComponent *>(object.data());
-    QVERIFY(item);
-    item->setParentItem(stage.view.contentItem());
-    QTRY_COMPARE(item->source(), QString("clips/pen.mp4"));
-    QTRY_COMPARE(item->position(), qint64(10));
-    QCOMPARE(item->width(), 64.0);
-}
-
 void tst_HRVideoComponent::destruction_isQuick_atAnyMoment()
 {
     MessageGuard messages;
     std::mt19937 random(5);
-    const QString file = clip("destroy.mp4", 0, 50, QSize(320, 240));
+    const QString file = m_clips.write("destroy.mp4", 0, 50, QSize(320, 240));
     qint64 longest = 0;
     for (int i = 0; i < 200; ++i) {
-        Stage stage;
+        ItemStage stage;
         if (i % 10 != 0)
             stage.setFile(file);
         if (i % 3 == 0)
@@ -529,14 +325,17 @@ void tst_HRVideoComponent::metaObject_keepsItsOrder()
         (QStringList{ "sourceChanged()", "stateChanged()", "positionChanged()", "progressChanged()",
             "heightChanged()", "searchPathChanged()", "scrubbingChanged()",
             "contentHeightChanged()", "contentWidthChanged()", "loadProgressChanged()",
-            "frameReady()", "play()", "pause()", "sourceChangedState()", "rewindToStart()",
-            "controllerPositionChanged()", "pictureTime()" }));
+            "timeChanged()", "decodedChanged()", "endedChanged()", "keepPlayingChanged()",
+            "loopChanged()", "finished()", "frameReady()", "play()", "pause()",
+            "sourceChangedState()", "rewindToStart()", "controllerPositionChanged()",
+            "pictureTime()" }));
     QStringList properties;
     for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i)
         properties += meta.property(i).name();
     QCOMPARE(properties,
         (QStringList{ "source", "state", "position", "progress", "searchPath", "scrubbing",
-            "contentHeight", "contentWidth", "loadProgress" }));
+            "contentHeight", "contentWidth", "loadProgress", "time", "decoded", "ended",
+            "keepPlaying", "loop" }));
 }
 
 QTEST_MAIN(tst_HRVideoComponent)

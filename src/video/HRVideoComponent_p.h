@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "video/HRClipState_p.h"
+#include "video/HRVideoComponent.h"
+#include "video/HRVideoController.h"
+#include "video/HRVideoSourceFFMPEG.h"
+
+namespace Hintreels {
+
+/// Keeps a controller to what the state of its clip says. GUI thread only.
+struct HRVideoComponentPrivate
+{
+    explicit HRVideoComponentPrivate(HRVideoComponent *item);
+
+    bool isPlaying() const { return controller->state() == HRVideoController::controllerPlaying; }
+    void apply(HRClipEvent event);
+    void lookForEnd();
+
+    void open(const QUrl &url);
+    void sourceTaken();
+    void decodingEnded();
+    void dropPicture();
+    void followVisibility(QQuickWindow *window);
+
+    void obey(HRClipState::Action action);
+    void announce(const HRClipState &before, const HRClipState &after);
+    void showLastPicture();
+
+    HRVideoComponent *const q;
+    HRVideoSourceFFMPEG *const videoSource;
+    HRVideoController *const controller;
+    HRVideoFrame picture;
+    double contentHeightSeen = 0.0;
+    double progressSeen = 0.0;
+    QString searchPath;
+    QString source;
+    // Clips that were asked for and have not replaced the one before yet, whose pictures are not
+    // to be shown any more.
+    int awaitedSources = 0;
+    HRClipState clip;
+    QMetaObject::Connection visibility;
+};
+
+} // namespace Hintreels
