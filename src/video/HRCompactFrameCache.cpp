@@ -98,26 +98,26 @@ HRCompactFrameCache::HRCompactFrameCache(const QString &name)
 
 HRCompactFrameCache::~HRCompactFrameCache() = default;
 
-void HRCompactFrameCache::addFrame(const HRVideoFrame &frame)
+void HRCompactFrameCache::addFrame(const HRVideoFrame &picture)
 {
-    Picture picture;
-    picture.size = frame.size();
-    picture.format = frame.format();
-    picture.pts = frame.pts();
-    const bool isStored = store(frame, &picture);
-    m_lastAdded = isStored ? frame.cacheKey() : 0;
+    StoredPicture stored;
+    stored.size = picture.size();
+    stored.format = picture.format();
+    stored.pts = picture.pts();
+    const bool isStored = store(picture, &stored);
+    m_lastAdded = isStored ? picture.cacheKey() : 0;
     if (isStored)
-        m_pictures.push_back(std::move(picture));
+        m_pictures.push_back(std::move(stored));
 }
 
 HRVideoFrame HRCompactFrameCache::frame(size_t index)
 {
     if (index >= m_pictures.size())
         return HRVideoFrame();
-    const Picture &picture = m_pictures[index];
-    HRVideoFrame frame = picture.tiles ? assemble(picture) : HRVideoFrame(picture.whole, 0);
-    frame.setPts(picture.pts);
-    return frame;
+    const StoredPicture &stored = m_pictures[index];
+    HRVideoFrame picture = stored.tiles ? assemble(stored) : HRVideoFrame(stored.whole, 0);
+    picture.setPts(stored.pts);
+    return picture;
 }
 
 size_t HRCompactFrameCache::length()
@@ -126,7 +126,7 @@ size_t HRCompactFrameCache::length()
 }
 
 /// False where there is no memory.
-bool HRCompactFrameCache::store(const HRVideoFrame &image, Picture *picture) const
+bool HRCompactFrameCache::store(const HRVideoFrame &image, StoredPicture *stored) const
 {
     const std::vector<bool> changed = changedTiles(image);
     const TileGrid grid(image.size());
@@ -136,24 +136,24 @@ bool HRCompactFrameCache::store(const HRVideoFrame &image, Picture *picture) con
 
     const double share = double(pixelCount) / (double(image.width()) * image.height());
     if (pixelCount > 0 && image.depth() == 32 && share < wholeShare)
-        return storeTiles(image, changed, pixelCount, picture);
+        return storeTiles(image, changed, pixelCount, stored);
     const bool isNew = pixelCount > 0 || image.isNull();
-    picture->whole = isNew ? image : m_pictures.back().whole;
-    picture->tiles = isNew ? nullptr : m_pictures.back().tiles;
+    stored->whole = isNew ? image : m_pictures.back().whole;
+    stored->tiles = isNew ? nullptr : m_pictures.back().tiles;
     return true;
 }
 
 bool HRCompactFrameCache::storeTiles(const QImage &image, const std::vector<bool> &changed,
-    size_t pixelCount, Picture *picture) const
+    size_t pixelCount, StoredPicture *stored) const
 {
-    picture->store.reset(new (std::nothrow) QRgb[pixelCount]);
-    if (!picture->store)
+    stored->store.reset(new (std::nothrow) QRgb[pixelCount]);
+    if (!stored->store)
         return false;
     auto tiles = std::make_shared<TileMap>(lastMap());
-    QRgb *end = picture->store.get();
+    QRgb *end = stored->store.get();
     for (int row = 0; row < int(tiles->size()); ++row)
         end = storeRow(image, changed, row, end, &(*tiles)[row]);
-    picture->tiles = std::move(tiles);
+    stored->tiles = std::move(tiles);
     return true;
 }
 
@@ -186,7 +186,7 @@ std::vector<bool> HRCompactFrameCache::changedTiles(const HRVideoFrame &image) c
     if (m_pictures.empty() || image.size() != m_pictures.back().size
         || image.format() != m_pictures.back().format || image.depth() != 32)
         return std::vector<bool>(count, true);
-    const Picture &last = m_pictures.back();
+    const StoredPicture &last = m_pictures.back();
     std::vector<bool> changed(count, false);
     const bool isDamageKnown = m_lastAdded != 0 && image.damageBase() == m_lastAdded;
     for (int row = 0; row * tileSide < image.height(); ++row) {
@@ -237,7 +237,7 @@ void HRCompactFrameCache::markRow(
 /// Where the tiles of the picture added last lie.
 HRCompactFrameCache::TileMap HRCompactFrameCache::lastMap() const
 {
-    const Picture &last = m_pictures.back();
+    const StoredPicture &last = m_pictures.back();
     if (last.tiles)
         return *last.tiles;
     const TileGrid grid(last.size);
@@ -252,22 +252,22 @@ HRCompactFrameCache::TileMap HRCompactFrameCache::lastMap() const
     return map;
 }
 
-HRVideoFrame HRCompactFrameCache::assemble(const Picture &picture)
+HRVideoFrame HRCompactFrameCache::assemble(const StoredPicture &stored)
 {
-    if (m_buffers[1].tiles == picture.tiles)
-        return m_buffers[1].frame;
-    takeBuffer(picture);
+    if (m_buffers[1].tiles == stored.tiles)
+        return m_buffers[1].picture;
+    takeBuffer(stored);
     Buffer &buffer = m_buffers[1];
-    if (buffer.frame.isNull())
+    if (buffer.picture.isNull())
         return HRVideoFrame();
-    for (int row = 0; row < int(picture.tiles->size()); ++row) {
-        const TileRow *wanted = (*picture.tiles)[row].get();
+    for (int row = 0; row < int(stored.tiles->size()); ++row) {
+        const TileRow *wanted = (*stored.tiles)[row].get();
         const TileRow *present = buffer.tiles ? (*buffer.tiles)[row].get() : nullptr;
         if (wanted != present)
-            assembleRow(*wanted, present, row, &buffer.frame);
+            assembleRow(*wanted, present, row, &buffer.picture);
     }
-    buffer.tiles = picture.tiles;
-    return buffer.frame;
+    buffer.tiles = stored.tiles;
+    return buffer.picture;
 }
 
 /// @param present the tiles that @p target has in this row; null where it has none
@@ -294,25 +294,25 @@ void HRCompactFrameCache::assembleRow(
 /// nobody holds it any more. Memory that is new to the process costs more than all the copying, and
 /// most tiles of the picture are there already. Whoever lets go of a picture before he reads the
 /// next makes do with one buffer.
-void HRCompactFrameCache::takeBuffer(const Picture &picture)
+void HRCompactFrameCache::takeBuffer(const StoredPicture &stored)
 {
-    if (isFree(m_buffers[1], picture))
+    if (isFree(m_buffers[1], stored))
         return;
     std::swap(m_buffers[0], m_buffers[1]);
-    if (isFree(m_buffers[1], picture))
+    if (isFree(m_buffers[1], stored))
         return;
     m_buffers[1] = {}; // before there is another
-    m_buffers[1].frame
-        = HRVideoFrame(picture.size.width(), picture.size.height(), picture.format, 0);
+    m_buffers[1].picture
+        = HRVideoFrame(stored.size.width(), stored.size.height(), stored.format, 0);
 }
 
-bool HRCompactFrameCache::isFree(const Buffer &buffer, const Picture &picture)
+bool HRCompactFrameCache::isFree(const Buffer &buffer, const StoredPicture &stored)
 {
-    const HRVideoFrame &frame = buffer.frame;
-    if (frame.size() != picture.size || frame.format() != picture.format || !frame.isDetached())
+    const HRVideoFrame &picture = buffer.picture;
+    if (picture.size() != stored.size || picture.format() != stored.format || !picture.isDetached())
         return false;
     // Counting up and down joins this thread with the one that let go last; asking does not.
-    const HRVideoFrame counted = frame;
+    const HRVideoFrame counted = picture;
     return true;
 }
 

@@ -27,7 +27,7 @@ public:
     ~HRCompactFrameCache() override;
 
     /// A picture for which there is no memory is left out.
-    void addFrame(const HRVideoFrame &frame) override;
+    void addFrame(const HRVideoFrame &picture) override;
     HRVideoFrame frame(size_t index) override;
     size_t length() override;
 
@@ -40,7 +40,7 @@ private:
     using TileRow = std::vector<Tile>;
     using TileMap = std::vector<std::shared_ptr<const TileRow>>; // rows that are alike are shared
 
-    struct Picture
+    struct StoredPicture
     {
         QSize size;
         QImage::Format format = QImage::Format_Invalid;
@@ -53,18 +53,18 @@ private:
     /// A picture that was put together from tiles, and from which.
     struct Buffer
     {
-        HRVideoFrame frame;
+        HRVideoFrame picture;
         std::shared_ptr<const TileMap> tiles; // null while it holds no picture
     };
 
-    bool store(const HRVideoFrame &image, Picture *picture) const;
+    bool store(const HRVideoFrame &image, StoredPicture *stored) const;
     bool storeTiles(const QImage &image, const std::vector<bool> &changed, size_t pixelCount,
-        Picture *picture) const;
+        StoredPicture *stored) const;
     std::vector<bool> changedTiles(const HRVideoFrame &image) const;
     TileMap lastMap() const;
-    HRVideoFrame assemble(const Picture &picture);
-    void takeBuffer(const Picture &picture);
-    static bool isFree(const Buffer &buffer, const Picture &picture);
+    HRVideoFrame assemble(const StoredPicture &stored);
+    void takeBuffer(const StoredPicture &stored);
+    static bool isFree(const Buffer &buffer, const StoredPicture &stored);
     static QRgb *storeRow(const QImage &image, const std::vector<bool> &changed, int row,
         QRgb *store, std::shared_ptr<const TileRow> *tiles);
     static void assembleRow(
@@ -75,7 +75,7 @@ private:
         const QImage &last, const QImage &image, int row, std::vector<bool> *changed);
     static int runOfTiles(const TileRow &tiles, int first);
 
-    std::vector<Picture> m_pictures;
+    std::vector<StoredPicture> m_pictures;
     qint64 m_lastAdded = 0; // the last of them, by QImage::cacheKey(); 0 where that was not kept
     Buffer m_buffers[2]; // the last picture that was put together comes second
 };

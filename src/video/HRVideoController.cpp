@@ -202,21 +202,21 @@ HRVideoFrame HRVideoController::currentFrame()
     return d->picture(d->playhead.position());
 }
 
-bool HRVideoController::replaceByCurrentFrame(HRVideoFrame *frame)
+bool HRVideoController::replaceByCurrentFrame(HRVideoFrame *picture)
 {
     const HRMutexLocker lock(d->controllerMutex);
     d->playhead.fetch();
-    return replaceByFrame(d->playhead.position(), frame);
+    return replaceByFrame(d->playhead.position(), picture);
 }
 
-bool HRVideoController::replaceByFrame(size_t index, HRVideoFrame *frame)
+bool HRVideoController::replaceByFrame(size_t index, HRVideoFrame *picture)
 {
     const HRMutexLocker lock(d->controllerMutex);
     if (index >= d->pictureCount())
         return false;
-    *frame = HRVideoFrame();
-    *frame = d->picture(index);
-    return !frame->isNull();
+    *picture = HRVideoFrame();
+    *picture = d->picture(index);
+    return !picture->isNull();
 }
 
 HRVideoFrame HRVideoController::getFrame(size_t index)
@@ -312,7 +312,7 @@ void HRVideoController::run()
         d->controllerMutex.unlock();
 
         if (step == HRPlayhead::present) {
-            presentFrame();
+            presentPicture();
             continue;
         }
         d->due.forget();
@@ -324,7 +324,7 @@ void HRVideoController::run()
     }
 }
 
-void HRVideoController::presentFrame()
+void HRVideoController::presentPicture()
 {
     HRPlayhead::Advance advance;
     HRDueTime::Time came;

@@ -85,12 +85,12 @@ public:
     size_t frameCount() const;
     /// The picture at the position, which from now on counts as shown.
     HRVideoFrame currentFrame();
-    /// Puts the current picture, which from now on counts as shown, in place of @p frame. That is
+    /// Puts the current picture, which from now on counts as shown, in place of @p picture. That is
     /// let go first, so that the cache can make the new picture out of it.
-    /// @return false where there is none, and @p frame stays; false, too, without memory for it
-    bool replaceByCurrentFrame(HRVideoFrame *frame);
+    /// @return false where there is none, and @p picture stays; false, too, without memory for it
+    bool replaceByCurrentFrame(HRVideoFrame *picture);
     /// The same for picture @p index, which does not count as shown.
-    bool replaceByFrame(size_t index, HRVideoFrame *frame);
+    bool replaceByFrame(size_t index, HRVideoFrame *picture);
     /// The picture at @p index, or a null one where there is none.
     HRVideoFrame getFrame(size_t index);
 
@@ -135,7 +135,7 @@ protected:
     void run() override;
 
 private:
-    void presentFrame();
+    void presentPicture();
 
     std::unique_ptr<HRVideoControllerPrivate> d;
 };

@@ -10,7 +10,7 @@ namespace Hintreels {
 struct HRVideoFrameCachePrivate
 {
     QString name;
-    std::vector<HRVideoFrame> frames;
+    std::vector<HRVideoFrame> pictures;
 };
 
 HRVideoFrameCache::HRVideoFrameCache(const QString &name)
@@ -20,19 +20,19 @@ HRVideoFrameCache::HRVideoFrameCache(const QString &name)
 
 HRVideoFrameCache::~HRVideoFrameCache() = default;
 
-void HRVideoFrameCache::addFrame(const HRVideoFrame &frame)
+void HRVideoFrameCache::addFrame(const HRVideoFrame &picture)
 {
-    d->frames.push_back(frame);
+    d->pictures.push_back(picture);
 }
 
 HRVideoFrame HRVideoFrameCache::frame(size_t index)
 {
-    return index < d->frames.size() ? d->frames[index] : HRVideoFrame();
+    return index < d->pictures.size() ? d->pictures[index] : HRVideoFrame();
 }
 
 size_t HRVideoFrameCache::length()
 {
-    return d->frames.size();
+    return d->pictures.size();
 }
 
 } // namespace Hintreels

@@ -29,7 +29,7 @@ public:
     // Derived caches rely on the order of these three.
 
     /// Appends a copy that shares the pixels of @p frame.
-    virtual void addFrame(const HRVideoFrame &frame);
+    virtual void addFrame(const HRVideoFrame &picture);
     /// The picture at @p index, counted from 0; a null one beyond the last.
     virtual HRVideoFrame frame(size_t index);
     /// The number of pictures.

@@ -134,7 +134,7 @@ bool HRVideoSource::shouldQuit()
     return d->shouldQuit;
 }
 
-void HRVideoSource::pushFrame(const HRVideoFrame &frame)
+void HRVideoSource::pushFrame(const HRVideoFrame &picture)
 {
     std::function<void()> tellOfFirst;
     {
@@ -143,7 +143,7 @@ void HRVideoSource::pushFrame(const HRVideoFrame &frame)
             return;
         if (d->cache->length() == 0)
             tellOfFirst = d->onFirstPicture;
-        d->cache->addFrame(frame);
+        d->cache->addFrame(picture);
     }
     if (tellOfFirst)
         tellOfFirst();

@@ -99,7 +99,7 @@ public:
     // Pictures, from any thread, under the frame lock.
 
     /// Appends a picture to the cache of the current clip.
-    void pushFrame(const HRVideoFrame &frame);
+    void pushFrame(const HRVideoFrame &picture);
     /// The picture at @p index, or a null one where there is none.
     HRVideoFrame getFrame(unsigned int index);
     /// Whether the picture at @p index is decoded.

@@ -27,6 +27,12 @@ constexpr double closedHeight = 150.0;
 constexpr qint64 megapixel = 1'000'000; // pixels
 constexpr double microseconds = 1000000.0; // in a second
 
+/// @param failure with %1 for the path
+void tell(const QString &failure, const QString &path)
+{
+    qDebug().noquote() << printable(failure.arg(path));
+}
+
 } // namespace
 
 HRVideoSourceFFMPEGPrivate::HRVideoSourceFFMPEGPrivate(HRVideoSourceFFMPEG *source)
@@ -179,7 +185,7 @@ void HRVideoSourceFFMPEG::run()
         case decodeAction:
             if (d->decodingPaused)
                 rest();
-            else if (!decodeNextFrame())
+            else if (!decodeNextPicture())
                 setAction(idleAction);
             break;
         case idleAction:
@@ -230,7 +236,7 @@ bool HRVideoSourceFFMPEG::openMedia()
     }
     // An opening that was broken off says nothing about the file.
     if (!shouldQuit())
-        qDebug().noquote() << printable(failure.arg(path));
+        tell(failure, path);
     return false;
 }
 
@@ -240,7 +246,7 @@ void HRVideoSourceFFMPEG::releaseMedia()
     d->release();
 }
 
-bool HRVideoSourceFFMPEG::decodeNextFrame()
+bool HRVideoSourceFFMPEG::decodeNextPicture()
 {
     HRVideoFrame picture;
     QString failure;
@@ -277,10 +283,9 @@ bool HRVideoSourceFFMPEG::decodeNextFrame()
 void HRVideoSourceFFMPEG::reportEnd(const QString &failure, const QString &path)
 {
     if (!failure.isNull())
-        qDebug().noquote() << printable(failure.arg(path));
+        tell(failure, path);
     else if (loadedFrameCount() == 0)
-        qDebug().noquote() << printable(
-            QStringLiteral("Could not decode any picture in media at: %1").arg(path));
+        tell(QStringLiteral("Could not decode any picture in media at: %1"), path);
 }
 
 // Whoever finds nothing to decode asks for it, and so does the loop; actionChanged() tells of each.

@@ -66,7 +66,7 @@ private:
     std::unique_ptr<HRVideoFrameCache> createCache(const QString &name) const override;
     bool openMedia();
     void releaseMedia();
-    bool decodeNextFrame();
+    bool decodeNextPicture();
     void idle();
     void seekToStart();
     void reportEnd(const QString &failure, const QString &path);

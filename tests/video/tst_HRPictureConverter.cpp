@@ -37,6 +37,15 @@ private Q_SLOTS:
 
 namespace {
 
+struct ReadyConverter : HRPictureConverter
+{
+    ReadyConverter(const QSize &size, AVPixelFormat format)
+    {
+        if (!allocate(size) || !prepare(size, format))
+            qFatal("no memory for a converter");
+    }
+};
+
 HRFFmpegHandle<AVFrame> noise(AVPixelFormat format, const QSize &size)
 {
     HRFFmpegHandle<AVFrame> picture(av_frame_alloc());
@@ -115,9 +124,7 @@ void tst_HRPictureConverter::convert_equalsTheRgb24Conversion()
     QFETCH(int, format);
     QFETCH(QSize, size);
     const HRFFmpegHandle<AVFrame> picture = noise(AVPixelFormat(format), size);
-    HRPictureConverter converter;
-    QVERIFY(converter.allocate(size));
-    QVERIFY(converter.prepare(size, AVPixelFormat(format)));
+    ReadyConverter converter(size, AVPixelFormat(format));
     const HRVideoFrame converted = converter.convert(picture.get());
     QCOMPARE(converted.format(), QImage::Format_RGB32);
     QCOMPARE(static_cast<const QImage &>(converted), reference(picture.get(), size));
@@ -139,9 +146,7 @@ void tst_HRPictureConverter::convert_followsEachChange()
 {
     QFETCH(QSize, size);
     QFETCH(bool, isHeld);
-    HRPictureConverter converter;
-    QVERIFY(converter.allocate(size));
-    QVERIFY(converter.prepare(size, AV_PIX_FMT_YUV420P));
+    ReadyConverter converter(size, AV_PIX_FMT_YUV420P);
     HRFFmpegHandle<AVFrame> picture = noise(AV_PIX_FMT_YUV420P, size);
     HRVideoFrame held;
     for (int plane = 0; plane < 3; ++plane) {
@@ -162,9 +167,7 @@ void tst_HRPictureConverter::convert_followsEachChange()
 void tst_HRPictureConverter::convert_keepsTheOpenedSize_whenPicturesChange()
 {
     const QSize opened(64, 48);
-    HRPictureConverter converter;
-    QVERIFY(converter.allocate(opened));
-    QVERIFY(converter.prepare(opened, AV_PIX_FMT_YUV420P));
+    ReadyConverter converter(opened, AV_PIX_FMT_YUV420P);
     struct Change
     {
         AVPixelFormat format;
@@ -182,9 +185,7 @@ void tst_HRPictureConverter::convert_keepsTheOpenedSize_whenPicturesChange()
 void tst_HRPictureConverter::convert_takesTheMemory_thatNobodyHolds()
 {
     const QSize size(64, 48);
-    HRPictureConverter converter;
-    QVERIFY(converter.allocate(size));
-    QVERIFY(converter.prepare(size, AV_PIX_FMT_YUV420P));
+    ReadyConverter converter(size, AV_PIX_FMT_YUV420P);
     const HRFFmpegHandle<AVFrame> picture = noise(AV_PIX_FMT_YUV420P, size);
     HRVideoFrame held = converter.convert(picture.get());
     const uchar *const heldMemory = held.constBits();
@@ -214,9 +215,7 @@ void tst_HRPictureConverter::convert_leavesOpaquePictures_whereTheyAre()
     QFETCH(int, alpha);
     QFETCH(bool, isShared);
     const QSize size(50, 38);
-    HRPictureConverter converter;
-    QVERIFY(converter.allocate(size));
-    QVERIFY(converter.prepare(size, AVPixelFormat(format)));
+    ReadyConverter converter(size, AVPixelFormat(format));
     HRFFmpegHandle<AVFrame> picture = opaqueNoise(AVPixelFormat(format), size);
     picture->data[0][37 * picture->linesize[0] + 49 * 4 + 3] = uint8_t(alpha);
     const QImage expected = reference(picture.get(), size);
@@ -233,9 +232,7 @@ void tst_HRPictureConverter::convert_leavesOpaquePictures_whereTheyAre()
 void tst_HRPictureConverter::convert_sharesNoMemory_toWriteTo()
 {
     const QSize size(50, 38);
-    HRPictureConverter converter;
-    QVERIFY(converter.allocate(size));
-    QVERIFY(converter.prepare(size, AV_PIX_FMT_BGRA));
+    ReadyConverter converter(size, AV_PIX_FMT_BGRA);
     const HRFFmpegHandle<AVFrame> picture = opaqueNoise(AV_PIX_FMT_BGRA, size);
     const QImage expected = reference(picture.get(), size);
     HRVideoFrame converted = converter.convert(picture.get());
