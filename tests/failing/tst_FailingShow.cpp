@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "failing/FailingCalls.h"
+#include "support/ClipThreads.h"
 #include "support/Descriptors.h"
 #include "support/Promises.h"
 #include "support/TestClip.h"
@@ -76,6 +77,7 @@ long show(Place &place, FailingCallKind call, long number)
     require(shownKey(*host) == (isShown ? "pen" : QString()), "a popup shows it or hides");
     require(showPen(*host) && shownKey(*host) == "pen", "the next show works");
     delete host->manager()->widget();
+    require(QTest::qWaitFor([] { return clipThreads().isEmpty(); }), "the clip's threads end");
     return seen;
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "manager/HRManager.h"
+#include "support/ClipThreads.h"
 #include "support/MessageGuard.h"
 #include "support/RecordingHost.h"
 #include "support/TestPackage.h"
@@ -72,6 +73,8 @@ struct StandardUiFixture
     {
         host.reset();
         delete popup;
+        // What a clip's threads say on their way out comes before the packages go.
+        QTest::qWaitFor([] { return clipThreads().isEmpty(); });
         const QStringList messages = guard.takeMessages().filter(".qml");
         if (!messages.isEmpty())
             QTest::qFail(qPrintable(messages.join(" | ")), __FILE__, __LINE__);
