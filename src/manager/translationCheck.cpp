@@ -131,7 +131,9 @@ bool isSafeTranslation(const QByteArray &file)
 
     constexpr quint32 headerSize = 5; // a tag of one byte and a length of four
     const Section whole(file.constData(), quint32(file.size()));
-    Section contexts, hashes, messages;
+    Section contexts;
+    Section hashes;
+    Section messages;
     quint64 position = quint64(magic.size());
     while (position + headerSize < whole.size()) {
         const uchar tag = whole.byte(position);

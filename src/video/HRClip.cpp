@@ -11,7 +11,7 @@ namespace Hintreels {
 namespace {
 
 // FFmpeg rounds a width up to 64 before it compares.
-constexpr qint64 roundedUp = 63 * 65536;
+constexpr qint64 roundedUp = qint64(63) * 65536;
 
 /// What FFmpeg is told, which takes no more than the largest int.
 qint64 mostPixels(qint64 largestPicture)

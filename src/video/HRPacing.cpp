@@ -19,7 +19,7 @@ double elapsedMilliseconds(const QDateTime &last, const QDateTime &now)
     if (!last.isValid())
         return 0.0;
     // A clock that was set back has measured nothing.
-    const double elapsed = last.daysTo(now) * dayLength + last.time().msecsTo(now.time());
+    const double elapsed = double(last.daysTo(now)) * dayLength + last.time().msecsTo(now.time());
     return std::max(elapsed, 0.0);
 }
 

@@ -26,7 +26,7 @@ constexpr int directWidthStep = 16; // pixels; of other widths the scaler leaves
 void unpackRow(const uint8_t *rgb, QRgb *target, int width)
 {
     for (int x = 0; x < width; ++x)
-        target[x] = opaque | qFromBigEndian<quint32>(rgb + 3 * x) >> 8;
+        target[x] = opaque | qFromBigEndian<quint32>(rgb + qptrdiff(3) * x) >> 8;
 }
 
 /// Of a picture of 32 bits.
@@ -62,7 +62,7 @@ HRVideoFrame shared(const AVFrame *picture)
         memory, owner->width, owner->height, owner->linesize[0], QImage::Format_RGB32,
         [](void *held) { HRFFmpegFree()(static_cast<AVFrame *>(held)); }, owner.get());
     if (!image.isNull())
-        owner.release(); // to the image
+        (void)owner.release(); // to the image
     return HRVideoFrame(image, 0);
 }
 

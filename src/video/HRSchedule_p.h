@@ -14,11 +14,9 @@
 #include <sanitizer/tsan_interface.h>
 #endif
 
-namespace Hintreels {
-
 /// What a build with -fsanitize=thread needs to know and does beside the threads' own work; nothing
 /// in any other.
-namespace HRSchedule {
+namespace Hintreels::HRSchedule {
 
 #ifdef __SANITIZE_THREAD__
 
@@ -68,6 +66,4 @@ inline void hasEnded(QThread *) { }
 
 #endif
 
-} // namespace HRSchedule
-
-} // namespace Hintreels
+} // namespace Hintreels::HRSchedule
