@@ -34,7 +34,8 @@ public:
     {
         QXmlInputSource source;
         source.setData(document);
-        for (QObject *object : parser.read(source))
+        const QList<QObject *> objects = parser.read(source);
+        for (QObject *object : objects)
             m_objects.append(object);
     }
     ~Objects()

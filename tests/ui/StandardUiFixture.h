@@ -106,7 +106,8 @@ struct StandardUiFixture
     QQuickItem *root() const { return view()->rootObject(); }
     QQuickItem *find(const QString &name) const
     {
-        for (QQuickItem *candidate : itemsBelow(root())) {
+        const auto candidates = itemsBelow(root());
+        for (QQuickItem *candidate : candidates) {
             if (candidate->objectName() == name)
                 return candidate;
         }

@@ -68,7 +68,8 @@ struct PopupFixture
 
     QTimer *timer() const
     {
-        for (QTimer *timer : popup->findChildren<QTimer *>())
+        const QList<QTimer *> timers = popup->findChildren<QTimer *>();
+        for (QTimer *timer : timers)
             if (timer->isSingleShot())
                 return timer;
         return nullptr;
