@@ -143,7 +143,7 @@ void tst_HRContent::move_handsOver()
     HRContent first(f.entry, f.root);
     {
         const HRContent second(std::move(first));
-        QVERIFY(!first.entry()); // NOLINT(bugprone-use-after-move): it is empty then
+        QVERIFY(!first.entry()); // what was moved from is empty
         QCOMPARE(second.entry(), f.entry.data());
     }
     QVERIFY(!f.root);

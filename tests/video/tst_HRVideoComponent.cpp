@@ -4,6 +4,7 @@
 #include "video/HRVideoComponent.h"
 
 #include "support/MessageGuard.h"
+#include "support/MetaMembers.h"
 #include "support/RecordingHost.h"
 #include "ui/items/qmlTypes_p.h"
 #include "video/ItemStage.h"
@@ -318,12 +319,9 @@ void tst_HRVideoComponent::destruction_isQuick_atAnyMoment()
 void tst_HRVideoComponent::metaObject_keepsItsOrder()
 {
     const QMetaObject &meta = HRVideoComponent::staticMetaObject;
-    QStringList methods;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
-        methods += meta.method(i).methodSignature();
-    QCOMPARE(methods,
-        (QStringList{ "sourceChanged()", "stateChanged()", "positionChanged()", "progressChanged()",
-            "heightChanged()", "searchPathChanged()", "scrubbingChanged()",
+    QCOMPARE(methodsOf(meta),
+        (QByteArrayList{ "sourceChanged()", "stateChanged()", "positionChanged()",
+            "progressChanged()", "heightChanged()", "searchPathChanged()", "scrubbingChanged()",
             "contentHeightChanged()", "contentWidthChanged()", "loadProgressChanged()",
             "timeChanged()", "decodedChanged()", "endedChanged()", "keepPlayingChanged()",
             "loopChanged()", "finished()", "frameReady()", "play()", "pause()",

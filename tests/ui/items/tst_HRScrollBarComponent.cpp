@@ -3,6 +3,8 @@
 
 #include "ui/items/HRScrollBarComponent.h"
 
+#include "support/MetaMembers.h"
+
 #include <QApplication>
 #include <QScrollBar>
 #include <QtTest>
@@ -61,12 +63,7 @@ void tst_HRScrollBarComponent::metaObject_hasMembersInOrder()
 {
     const QMetaObject &meta = HRScrollBarComponent::staticMetaObject;
     QCOMPARE(meta.className(), "HRScrollBarComponent");
-    QByteArrayList members;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
-        members.append(meta.method(i).methodSignature());
-    for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i)
-        members.append(meta.property(i).name());
-    QCOMPARE(members,
+    QCOMPARE(membersOf(meta),
         (QByteArrayList{ "startChanged()", "endChanged()", "positionChanged()",
             "orientHorizontalChanged()", "scrollBarWidthChanged()", "scrollBarPositionChanged(int)",
             "updateDimensions()", "setPositionExternal(float)", "start", "end", "position",

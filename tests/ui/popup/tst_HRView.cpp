@@ -3,6 +3,7 @@
 
 #include "content/HRXmlElement.h"
 #include "manager/HRManager.h"
+#include "support/MetaMembers.h"
 #include "support/RecordingHost.h"
 #include "ui/items/HRStyledRectangleComponent.h"
 #include "ui/popup/HRView.h"
@@ -85,12 +86,7 @@ private Q_SLOTS:
 void tst_HRView::metaObject_hasMembersInOrder()
 {
     const QMetaObject &meta = HRView::staticMetaObject;
-    QByteArrayList members;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
-        members.append(meta.method(i).methodSignature());
-    for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i)
-        members.append(meta.property(i).name());
-    QCOMPARE(members,
+    QCOMPARE(membersOf(meta),
         (QByteArrayList{ "stayOpenChanged()", "reservedChanged()", "contentChanged()",
             "contentSizeChanged()", "documentationAvailableChanged()", "resourceDirectoryChanged()",
             "handleWarnings(QList<QQmlError>)", "statusHasChanged(QQuickView::Status)",
