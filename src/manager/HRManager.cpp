@@ -12,11 +12,9 @@
 #include "manager/HRManagerPrivate_p.h"
 #include "manager/externalResource_p.h"
 #include "manager/interpolation_p.h"
-#include "manager/popupFactory_p.h"
 #include "manager/scaledSize_p.h"
 #include "ui/items/qmlTypes_p.h"
 #include "ui/popup/HRView.h"
-#include "ui/popup/quickRenderer_p.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -158,30 +156,7 @@ HRXmlElement *HRManager::retrieve(
 bool HRManager::show(const QString &key, const QPoint &globalPos, QObject *object)
 {
     const std::shared_ptr<HRManagerPrivate> work = d;
-    const QPointer<HRManager> guarded = this;
-    const HRHover hover{ key, globalPos, object };
-    handleMessage(messageInformation, QStringLiteral("looking for Hintreel for key:") + key);
-    if (!guarded || setting(d->context, disabledKey, false))
-        return false;
-    const int modifiers = setting(d->context, modifierKey, 0);
-    if (modifiers != 0 && int(QGuiApplication::keyboardModifiers()) != modifiers)
-        return false;
-    if (!canRender())
-        return false;
-    initializeTooltipWindow();
-    return work->presenter.show(hover);
-}
-
-/// Whether a popup can be painted; says once why not.
-bool HRManager::canRender()
-{
-    if (chooseQuickRenderer(&d->context))
-        return true;
-    if (!std::exchange(d->toldWhyNothingShows, true))
-        handleMessage(messageWarning,
-            QStringLiteral(
-                "No hints are shown: there is no OpenGL, and software rendering is forbidden"));
-    return false;
+    return work->show({ { key }, globalPos, object });
 }
 
 QString HRManager::keyForObject(QObject *object)
@@ -201,8 +176,7 @@ QPoint HRManager::tooltipPosition(const QPoint &globalPos, QWidget *) const
 
 void HRManager::initializeTooltipWindow()
 {
-    if (!d->presenter.popup())
-        d->presenter.setPopup(createPopup(this));
+    d->ensurePopup();
 }
 
 bool HRManager::reserve(HRWidget *widget, QWidget *&window)

@@ -153,7 +153,7 @@ protected:
     void initializeTooltipWindow();
 
 private:
-    bool canRender();
+    friend struct HRManagerPrivate;
 
     // Shared with what is at work: the host may delete the manager from any callback.
     std::shared_ptr<HRManagerPrivate> d;

@@ -3,10 +3,15 @@
 
 #include "manager/HRManagerPrivate_p.h"
 
+#include "context/setting_p.h"
 #include "index/HRIndex.h"
-#include "manager/HRManager.h"
+#include "manager/popupFactory_p.h"
+#include "ui/popup/quickRenderer_p.h"
 
+#include <QGuiApplication>
 #include <QPointer>
+
+#include <utility>
 
 namespace Hintreels {
 
@@ -34,7 +39,8 @@ HRHoverFilter::Show showerOf(HRManager *manager)
 
 HRManagerPrivate::HRManagerPrivate(HRManager *manager, HRInterface *host,
     const HRContext &hostContext, const QStringList &paths, HRIndex *hostIndex)
-    : interface(host)
+    : q(manager)
+    , interface(host)
     , dataPaths(paths)
     , context(hostContext)
     , index(hostIndex ? hostIndex : new HRIndex(&context, paths))
@@ -44,6 +50,51 @@ HRManagerPrivate::HRManagerPrivate(HRManager *manager, HRInterface *host,
     , hoverFilter([this] { return presenter.popup(); }, showerOf(manager))
     , translation(manager)
 {
+}
+
+bool HRManagerPrivate::show(const HRHover &hover)
+{
+    if (!tellKeys(hover.keys) || !mayShow() || !canRender())
+        return false;
+    ensurePopup();
+    return presenter.show(hover);
+}
+
+/// False where the host has deleted the manager meanwhile.
+bool HRManagerPrivate::tellKeys(const QStringList &keys)
+{
+    const QPointer<HRManager> guarded = q;
+    for (const QString &key : keys) {
+        if (guarded)
+            q->handleMessage(
+                messageInformation, QStringLiteral("looking for Hintreel for key:") + key);
+    }
+    return guarded;
+}
+
+bool HRManagerPrivate::mayShow() const
+{
+    const int modifiers = setting(context, modifierKey, 0);
+    const bool areHeld = modifiers == 0 || int(QGuiApplication::keyboardModifiers()) == modifiers;
+    return areHeld && !setting(context, disabledKey, false);
+}
+
+/// Whether a popup can be painted; says once why not.
+bool HRManagerPrivate::canRender()
+{
+    if (chooseQuickRenderer(&context))
+        return true;
+    if (!std::exchange(toldWhyNothingShows, true))
+        q->handleMessage(messageWarning,
+            QStringLiteral(
+                "No hints are shown: there is no OpenGL, and software rendering is forbidden"));
+    return false;
+}
+
+void HRManagerPrivate::ensurePopup()
+{
+    if (!presenter.popup())
+        presenter.setPopup(createPopup(q));
 }
 
 } // namespace Hintreels

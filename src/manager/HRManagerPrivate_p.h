@@ -6,6 +6,7 @@
 #include "context/HRContext.h"
 #include "manager/HRContentLookup_p.h"
 #include "manager/HRHoverFilter_p.h"
+#include "manager/HRManager.h"
 #include "manager/HRPackageScanner_p.h"
 #include "manager/HRPopupPresenter_p.h"
 #include "manager/HRReservedPopups_p.h"
@@ -20,7 +21,6 @@ namespace Hintreels {
 
 class HRIndex;
 class HRInterface;
-class HRManager;
 
 /// What a manager is made of.
 ///
@@ -31,6 +31,17 @@ struct HRManagerPrivate
     HRManagerPrivate(HRManager *manager, HRInterface *host, const HRContext &hostContext,
         const QStringList &paths, HRIndex *hostIndex);
 
+    /// Whoever calls what may call the host back holds what this returns meanwhile.
+    static std::shared_ptr<HRManagerPrivate> of(const HRManager &manager) { return manager.d; }
+
+    /// Shows the hint of a hover; each of its keys is told.
+    /// @return true while a popup for the hover is on screen
+    bool show(const HRHover &hover);
+
+    /// Makes a popup for hovers where there is none.
+    void ensurePopup();
+
+    HRManager *q;
     HRInterface *interface;
     QStringList dataPaths;
     HRContext context;
@@ -45,6 +56,11 @@ struct HRManagerPrivate
     bool applicationFilterInstalled = false;
     bool toldWhyNothingShows = false;
     float scale = 1.0F;
+
+private:
+    bool tellKeys(const QStringList &keys);
+    bool mayShow() const;
+    bool canRender();
 };
 
 } // namespace Hintreels

@@ -6,6 +6,7 @@
 #include "context/setting_p.h"
 #include "interface/HRInterface.h"
 #include "ui/popup/HRViewPrivate_p.h"
+#include "ui/popup/HRWidgetPrivate_p.h"
 
 #include <limits>
 #include <utility>
@@ -50,22 +51,13 @@ HRPopupPresenter::HRPopupPresenter(
 
 bool HRPopupPresenter::show(const HRHover &hover)
 {
-    if (keepsShowing(hover.key))
-        return true;
-    std::optional<HRFoundContent> found = m_lookup.find(hover.key);
-    if (!found && keepsShowing(m_lookup.fallbackKey()))
-        return true;
-    if (!found)
-        found = m_lookup.findFallback();
-    if (!found || !found->hasRoot)
-        return keepOrHide(hover);
-    if (!canPresent())
-        return false;
-    if (isPopupVisible() && m_popup->view()->content() == found->content.entry()) {
-        putInto(*m_popup->view(), std::move(found->content));
-        return true;
+    for (const QString &key : hover.keys) {
+        if (keepsShowing(key, hover.accepts))
+            return true;
+        if (std::optional<HRFoundContent> found = find(hover, key))
+            return take(hover, key, std::move(*found));
     }
-    return present(hover, std::move(*found)) || (canPresent() && isPopupVisible());
+    return showFallback(hover);
 }
 
 QPoint HRPopupPresenter::position(const QPoint &globalPos) const
@@ -75,10 +67,32 @@ QPoint HRPopupPresenter::position(const QPoint &globalPos) const
         coordinateSum(globalPos.y(), offset.height()) };
 }
 
-// A popup that is fading out stays after all when its widget is hovered again.
-bool HRPopupPresenter::keepsShowing(const QString &key)
+bool HRPopupPresenter::showFallback(const HRHover &hover)
 {
-    if (!isPopupVisible() || !shownContent(m_popup, key))
+    if (keepsShowing(m_lookup.fallbackKey()))
+        return true;
+    std::optional<HRFoundContent> found = m_lookup.findFallback();
+    return found ? take(hover, hover.keys.value(0), std::move(*found)) : keepOrHide(hover);
+}
+
+bool HRPopupPresenter::take(const HRHover &hover, const QString &key, HRFoundContent found)
+{
+    if (!found.hasRoot)
+        return keepOrHide(hover);
+    if (!canPresent())
+        return false;
+    if (isPopupVisible() && m_popup->view()->content() == found.content.entry()) {
+        putInto(*m_popup->view(), std::move(found.content));
+        return true;
+    }
+    return present(hover, key, std::move(found)) || (canPresent() && isPopupVisible());
+}
+
+// A popup that is fading out stays after all when its widget is hovered again.
+bool HRPopupPresenter::keepsShowing(const QString &key, const HRHover::Accepts &accepts)
+{
+    const HRXmlElement *shown = isPopupVisible() ? shownContent(m_popup, key) : nullptr;
+    if (!shown || (accepts && !accepts(key, *shown)))
         return false;
     m_popup->cancelHiding();
     return true;
@@ -98,24 +112,38 @@ bool HRPopupPresenter::keepOrHide(const HRHover &hover)
     return false;
 }
 
+std::optional<HRFoundContent> HRPopupPresenter::find(const HRHover &hover, const QString &key) const
+{
+    std::optional<HRFoundContent> found = m_lookup.find(key);
+    if (!found || !hover.accepts || hover.accepts(key, *found->content.entry()))
+        return found;
+    // An index may have given what the popup shows once more: that stays.
+    if (m_popup && m_popup->view() && m_popup->view()->content() == found->content.entry())
+        found->content.release();
+    return std::nullopt;
+}
+
 bool HRPopupPresenter::canPresent() const
 {
     return m_interface && m_popup && m_popup->view();
 }
 
-bool HRPopupPresenter::present(const HRHover &hover, HRFoundContent found)
+bool HRPopupPresenter::present(const HRHover &hover, const QString &key, HRFoundContent found)
 {
     const QPointer<HRWidget> popup = m_popup;
     const QPointer<HRXmlElement> element = found.content.entry();
+    if (hover.completes)
+        hover.completes(key, *element);
     // Before the host is asked for the shortcut: an offset that it sets then is for the next hint.
     const QPoint corner = position(hover.globalPos);
     // Freed only at the end, or the scene's bindings would see null on the way.
     HRContent previous = putInto(*popup->view(), std::move(found.content));
-    nameShortcut(hover, element);
+    nameShortcut(hover, key, element);
     const bool isWanted
         = canPresent() && popup == m_popup && element && popup->view()->content() == element;
     if (isWanted) {
-        popup->showWithContent(hover.object, corner, element, found.packageDirectory());
+        HRWidgetPrivate::of(*popup).showWithContent(
+            hover.object, hover.area, corner, element, found.packageDirectory());
         // Without its view, Qt's container of it crashes when raised.
         if (popup && popup->view())
             popup->raise();
@@ -127,11 +155,11 @@ bool HRPopupPresenter::present(const HRHover &hover, HRFoundContent found)
 
 // The host names the shortcut of what the pointer rests on, also where the content shown is that of
 // the fallback key.
-void HRPopupPresenter::nameShortcut(const HRHover &hover, HRXmlElement *element)
+void HRPopupPresenter::nameShortcut(const HRHover &hover, const QString &key, HRXmlElement *element)
 {
     const QPointer<HRXmlElement> guarded = element;
     const QString shortcut = m_interface->shortCutForObject(
-        hover.key, hover.object, element->attribute(QStringLiteral("shortcut")));
+        key, hover.object, element->attribute(QStringLiteral("shortcut")));
     if (guarded && !shortcut.isEmpty())
         guarded->setAttribute(QStringLiteral("shortcut"), shortcut);
 }

@@ -8,7 +8,11 @@
 
 #include <QPoint>
 #include <QPointer>
+#include <QRect>
 #include <QString>
+#include <QStringList>
+
+#include <functional>
 
 class HRContext;
 
@@ -19,9 +23,21 @@ class HRInterface;
 /// What the pointer rests on.
 struct HRHover
 {
-    QString key;
+    /// Whether content found for one of the keys is a hint for this hover.
+    ///
+    /// It is asked of content that a popup shows already, too, and may touch nothing else.
+    using Accepts = std::function<bool(const QString &key, const HRXmlElement &content)>;
+
+    /// Adds to content that is about to be shown for one of the keys, and touches nothing else.
+    using Completes = std::function<void(const QString &key, HRXmlElement &content)>;
+
+    QStringList keys; ///< from special to general: the first that has content counts
     QPoint globalPos; ///< global coordinates
     QPointer<QObject> object; ///< may be null
+    QRect area = {}; ///< of the part that the hint belongs to, in global coordinates; null for the
+                     ///< whole of its object
+    Accepts accepts = {}; ///< null for any content
+    Completes completes = {}; ///< null for nothing to add
 };
 
 /// The content that a popup shows, if it is that of a key; else null.
@@ -50,11 +66,14 @@ public:
     QPoint position(const QPoint &globalPos) const;
 
 private:
-    bool keepsShowing(const QString &key);
+    bool showFallback(const HRHover &hover);
+    bool take(const HRHover &hover, const QString &key, HRFoundContent found);
+    bool keepsShowing(const QString &key, const HRHover::Accepts &accepts = {});
     bool keepOrHide(const HRHover &hover);
+    std::optional<HRFoundContent> find(const HRHover &hover, const QString &key) const;
     bool canPresent() const;
-    bool present(const HRHover &hover, HRFoundContent found);
-    void nameShortcut(const HRHover &hover, HRXmlElement *element);
+    bool present(const HRHover &hover, const QString &key, HRFoundContent found);
+    void nameShortcut(const HRHover &hover, const QString &key, HRXmlElement *element);
 
     const HRContext &m_context;
     QPointer<HRInterface> m_interface;

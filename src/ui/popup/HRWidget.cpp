@@ -9,15 +9,11 @@
 #include "ui/popup/popupFit_p.h"
 #include "ui/popup/popupGeometry_p.h"
 #include "ui/popup/popupReserving_p.h"
-#include "ui/popup/sceneContext_p.h"
 
 #include <QApplication>
 #include <QCursor>
-#include <QFileInfo>
 #include <QLayout>
 #include <QTimer>
-
-#include <utility>
 
 namespace Hintreels {
 
@@ -140,27 +136,7 @@ void HRWidget::setVisible(bool visible)
 void HRWidget::showWithContent(
     QObject *reference, QPoint pos, HRXmlElement *content, const QString &rootPath)
 {
-    if (!content || !d->view)
-        return;
-    cancelHiding();
-    d->reference = qobject_cast<QWidget *>(reference);
-    d->view->setPackageRoot(rootPath);
-    HRContent previous;
-    if (content != d->view->content())
-        previous = HRViewPrivate::of(*d->view).exchangeContent(HRContent::of(content));
-    move(withinReach(pos));
-    if (isVisible())
-        reposition();
-    setSceneContext(*d->view, content, rootPath, d->manager);
-    // Not before the scene has let go of it, or its bindings would see null on the way.
-    HRViewPrivate::of(*d->view).freeContent(std::move(previous));
-    // The host may delete the popup or its view when it is told of a missing file.
-    const QPointer<HRWidget> guarded = this;
-    d->view->loadQML(QFileInfo(d->view->uiRootFilePath()).absoluteFilePath());
-    if (!guarded || !d->view)
-        return;
-    d->takeInContent();
-    showAnimated();
+    d->showWithContent(reference, QRect(), pos, content, rootPath);
 }
 
 void HRWidget::reposition()

@@ -107,6 +107,8 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
+    friend struct HRWidgetPrivate;
+
     std::unique_ptr<HRWidgetPrivate> d;
 };
 

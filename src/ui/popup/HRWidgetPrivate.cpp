@@ -4,14 +4,19 @@
 #include "ui/popup/HRWidgetPrivate_p.h"
 
 #include "context/setting_p.h"
-#include "ui/popup/HRWidget.h"
+#include "ui/popup/HRViewPrivate_p.h"
 #include "ui/popup/popupFit_p.h"
+#include "ui/popup/popupGeometry_p.h"
 #include "ui/popup/popupScreen_p.h"
+#include "ui/popup/sceneContext_p.h"
 
 #include <QCursor>
+#include <QFileInfo>
 #include <QQuickItem>
 #include <QTimer>
 #include <QWindow>
+
+#include <utility>
 
 namespace Hintreels {
 
@@ -25,6 +30,34 @@ HRWidgetPrivate::HRWidgetPrivate(HRWidget *widget, HRManager *hrManager, QWidget
     , hideTimer(clock, [this] { return hideDelay(); })
     , watch([widget](const QPoint &position) { widget->checkMousePosition(position); })
 {
+}
+
+void HRWidgetPrivate::showWithContent(QObject *object, const QRect &part, const QPoint &pos,
+    HRXmlElement *content, const QString &rootPath)
+{
+    if (!content || !view)
+        return;
+    q->cancelHiding();
+    reference = qobject_cast<QWidget *>(object);
+    area = part;
+
+    view->setPackageRoot(rootPath);
+    HRContent previous;
+    if (content != view->content())
+        previous = HRViewPrivate::of(*view).exchangeContent(HRContent::of(content));
+    q->move(withinReach(pos));
+    if (q->isVisible())
+        q->reposition();
+    setSceneContext(*view, content, rootPath, manager);
+    // Not before the scene has let go of it, or its bindings would see null on the way.
+    HRViewPrivate::of(*view).freeContent(std::move(previous));
+    // The host may delete the popup or its view when it is told of a missing file.
+    const QPointer<HRWidget> guarded = q;
+    view->loadQML(QFileInfo(view->uiRootFilePath()).absoluteFilePath());
+    if (!guarded || !view)
+        return;
+    takeInContent();
+    q->showAnimated();
 }
 
 QRect HRWidgetPrivate::screen() const

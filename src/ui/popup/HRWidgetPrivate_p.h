@@ -9,21 +9,27 @@
 #include "ui/popup/HRPopupFade_p.h"
 #include "ui/popup/HRView.h"
 #include "ui/popup/HRViewEmbedding_p.h"
+#include "ui/popup/HRWidget.h"
 
 #include <QPointer>
 #include <QRect>
 
 namespace Hintreels {
 
-class HRWidget;
-
 /// What a popup is made of, and how its pieces play together.
 struct HRWidgetPrivate
 {
     HRWidgetPrivate(HRWidget *widget, HRManager *hrManager, QWidget *referenceWidget);
 
+    static HRWidgetPrivate &of(HRWidget &widget) { return *widget.d; }
+
     /// Null without manager, for the defaults.
     const HRContext *settings() const { return manager ? &manager->context() : nullptr; }
+
+    /// See HRWidget::showWithContent().
+    /// @param part of the reference that the hint belongs to, in global coordinates; null for all
+    void showWithContent(QObject *object, const QRect &part, const QPoint &pos,
+        HRXmlElement *content, const QString &rootPath);
 
     QRect screen() const;
     double hideDelay() const;
@@ -47,6 +53,7 @@ struct HRWidgetPrivate
     QPointer<HRView> view;
     QPointer<QWidget> container;
     QPointer<QWidget> reference;
+    QRect area; // of the part that the hint belongs to, global; null for the whole reference
     HRPopupFade fade;
     QTimer *timer;
     HRQTimerClock clock;
