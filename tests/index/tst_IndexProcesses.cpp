@@ -9,13 +9,13 @@
 #include "index/HRSQLiteIndex.h"
 #include "manager/HRPackageScanner_p.h"
 #include "support/MessageGuard.h"
+#include "support/Pauses.h"
 #include "support/TestPackage.h"
 
 #include <QDir>
 #include <QLocale>
 #include <QProcess>
 #include <QRandomGenerator>
-#include <QThread>
 #include <QtTest>
 
 #include <cstdio>
@@ -216,7 +216,7 @@ void tst_IndexProcesses::start_answersRightly_afterAKill()
     for (int kill = 0; kill < kills() / 2; ++kill) {
         const auto process = startProcess({ "fill", kind, m_packages.path(), "100000", "-1" });
         QVERIFY(process->waitForReadyRead());
-        QThread::usleep(random.bounded(30000)); // whatever it is doing then
+        meetOtherProcess(random);
         process->kill();
         QVERIFY(process->waitForFinished());
         startTwice(kind);
@@ -240,7 +240,7 @@ void tst_IndexProcesses::start_answersRightly_whileAnotherIsKilled()
         QVERIFY(victim->waitForReadyRead());
         const auto witness = startProcess({ "check", kind, m_packages.path(), "1" });
         QVERIFY(witness->waitForReadyRead());
-        QThread::usleep(random.bounded(30000)); // whatever it is doing then
+        meetOtherProcess(random);
         victim->kill();
         QVERIFY(victim->waitForFinished());
         QVERIFY(witness->waitForFinished());

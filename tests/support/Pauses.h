@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QDeadlineTimer>
+#include <QRandomGenerator>
 #include <QThread>
 #include <QtTest>
 
@@ -28,6 +29,13 @@ bool lookUntil(const Condition &condition, QDeadlineTimer deadline = QDeadlineTi
         QThread::msleep(1);
     }
     return true;
+}
+
+/// Lets another process go on for up to 30 ms, to meet it at whatever it is doing then.
+inline void meetOtherProcess(QRandomGenerator &random)
+{
+    constexpr int longestPause = 30000; // microseconds
+    QThread::usleep(static_cast<unsigned long>(random.bounded(longestPause)));
 }
 
 /// Handles events while another process, such as the X server or the window manager, does what it

@@ -5,6 +5,7 @@
 
 #include "support/MessageGuard.h"
 #include "support/MisleadingNames.h"
+#include "support/Pauses.h"
 #include "support/SignalCounter.h"
 #include "support/TestClip.h"
 #include "support/TestFile.h"
@@ -430,7 +431,8 @@ void tst_HRVideoSourceFFMPEG::quit_isQuick_atAnyMoment()
     for (int i = 0; i < 40; ++i) {
         Decoding decoding;
         decoding.source.setSource(url);
-        QThread::usleep(random() % 20000);
+        const size_t pictures = random() % 20;
+        QVERIFY(lookUntil([&] { return decoding.source.loadedFrameCount() >= pictures; }));
         QElapsedTimer timer;
         timer.start();
         decoding.source.quit();
@@ -445,12 +447,13 @@ void tst_HRVideoSourceFFMPEG::setSource_survivesHammering()
     Decoding decoding;
     const QUrl other = clip("hammer.mp4", 30);
     for (int i = 0; i < 400; ++i) {
-        decoding.source.setSource(i % 2 ? m_clip : other);
+        const QUrl asked = i % 2 ? m_clip : other;
+        const bool comes = decoding.source.setSource(asked);
         if (i % 7 == 0)
             decoding.source.setAction(HRVideoSource::decodeAction);
         decoding.source.getFrame(unsigned(i) % 8);
-        if (i % 40 == 0)
-            QThread::msleep(2);
+        if (comes && i % 40 == 0)
+            QVERIFY(lookUntil([&] { return decoding.source.source() == asked; }));
     }
     const QUrl last = clip("last.mp4", 12);
     QVERIFY(decoding.source.setSource(last));

@@ -53,7 +53,6 @@ void tst_HRWakeup::wait_endsAtTheRingOfAnotherThread()
     HRWakeup wakeup;
     std::atomic<bool> rung(false);
     std::thread other([&] {
-        std::this_thread::sleep_for(20ms);
         rung = true;
         wakeup.ring();
     });

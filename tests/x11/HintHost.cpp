@@ -117,10 +117,10 @@ HintHost::~HintHost()
     // The news that the program is no longer active would take the next host's popup away.
     m_interface.reset();
     window.hide();
-    QElapsedTimer time;
-    time.start();
-    while (QGuiApplication::applicationState() == Qt::ApplicationActive && !time.hasExpired(1000))
-        QTest::qWait(10); // where a press has gone to the popup, the news never come
+    // Where a press has gone to the popup, the news never come.
+    constexpr int patience = 1000; // ms
+    [[maybe_unused]] const bool told = QTest::qWaitFor(
+        [] { return QGuiApplication::applicationState() != Qt::ApplicationActive; }, patience);
 }
 
 HRManager *HintHost::manager() const
@@ -141,6 +141,19 @@ bool HintHost::hover(const QWidget &widget) const
         return popup && popup->isVisible() && popup->referenceWidget() == &widget;
     });
     return shown && QTest::qWaitForWindowExposed(manager()->widget());
+}
+
+bool HintHost::otherPopupsGo() const
+{
+    HRWidget other(manager(), nullptr, nullptr);
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    const bool isPointerLeft = QCursor::pos().x() < screen.center().x();
+    other.move(isPointerLeft ? screen.topRight() - QPoint(100, 0) : screen.topLeft());
+    const auto goes = [&other] {
+        other.show();
+        return QTest::qWaitFor([&other] { return !other.isVisible(); });
+    };
+    return goes() && goes();
 }
 
 void HintHost::show(QWidget &widget, const QPoint &position) const

@@ -44,6 +44,10 @@ public:
     /// Rests the pointer on a widget's centre until the popup shows its hint there.
     bool hover(const QWidget &widget) const;
 
+    /// Waits until another popup, which nobody points at, has gone by itself, twice: a popup that
+    /// is still there by then stays.
+    bool otherPopupsGo() const;
+
     /// Shows a button's hint without a tooltip.
     void show(QWidget &widget, const QPoint &position) const;
 

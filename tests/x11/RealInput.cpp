@@ -3,6 +3,8 @@
 
 #include "x11/RealInput.h"
 
+#include "support/Pauses.h"
+
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QPixmap>
@@ -39,7 +41,7 @@ void movePointer(const QPoint &position)
 {
     // Qt reports no move to where it saw the pointer last, before that left the application.
     xdotool(move(position - QPoint(1, 1)));
-    QTest::qWait(20);
+    letOtherProcessWork();
     xdotool(move(position));
 }
 
