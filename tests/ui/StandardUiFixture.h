@@ -123,6 +123,14 @@ struct StandardUiFixture
     }
     QString text(const QString &name) const { return item(name)->property("text").toString(); }
 
+    /// Waits for the blocks below those that the popup shows at first.
+    void makeAll() const
+    {
+        const QQuickItem *blocks = item("blocks");
+        const auto *hint = blocks->property("hint").value<QObject *>();
+        QTRY_COMPARE(blocks->property("made").toInt(), hint->property("blocks").toList().size());
+    }
+
     /// Waits until the popup is painted anew, and with that all is in its place.
     void paint() const
     {

@@ -146,11 +146,13 @@ void tst_StandardUi::ui_translatesThenInterpolates()
     fixture.translations = { { "Draws a %(quality)s line.", "Zeichnet eine %(quality)s Linie." },
         { "Tip", "Tipp" } };
     fixture.show();
+    fixture.makeAll();
     QVERIFY(itemWithText(fixture, "Does it."));
     fixture.host->setGlobalProperty("quality", "feine");
     fixture.translations["Does it."] = "Macht es.";
     fixture.popup->hide();
     fixture.show();
+    fixture.makeAll();
 
     QCOMPARE(fixture.text("summary"), QString("Zeichnet eine feine Linie."));
     QVERIFY(itemWithText(fixture, "Tipp"));
@@ -165,6 +167,7 @@ void tst_StandardUi::ui_keepsItsWords_whenDetached()
     StandardUiFixture fixture(hint(everything));
     fixture.translations = { { "Tip", "Tipp" } };
     fixture.show();
+    fixture.makeAll();
 
     fixture.host->translations.clear();
     fixture.view()->setReserved(true);
@@ -274,6 +277,7 @@ void tst_StandardUi::ui_followsTheHostsPalette()
     StandardUiFixture fixture(
         hint(everything, "title=\"Pen\" shortcut=\"P\" documentation=\"pen\""));
     fixture.show();
+    fixture.makeAll();
 
     QGuiApplication::setPalette(palette);
 
@@ -296,6 +300,7 @@ void tst_StandardUi::ui_isMirrored_whenTheLocaleIsWrittenFromRightToLeft()
 {
     StandardUiFixture fixture(hint(everything, "title=\"Pen\" shortcut=\"Ctrl+P\""), "he_IL");
     fixture.show();
+    fixture.makeAll();
     const auto centerOf = [&](const QQuickItem *item) {
         return item->mapToScene({ item->width() / 2, 0 }).x();
     };
@@ -311,6 +316,7 @@ void tst_StandardUi::keyboard_reachesEveryLink_whenDetached()
 {
     StandardUiFixture fixture(hint(everything, "title=\"Pen\" documentation=\"pen\""));
     fixture.show();
+    fixture.makeAll();
     HRView *view = fixture.view();
     view->setReserved(true);
     view->requestActivate();
@@ -354,6 +360,7 @@ void tst_StandardUi::accessibility_namesWhatCanBePressed()
 {
     StandardUiFixture fixture(hint(everything, "title=\"Pen\" documentation=\"pen\""));
     fixture.show();
+    fixture.makeAll();
 
     QStringList names;
     for (QQuickItem *item : itemsBelow(fixture.root())) {

@@ -42,6 +42,35 @@ struct ClipFixture : StandardUiFixture
     QString buttonName() const { return item("clipButton")->property("name").toString(); }
 };
 
+/// A clip below a text that fills more than the popup.
+struct FarClipFixture : StandardUiFixture
+{
+    explicit FarClipFixture(const TestClip &recording)
+        : StandardUiFixture("<hintreel key=\"key\" title=\"Pen\"><text>"
+            + QByteArray("A paragraph among many.\n\n").repeated(100)
+            + "</text><video source=\"clip.mp4\"/></hintreel>")
+    {
+        recording.write(packages.path() + "/Test.hintreels/Resources/clip.mp4");
+    }
+
+    /// Waits for the clip to have its place.
+    void show()
+    {
+        StandardUiFixture::show();
+        QTRY_VERIFY(item("blocks")->childItems()[1]->height() > 40);
+        paint();
+    }
+
+    QQuickItem *page() const { return item("page"); }
+    qreal lowest() const { return page()->property("contentHeight").toReal() - page()->height(); }
+    void scrollTo(qreal y)
+    {
+        page()->setProperty("contentY", y);
+        paint();
+    }
+    qreal time() const { return item("clip")->property("time").toReal(); }
+};
+
 TestClip longClip()
 {
     TestClip clip;
@@ -76,6 +105,10 @@ private Q_SLOTS:
     void video_isPaintedNoLargerThanShown_data();
     void video_isPaintedNoLargerThanShown();
     void video_isMade_whenItComesIntoSight();
+    void video_playsWhileItIsInSight();
+    void video_staysPaused_whenItComesBackIntoSight();
+    void video_hasAButtonThatLeavesItInSight_data();
+    void video_hasAButtonThatLeavesItInSight();
     void video_keepsItsAspect_whenItIsWide();
     void video_showsTheCaptionOfItsPicture();
     void video_isReachedByKeyboard_whenDetached();
@@ -222,25 +255,91 @@ void tst_StandardUiClips::video_isPaintedNoLargerThanShown()
 
 void tst_StandardUiClips::video_isMade_whenItComesIntoSight()
 {
-    StandardUiFixture fixture("<hintreel key=\"key\" title=\"Pen\"><text>"
-        + QByteArray("A paragraph among many.\n\n").repeated(100)
-        + "</text><video source=\"clip.mp4\"/></hintreel>");
-    TestClip().write(fixture.packages.path() + "/Test.hintreels/Resources/clip.mp4");
+    FarClipFixture fixture{ TestClip() };
     fixture.show();
-    const auto blocks = [&] { return fixture.item("blocks")->childItems(); };
-    QTRY_VERIFY(blocks()[1]->height() > 40); // it has its place
-    fixture.paint();
     QVERIFY(!fixture.hasItem("clip"));
 
-    QQuickItem *page = fixture.item("page");
-    page->setProperty("contentY", page->property("contentHeight").toReal() - page->height());
+    fixture.scrollTo(fixture.lowest());
     QTRY_VERIFY(fixture.hasItem("clip"));
     QTRY_VERIFY(fixture.item("clip")->property("shown").toBool());
 
     const QPointer<QQuickItem> clip = fixture.item("clip");
-    page->setProperty("contentY", 0);
-    fixture.paint();
+    fixture.scrollTo(0);
     QVERIFY(clip);
+}
+
+void tst_StandardUiClips::video_playsWhileItIsInSight()
+{
+    FarClipFixture fixture(longClip());
+    fixture.show();
+
+    fixture.scrollTo(fixture.lowest() - fixture.item("blocks")->childItems()[1]->height());
+    QTRY_VERIFY(fixture.hasItem("clip")); // of which the upper edge is in sight
+    QTRY_VERIFY(fixture.item("clip")->property("shown").toBool());
+    letAnotherClipPlay();
+    QCOMPARE(fixture.time(), 0.0);
+
+    fixture.scrollTo(fixture.lowest());
+    QTRY_VERIFY(fixture.time() > 0.1);
+
+    fixture.scrollTo(0);
+    letAnotherClipPlay(); // a picture may be on its way
+    const qreal restingAt = fixture.time();
+    letAnotherClipPlay();
+    QCOMPARE(fixture.time(), restingAt);
+
+    fixture.scrollTo(fixture.lowest());
+    QTRY_VERIFY(fixture.time() > restingAt);
+    QCOMPARE(fixture.troubles(), QStringList());
+}
+
+void tst_StandardUiClips::video_staysPaused_whenItComesBackIntoSight()
+{
+    FarClipFixture fixture(longClip());
+    fixture.show();
+    fixture.scrollTo(fixture.lowest());
+    QTRY_VERIFY(fixture.hasItem("clip"));
+    QTRY_VERIFY(fixture.time() > 0.1);
+    fixture.click(fixture.item("clip"));
+    letAnotherClipPlay(); // a picture may be on its way
+    const qreal pausedAt = fixture.time();
+
+    fixture.scrollTo(0);
+    fixture.scrollTo(fixture.lowest());
+    letAnotherClipPlay();
+
+    QCOMPARE(fixture.time(), pausedAt);
+    QCOMPARE(fixture.item("clipButton")->property("name").toString(), QString("Play"));
+}
+
+void tst_StandardUiClips::video_hasAButtonThatLeavesItInSight_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<bool>("inTheMiddle");
+
+    QTest::newRow("large clip") << QSize(320, 180) << true;
+    QTest::newRow("small clip") << QSize(100, 88) << false;
+    QTest::newRow("tiny clip") << QSize(32, 32) << false;
+    QTest::newRow("low clip") << QSize(320, 60) << false;
+}
+
+void tst_StandardUiClips::video_hasAButtonThatLeavesItInSight()
+{
+    QFETCH(QSize, size);
+    QFETCH(bool, inTheMiddle);
+    TestClip recording;
+    recording.size = size;
+    recording.pictures = 2;
+    ClipFixture fixture({}, recording);
+    fixture.show();
+    QTRY_VERIFY(fixture.ended());
+
+    const QQuickItem *button = fixture.item("clipButton");
+    const QRectF whole(QPointF(), fixture.clip()->size());
+    const QRectF place(button->position(), button->size());
+    QVERIFY(whole.contains(place));
+    QCOMPARE(place.contains(whole.center()), inTheMiddle);
+    QVERIFY(place.width() * place.height() < whole.width() * whole.height() / 8);
 }
 
 void tst_StandardUiClips::video_keepsItsAspect_whenItIsWide()

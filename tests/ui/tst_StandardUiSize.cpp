@@ -32,7 +32,7 @@ private Q_SLOTS:
     void ui_hasItsSize_onceFilesAreMeasured();
     void ui_leavesNoHole_data();
     void ui_leavesNoHole();
-    void ui_scrolls_whenTheScreenIsTooSmall();
+    void ui_scrolls_whenItIsLong();
     void ui_scalesItsSizes();
     void simpleUi_isAsWideAsItsText();
 };
@@ -154,15 +154,15 @@ void tst_StandardUiSize::ui_leavesNoHole()
     QCOMPARE(heightOf(nothing), heightOf(""));
 }
 
-void tst_StandardUiSize::ui_scrolls_whenTheScreenIsTooSmall()
+void tst_StandardUiSize::ui_scrolls_whenItIsLong()
 {
     StandardUiFixture fixture(hint(longText(100)) + "<hintreel key=\"short\" title=\"Short\"/>");
     fixture.show();
     QQuickItem *page = fixture.item("page");
     const auto *bar = page->findChild<QQuickItem *>("scrollBar");
 
-    QVERIFY(fixture.view()->height() <= fixture.view()->screen()->availableGeometry().height());
-    QVERIFY(fixture.view()->height() > 400);
+    QVERIFY(fixture.view()->height() <= 0.6 * fixture.view()->screen()->size().height());
+    QVERIFY(fixture.view()->height() > 300);
     QVERIFY(page->property("contentHeight").toReal() > fixture.view()->height());
     QVERIFY(bar->isVisible());
 

@@ -56,7 +56,7 @@ Column {
 
             required property var modelData
             readonly property bool inSight:
-                height > 0 && y < list.sightTop + list.sightHeight && y + height > list.sightTop
+                height > 0 && sightTop + sightHeight > 0 && height > sightTop
 
             // Where the blocks above have only now got their heights, this one is still too high up.
             function see() {
@@ -67,6 +67,8 @@ Column {
             block: modelData
             look: list.look
             hint: list.hint
+            sightTop: list.sightTop - y
+            sightHeight: list.sightHeight
             popupShown: list.onScreen
             awake: list.awake
             width: list.width

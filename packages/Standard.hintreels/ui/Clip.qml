@@ -12,7 +12,9 @@ Item {
 
     property string source
     property alias loop: video.loop
-    property alias wanted: video.keepPlaying
+    // What the reader wants of it; it plays while it is watched as well.
+    property bool wanted: false
+    property bool watched: true
     property bool scrubbing: false
     readonly property alias ended: video.ended
     readonly property alias time: video.time
@@ -53,6 +55,11 @@ Item {
         // As many pixels as the screen shows of it: a hidden window keeps them.
         textureSize: clip.textureSize(Screen.devicePixelRatio)
         antialiasing: true
+        keepPlaying: clip.wanted && clip.watched
+        onEndedChanged: {
+            if (ended)
+                clip.wanted = false
+        }
         scrubbing: clip.scrubbing
         transform: Scale {
             xScale: video.implicitWidth > 0 ? clip.width / video.implicitWidth : 1

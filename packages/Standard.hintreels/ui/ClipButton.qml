@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
-// Plays, pauses and plays again: large in the middle of a resting clip, small in the corner else.
+// Plays, pauses and plays again: large in the middle of a resting clip, small in the corner of one
+// that plays, and of a clip that the large one would hide.
 import QtQuick 2.15
 
 Pressable {
@@ -9,15 +10,17 @@ Pressable {
 
     property Clip player
     property bool offered: true
-    readonly property bool resting: !player.wanted
-    readonly property real margin: resting ? 0 : 2 * look.step
+    readonly property real room: Math.min(parent.width, parent.height)
+    readonly property real largeSize: look.scaled(44)
+    readonly property bool large: !player.wanted && room >= 3 * largeSize
+    readonly property real margin: Math.min(2 * look.step, room / 20)
 
     name: player.ended ? hint.words.playAgain
         : player.wanted ? hint.words.pause : hint.words.play
-    width: look.scaled(resting ? 44 : 28)
+    width: large ? largeSize : Math.min(look.scaled(28), Math.round(room / 3))
     height: width
-    x: resting ? Math.round((parent.width - width) / 2) : margin
-    y: resting ? Math.round((parent.height - height) / 2)
+    x: large ? Math.round((parent.width - width) / 2) : margin
+    y: large ? Math.round((parent.height - height) / 2)
         : parent.height - height - margin - look.step
     onTriggered: player.toggle()
 

@@ -10,6 +10,7 @@ Item {
     property Look look
     property Hint hint
     property var block
+    property bool watched: true
     readonly property alias shown: player.shown
 
     Clip {
@@ -19,6 +20,7 @@ Item {
         source: stage.block.source
         loop: stage.block.loop === "true" && !stage.hint.reader.reducedMotion()
         wanted: !stage.hint.reader.reducedMotion()
+        watched: stage.watched
     }
 
     HoverHandler {

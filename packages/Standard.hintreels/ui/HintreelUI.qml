@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
-// The full UI: fixed in width, as tall as its content up to what the screen allows.
+// The full UI: fixed in width, as tall as its content up to a part of the screen.
 import QtQml 2.15
 import QtQuick 2.15
 import QtQuick.Window 2.15
@@ -11,8 +11,9 @@ Rectangle {
 
     readonly property bool detached: hintreelView.reserved
     readonly property color seam: detached ? look.background : look.line
+    // Beyond that it would cover what the reader goes to next.
     readonly property int tallest:
-        Math.min(Screen.height, Screen.desktopAvailableHeight) - 2 * look.padding
+        Math.floor(0.6 * Math.min(Screen.height, Screen.desktopAvailableHeight))
 
     // The popup takes its size at once; columns on their own lay themselves out a frame later.
     function layOut() {

@@ -4,6 +4,7 @@
 // A clip with a text below; away where it cannot be opened.
 //
 // Only its header is read until it comes into sight, and again once the popup is hidden for a while.
+// It plays while it is in sight.
 import QtQml 2.15
 import QtQuick 2.15
 import com.zentora.hintreels.qml 1.1
@@ -23,6 +24,11 @@ Column {
 
     Item {
         id: frame
+
+        readonly property real seenHeight:
+            Math.min(height, figure.slot.sightTop + figure.slot.sightHeight)
+            - Math.max(0, figure.slot.sightTop)
+
         anchors.horizontalCenter: figure.horizontalCenter
         width: figure.slot.look.widthOf(figure.header, figure.slot.block.width, figure.width)
         height: figure.shown ? Math.ceil(width * figure.header.height / figure.header.width) : 0
@@ -38,6 +44,9 @@ Column {
                 look: figure.slot.look
                 hint: figure.slot.hint
                 block: figure.slot.block
+                // Half of it, or half of what the popup shows, is enough to follow it.
+                watched: frame.seenHeight
+                    >= Math.min(frame.height, figure.slot.sightHeight) / 2
             }
         }
 
