@@ -264,7 +264,8 @@ void tst_HRVideoSource::quit_wakesARestingThread()
     for (int i = 0; i < 50; ++i) {
         FakeSource source;
         source.start();
-        QVERIFY(lookUntil([&] { return source.isRunning(); }));
+        source.setSource(urlA);
+        QVERIFY(lookUntil([&] { return source.source() == urlA; })); // nothing is left to do
         source.quit();
     }
     // Threads that look every 100 ms take 5 s in all.
