@@ -110,11 +110,19 @@ build() {
 
 # Starts an X server of our own with a window manager, and points DISPLAY to it.
 start_display() {
-    step "start Xvfb and openbox"
+    start_x_server 1280x800
+    start_window_manager
+    unset WAYLAND_DISPLAY
+    export QT_QPA_PLATFORM=xcb
+}
+
+# start_x_server SIZE: starts an X server of our own without one, and points DISPLAY to it.
+start_x_server() {
+    step "start Xvfb"
     make_temporary_directory
     local number_file=$temporary_directory/display
     # Without -noreset it starts anew when the first look at it has ended, and refuses openbox.
-    Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp -noreset 3>"$number_file" \
+    Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp -noreset 3>"$number_file" \
         2>"$temporary_directory/xvfb.log" &
     started_processes+=($!)
     wait_until 10 test -s "$number_file" || fail "Xvfb did not start: $(cat "$temporary_directory/xvfb.log")"
@@ -122,11 +130,41 @@ start_display() {
     export DISPLAY
     # The server names its display a moment before it answers there.
     wait_until 10 display_answers || fail "Xvfb does not answer at $DISPLAY"
-    unset WAYLAND_DISPLAY
-    export QT_QPA_PLATFORM=xcb
+}
+
+start_window_manager() {
+    step "start openbox"
     openbox --sm-disable >"$temporary_directory/openbox.log" 2>&1 &
     started_processes+=($!)
     wait_until 10 window_manager_runs || fail "openbox did not start: $(cat "$temporary_directory/openbox.log")"
+}
+
+# start_weston WIDTH HEIGHT SCALE: starts an X server of our own, and on it a Wayland compositor with
+# two outputs of this size beside each other, and points WAYLAND_DISPLAY to that.
+start_weston() {
+    local width=$1 height=$2 scale=$3
+    start_x_server $((2 * width * scale))x$((height * scale))
+    step "start Weston"
+    export XDG_RUNTIME_DIR=$temporary_directory/runtime WAYLAND_DISPLAY=wayland-hintreels
+    mkdir --mode=700 "$XDG_RUNTIME_DIR"
+    weston --backend=x11-backend.so --use-pixman --no-config --idle-time=0 \
+        --socket="$WAYLAND_DISPLAY" --output-count=2 --width="$width" --height="$height" \
+        --scale="$scale" >"$temporary_directory/weston.log" 2>&1 &
+    started_processes+=($!)
+    wait_until 30 weston_runs || fail "Weston did not start: $(cat "$temporary_directory/weston.log")"
+    xdotool windowmove --sync "$(weston_output 1)" $((width * scale)) 0
+    # Without a window manager nobody else brings the keyboard there.
+    xdotool windowfocus --sync "$(weston_output 0)"
+    export QT_QPA_PLATFORM=wayland
+}
+
+# weston_output NUMBER: the X server's window for an output.
+weston_output() {
+    xwininfo -root -tree | awk -v name="\"Weston Compositor - screen$1\"" 'index($0, name) { print $1 }'
+}
+
+weston_runs() {
+    [[ -S $XDG_RUNTIME_DIR/$WAYLAND_DISPLAY && -n $(weston_output 0) && -n $(weston_output 1) ]]
 }
 
 display_answers() {

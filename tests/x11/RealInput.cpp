@@ -12,9 +12,23 @@
 #include <QScreen>
 #include <QtTest>
 
+#include <algorithm>
+
 namespace RealInput {
 
 namespace {
+
+Place place;
+
+QPoint onScreen(const QPoint &position)
+{
+    return place.onScreen + (position - place.global) * place.scale;
+}
+
+QRect onScreen(const QRect &area)
+{
+    return { onScreen(area.topLeft()), area.size() * place.scale };
+}
 
 QByteArray run(const QString &program, const QStringList &arguments)
 {
@@ -32,10 +46,16 @@ void xdotool(const QStringList &arguments)
 
 QStringList move(const QPoint &position)
 {
-    return { "mousemove", QString::number(position.x()), QString::number(position.y()) };
+    const QPoint pixel = onScreen(position);
+    return { "mousemove", QString::number(pixel.x()), QString::number(pixel.y()) };
 }
 
 } // namespace
+
+void setPlace(const Place &newPlace)
+{
+    place = newPlace;
+}
 
 void movePointer(const QPoint &position)
 {
@@ -69,13 +89,33 @@ void type(const QString &letters)
 
 QImage screenshot()
 {
-    return QGuiApplication::primaryScreen()->grabWindow(0).toImage();
+    if (QGuiApplication::platformName() == "xcb")
+        return QGuiApplication::primaryScreen()->grabWindow(0).toImage();
+    return QImage::fromData(run("import", { "-window", "root", "bmp:-" }));
+}
+
+QRect boundsOf(const QColor &color)
+{
+    const QImage image = screenshot().convertToFormat(QImage::Format_RGB32);
+    QRect bounds;
+    for (int y = 0; y < image.height(); ++y) {
+        const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+        const auto *end = line + image.width();
+        const auto *first = std::find(line, end, color.rgb());
+        if (first == end)
+            continue;
+        const auto *last = end - 1;
+        while (*last != color.rgb())
+            --last;
+        bounds |= QRect(QPoint(int(first - line), y), QPoint(int(last - line), y));
+    }
+    return bounds;
 }
 
 bool shows(const QRect &area, const QColor &color)
 {
     const QImage image = screenshot();
-    const QRect visible = area & image.rect();
+    const QRect visible = onScreen(area) & image.rect();
     for (int y = visible.top(); y <= visible.bottom(); ++y)
         for (int x = visible.left(); x <= visible.right(); ++x)
             if (image.pixelColor(x, y) != color)

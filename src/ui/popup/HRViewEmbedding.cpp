@@ -3,6 +3,9 @@
 
 #include "ui/popup/HRViewEmbedding_p.h"
 
+#include "ui/popup/wayland_p.h"
+
+#include <QEvent>
 #include <QWindow>
 
 namespace Hintreels {
@@ -19,7 +22,7 @@ void HRViewEmbedding::setContainer(QWidget *container)
 
 void HRViewEmbedding::prepareFor(const QWidget &popup)
 {
-    if (nativeWindowOf(popup) == m_window)
+    if (nativeWindowOf(popup) == m_window && !isOnWayland())
         return;
     hideContainer();
     release();
@@ -28,7 +31,10 @@ void HRViewEmbedding::prepareFor(const QWidget &popup)
 void HRViewEmbedding::embedIn(const QWidget &popup)
 {
     m_window = nativeWindowOf(popup);
-    showContainer();
+    if (isOnWayland())
+        showContainerWhenExposed(popup.windowHandle());
+    else
+        showContainer();
 }
 
 void HRViewEmbedding::renewLater()
@@ -43,6 +49,13 @@ void HRViewEmbedding::release()
 {
     if (m_view)
         m_view->destroy();
+}
+
+bool HRViewEmbedding::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Expose)
+        showContainerWhenExposed(static_cast<QWindow *>(watched));
+    return QObject::eventFilter(watched, event);
 }
 
 HRViewEmbedding::NativeWindow HRViewEmbedding::nativeWindowOf(const QWidget &popup)
@@ -61,6 +74,16 @@ void HRViewEmbedding::showContainer()
 {
     if (m_container)
         m_container->show();
+}
+
+void HRViewEmbedding::showContainerWhenExposed(QWindow *window)
+{
+    if (window->isExposed()) {
+        window->removeEventFilter(this);
+        showContainer();
+    } else {
+        window->installEventFilter(this);
+    }
 }
 
 } // namespace Hintreels

@@ -19,6 +19,10 @@ namespace Hintreels {
 /// it on the server, which Qt does not notice: the view would stay blank, and painting into it
 /// raises errors. So wherever showing may renew the window around the view, the view's native
 /// window is given up before, and made anew once the window around it is mapped.
+///
+/// On Wayland, a view that is shown before the compositor has given the window around it its size
+/// stays unexposed, and never paints. So the view comes in when the window around it is exposed,
+/// each time.
 class HRViewEmbedding : public QObject
 {
 public:
@@ -30,7 +34,7 @@ public:
     /// Gives the view's native window up, if showing the popup may renew the window around it.
     void prepareFor(const QWidget &popup);
 
-    /// Brings the view into a popup that is mapped.
+    /// Brings the view into a popup that is mapped, at the latest when that is exposed.
     void embedIn(const QWidget &popup);
 
     /// Makes the view's native window anew after the window around it has been mapped.
@@ -39,6 +43,9 @@ public:
     /// Gives the view's native window up; the next showing makes another one.
     void release();
 
+    /// Notices when the window around the view is exposed.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     /// Changes whenever showing a popup may renew its window.
     using NativeWindow = std::pair<WId, Qt::WindowFlags>;
@@ -46,6 +53,7 @@ private:
     static NativeWindow nativeWindowOf(const QWidget &popup);
     void hideContainer();
     void showContainer();
+    void showContainerWhenExposed(QWindow *window);
 
     QPointer<QWindow> m_view;
     QPointer<QWidget> m_container;

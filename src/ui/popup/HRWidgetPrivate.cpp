@@ -9,6 +9,7 @@
 #include "ui/popup/popupGeometry_p.h"
 #include "ui/popup/popupScreen_p.h"
 #include "ui/popup/sceneContext_p.h"
+#include "ui/popup/wayland_p.h"
 
 #include <QCursor>
 #include <QFileInfo>
@@ -127,10 +128,10 @@ void HRWidgetPrivate::keepInside()
 }
 
 /// Holds the popup's own painting back until the content's next frame, which hides all of it but a
-/// seam and would have to wait for it.
+/// seam and would have to wait for it. On Wayland the content's frame waits for the popup's.
 void HRWidgetPrivate::paintAfterContent()
 {
-    q->setUpdatesEnabled(!view || !view->rootObject());
+    q->setUpdatesEnabled(isOnWayland() || !view || !view->rootObject());
 }
 
 /// Paints at once: an update would be lost where Qt has been asked for one while it was held back.

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "x11/HintHost.h"
+
+#include <functional>
+
+/// A host whose window a Wayland compositor has placed, nobody knows where.
+///
+/// The window shows its place by a mark in its top left corner; so input and looks find it.
+class WestonHost : public HintHost
+{
+public:
+    /// @param configure adds to the settings
+    explicit WestonHost(const std::function<void(HRContext &)> &configure = {});
+
+    /// Finds the window on the screen, once it is there and rests.
+    bool find();
+
+private:
+    QWidget m_mark{ &window };
+};
+
+/// Pixels of the screen for one of the application.
+int outputScale();
+
+/// Rests the pointer in the lower left corner of the first output, where windows appear then.
+void restPointerElsewhere();
+
+/// Waits until something holds, for as long as other programs may keep the processor busy.
+bool eventually(const std::function<bool()> &holds);
