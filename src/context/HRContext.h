@@ -70,8 +70,16 @@ enum contextKey : int
     largestPictureKey = 10004, ///< int, megapixels, 64: no clip with a larger picture is played
     scriptLimitKey = 10005, ///< int, ms, 2000: a script that runs for longer is stopped, and its
                             ///< hint goes away; 0 or less is never
-    qmlModulesKey = 10006 ///< string list, empty: further modules that QML may import with
-                          ///< ownFilesOnlyKey, with those inside them
+    qmlModulesKey = 10006, ///< string list, empty: further modules that QML may import with
+                           ///< ownFilesOnlyKey, with those inside them
+    placementKey = 10007 ///< int, placementAtPointer: where the popup goes, an HRPlacement
+};
+
+/// Values of placementKey.
+enum HRPlacement : int
+{
+    placementAtPointer = 0, ///< tooltipOffsetKey away from the pointer, pushed inside the screen
+    placementBeside = 1 ///< beside the part that the hint belongs to, never over it
 };
 
 } // namespace Hintreels

@@ -136,6 +136,11 @@ HRWidget &HintHost::popup() const
     return *manager()->widget();
 }
 
+bool HintHost::showsPopup() const
+{
+    return manager()->widget() && manager()->widget()->isVisible();
+}
+
 bool HintHost::hover(const QWidget &widget) const
 {
     RealInput::movePointer(widget.mapToGlobal(widget.rect().center()));

@@ -41,6 +41,9 @@ public:
     /// The current popup; it must have been shown once.
     Hintreels::HRWidget &popup() const;
 
+    /// Whether a popup shows.
+    bool showsPopup() const;
+
     /// Rests the pointer on a widget's centre until the popup shows its hint there.
     bool hover(const QWidget &widget) const;
 

@@ -99,8 +99,11 @@ void HRWidget::SetContainerWidget(QWidget *container)
 bool HRWidget::isSafe(const QPoint &pos) const
 {
     const QRect area(mapToGlobal(QPoint(0, 0)), frameGeometry().size());
-    return isNear(area, setting(d->settings(), safeMarginKey, QSize(20, 20)), pos)
-        || isTopmostAt(d->reference, pos);
+    if (isNear(area, setting(d->settings(), safeMarginKey, QSize(20, 20)), pos))
+        return true;
+    // Beside a part, the other parts of its widget are none of the popup's.
+    return d->standsBeside() && !d->beside->isOverPart(pos) ? d->beside->leadsTo(area, pos)
+                                                            : isTopmostAt(d->reference, pos);
 }
 
 void HRWidget::checkMousePosition(const QPoint &pos)
@@ -142,9 +145,9 @@ void HRWidget::showWithContent(
 void HRWidget::reposition()
 {
     const QRect frame = window()->frameGeometry();
-    const QRect inside = movedInside(frame, d->screen());
-    if (inside != frame)
-        window()->move(inside.topLeft());
+    const QPoint place = d->placeFor(frame);
+    if (place != frame.topLeft())
+        window()->move(place);
 }
 
 void HRWidget::hideAnimated()
@@ -203,6 +206,7 @@ void HRWidget::contentReservedChanged()
 
 void HRWidget::contentResized()
 {
+    d->makeRoom();
     fitToContent(*this, d->container, d->screen());
     matchBackground(*this);
     d->keepInside();

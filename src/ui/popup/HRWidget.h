@@ -53,7 +53,8 @@ public:
     void SetContainerWidget(QWidget *container);
 
     /// Whether a pointer at this global position keeps the popup open: over the reference widget
-    /// itself, or inside the popup widened by the setting safeMarginKey, edges included.
+    /// itself, or inside the popup widened by the setting safeMarginKey, edges included. Of a popup
+    /// that stands beside a part (placementKey) it is the part, and the way from there.
     bool isSafe(const QPoint &pos) const;
 
     /// Starts or stops the time until the popup hides, for a pointer at this global position.
@@ -78,7 +79,8 @@ public Q_SLOTS:
     /// Moves the window inside the screen of the reference widget.
     ///
     /// Top and left are corrected first, bottom and right last: what is larger than the screen
-    /// keeps its lower right corner in sight.
+    /// keeps its lower right corner in sight. A popup that stands beside a part (placementKey) goes
+    /// where it has room for its size.
     void reposition();
     /// Fades the popup out as the setting hideAnimationDurationKey says, then hides it.
     void hideAnimated();

@@ -41,14 +41,11 @@ void HRWidgetPrivate::showWithContent(QObject *object, const QRect &part, const 
     q->cancelHiding();
     reference = qobject_cast<QWidget *>(object);
     area = part;
-
     view->setPackageRoot(rootPath);
     HRContent previous;
     if (content != view->content())
         previous = HRViewPrivate::of(*view).exchangeContent(HRContent::of(content));
-    q->move(withinReach(pos));
-    if (q->isVisible())
-        q->reposition();
+    takePlace(pos);
     setSceneContext(*view, content, rootPath, manager);
     // Not before the scene has let go of it, or its bindings would see null on the way.
     HRViewPrivate::of(*view).freeContent(std::move(previous));
@@ -63,7 +60,49 @@ void HRWidgetPrivate::showWithContent(QObject *object, const QRect &part, const 
 
 QRect HRWidgetPrivate::screen() const
 {
-    return availableGeometry(reference, q->window()->pos());
+    return standsBeside() ? beside->screen() : availableGeometry(reference, q->window()->pos());
+}
+
+bool HRWidgetPrivate::standsBeside() const
+{
+    return beside && !reserved && q->isWindow();
+}
+
+QSize HRWidgetPrivate::pointerOffset() const
+{
+    return setting(settings(), tooltipOffsetKey, QSize(35, 30));
+}
+
+/// Where a window goes that has this frame.
+QPoint HRWidgetPrivate::placeFor(const QRect &frame)
+{
+    return standsBeside() ? beside->topLeftFor(frame.size(), pointerOffset())
+                          : movedInside(frame, screen()).topLeft();
+}
+
+/// Takes the place for a hint; a popup beside its part waits for the hint's size.
+void HRWidgetPrivate::takePlace(const QPoint &pos)
+{
+    beside.reset();
+    if (setting(settings(), placementKey, int(placementAtPointer)) == placementBeside) {
+        const QSize offset = pointerOffset();
+        const QPoint way = withinReach(QPoint(offset.width(), offset.height()));
+        beside.emplace().start(reference, area, withinReach(pos) - way);
+        return;
+    }
+    q->move(withinReach(pos));
+    if (q->isVisible())
+        q->reposition();
+}
+
+/// Goes to where it will stand before it grows, or it would cover its part for a moment.
+void HRWidgetPrivate::makeRoom()
+{
+    if (!q->isVisible() || !standsBeside())
+        return;
+    const QRect frame = q->frameGeometry();
+    const QSize grown = frame.size() + sizeAroundContent(*q) - q->size();
+    q->move(placeFor(QRect(frame.topLeft(), grown.expandedTo(frame.size()))));
 }
 
 /// 0 for a popup that is to stay.
@@ -163,6 +202,8 @@ void HRWidgetPrivate::takeInContent()
     if (!q->isVisible())
         return;
     followContent();
+    if (standsBeside())
+        q->reposition();
     keepTimeFor(QCursor::pos());
 }
 

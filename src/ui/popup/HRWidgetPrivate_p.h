@@ -4,6 +4,7 @@
 #pragma once
 
 #include "manager/HRManager.h"
+#include "ui/popup/HRBesidePlacement_p.h"
 #include "ui/popup/HRHideTimer_p.h"
 #include "ui/popup/HRPointerWatch_p.h"
 #include "ui/popup/HRPopupFade_p.h"
@@ -13,6 +14,8 @@
 
 #include <QPointer>
 #include <QRect>
+
+#include <optional>
 
 namespace Hintreels {
 
@@ -33,6 +36,11 @@ struct HRWidgetPrivate
 
     QRect screen() const;
     double hideDelay() const;
+    bool standsBeside() const;
+    QSize pointerOffset() const;
+    QPoint placeFor(const QRect &frame);
+    void takePlace(const QPoint &pos);
+    void makeRoom();
 
     void followReferenceWindow();
     void keepTimeFor(const QPoint &pointer);
@@ -54,6 +62,7 @@ struct HRWidgetPrivate
     QPointer<QWidget> container;
     QPointer<QWidget> reference;
     QRect area; // of the part that the hint belongs to, global; null for the whole reference
+    std::optional<HRBesidePlacement> beside; // of the hint on show, where it asks for that
     HRPopupFade fade;
     QTimer *timer;
     HRQTimerClock clock;

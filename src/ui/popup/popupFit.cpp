@@ -79,10 +79,15 @@ void takeContentSize(HRWidget &popup, QWidget *container)
     popup.resize(sizeAround(size));
 }
 
-bool fitsContent(const HRWidget &popup)
+QSize sizeAroundContent(const HRWidget &popup)
 {
     const QQuickItem *root = rootOf(popup);
-    return !root || popup.size() == sizeAround(sizeOf(root));
+    return root ? sizeAround(sizeOf(root)) : popup.size();
+}
+
+bool fitsContent(const HRWidget &popup)
+{
+    return popup.size() == sizeAroundContent(popup);
 }
 
 void fitToContent(HRWidget &popup, QWidget *container, const QRect &screen)

@@ -20,6 +20,9 @@ class HRWidget;
 /// @param container embeds the view; may be null
 void takeContentSize(HRWidget &popup, QWidget *container);
 
+/// The size that goes around the content now, or that of the popup where there is none.
+QSize sizeAroundContent(const HRWidget &popup);
+
 /// Whether a popup has the size of its content already.
 bool fitsContent(const HRWidget &popup);
 
