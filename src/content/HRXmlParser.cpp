@@ -98,6 +98,8 @@ struct HRXmlParserPrivate
     HRFilterAnswer mode; // of the elements read next
     std::map<const QMetaObject *, std::unique_ptr<HRElementClass>> classes; // used until now
     std::unique_ptr<HRXmlDocument> document; // the one read last, or being read
+    int errorLine; // in that document; 0 for none
+    QString errorText;
 
     int answerFor(const QString &qName, const QXmlAttributes &attributes) const
     {
@@ -144,8 +146,8 @@ struct HRXmlParserPrivate
 };
 
 HRXmlParser::HRXmlParser(Filter callback, void *context)
-    : d(new HRXmlParserPrivate{
-        {}, &HRXmlElement::staticMetaObject, callback, context, {}, askForChildren, {}, nullptr })
+    : d(new HRXmlParserPrivate{ {}, &HRXmlElement::staticMetaObject, callback, context, {},
+        askForChildren, {}, nullptr, 0, {} })
 {
 }
 
@@ -193,6 +195,16 @@ QList<QObject *> HRXmlParser::read(const QXmlInputSource &source)
 QList<QObject *> HRXmlParser::read(const QByteArray &document)
 {
     return readDocument(std::make_unique<HRXmlDocument>(document));
+}
+
+int HRXmlParser::errorLine() const
+{
+    return d->errorLine;
+}
+
+QString HRXmlParser::errorText() const
+{
+    return d->errorText;
 }
 
 bool HRXmlParser::startElement(const QString &namespaceURI, const QString &localName,
@@ -248,10 +260,12 @@ bool HRXmlParser::ignorableWhitespace(const QString &text)
 bool HRXmlParser::fatalError(const QXmlParseException &exception)
 {
     const QString refusal = d->document->guard().refusal();
+    d->errorLine = exception.lineNumber();
+    d->errorText = refusal.isEmpty() ? exception.message() : refusal;
     log(QStringLiteral("Fatal error at %1,%2 : %3")
-            .arg(exception.lineNumber())
+            .arg(d->errorLine)
             .arg(exception.columnNumber() + d->document->skippedInLine())
-            .arg(refusal.isEmpty() ? exception.message() : refusal));
+            .arg(d->errorText));
     return false;
 }
 
@@ -294,6 +308,8 @@ QList<QObject *> HRXmlParser::readDocument(std::unique_ptr<HRXmlDocument> docume
     setLexicalHandler(this);
     reportEntities(false);
     d->document = std::move(document);
+    d->errorLine = 0;
+    d->errorText = QString();
     parse(d->document.get());
 
     QObject *root = d->stack.first().object;

@@ -80,6 +80,11 @@ public:
     /// encoding is found as for a source.
     QList<QObject *> read(const QByteArray &document);
 
+    /// The line, counted from 1, of the error that ended the last reading; 0 where there was none.
+    int errorLine() const;
+    /// What that error was, in English; null where there was none.
+    QString errorText() const;
+
 private:
     bool startElement(const QString &namespaceURI, const QString &localName, const QString &qName,
         const QXmlAttributes &attributes) override;

@@ -211,7 +211,8 @@ HRXmlElement *HRIndex::load(
 {
     if (!d->prefilter.mayRead(filePath))
         return nullptr;
-    std::unique_ptr<HRXmlElement> tree = readOnlyTree(filePath, generateContentElement, key);
+    std::unique_ptr<HRXmlElement> tree
+        = readOnlyTree(filePath, generateContentElement, key, d->errors);
     if (!tree)
         return nullptr;
     root = nullptr;

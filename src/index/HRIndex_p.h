@@ -52,7 +52,8 @@ struct HRIndexPrivate
     QPointer<HRContext> context;
     QStringList paths;
     HRControlRecords records;
-    HRControlPrefilter prefilter;
+    HRControlErrors errors; // since they were last taken out
+    HRControlPrefilter prefilter{ errors };
     HRPackageMap packages;
     HRControlFileProbe probe;
     HRPackageDepth depth;

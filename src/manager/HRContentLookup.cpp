@@ -6,6 +6,7 @@
 #include "content/HRXmlElement.h"
 #include "context/setting_p.h"
 #include "index/HRIndex.h"
+#include "index/HRIndex_p.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -47,10 +48,12 @@ QString HRFoundContent::packageDirectory() const
     return directory.canonicalPath();
 }
 
-HRContentLookup::HRContentLookup(const HRContext &context, HRIndex &index, Report report)
+HRContentLookup::HRContentLookup(
+    const HRContext &context, HRIndex &index, Report report, ReportErrors reportErrors)
     : m_context(context)
     , m_index(index)
     , m_report(std::move(report))
+    , m_reportErrors(std::move(reportErrors))
 {
 }
 
@@ -66,6 +69,7 @@ HRXmlElement *HRContentLookup::retrieve(
     if (element)
         m_report(QStringLiteral("Retrieved %1 in %2 seconds")
                      .arg(key, QString::number(double(timer.elapsed()) / 1000.0)));
+    tellErrors();
     return element;
 }
 
@@ -84,12 +88,21 @@ std::optional<HRFoundContent> HRContentLookup::findFallback() const
     Answer answer;
     HRXmlElement *element
         = m_index.retrieve(key, fallbackLocale(), answer.path, answer.depth, answer.root);
-    return foundContent(element, answer);
+    std::optional<HRFoundContent> found = foundContent(element, answer);
+    tellErrors();
+    return found;
 }
 
 QString HRContentLookup::fallbackKey() const
 {
     return setting(m_context, fallbackKeyKey, QString());
+}
+
+void HRContentLookup::tellErrors() const
+{
+    const HRControlErrors errors = std::exchange(HRIndexPrivate::of(m_index).errors, {});
+    if (!errors.isEmpty())
+        m_reportErrors(errors);
 }
 
 QLocale HRContentLookup::fallbackLocale() const

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "content/HRContent_p.h"
+#include "index/control/HRControlError_p.h"
 
 #include <QLocale>
 #include <QString>
@@ -37,7 +38,11 @@ class HRContentLookup
 public:
     using Report = std::function<void(const QString &progress)>;
 
-    HRContentLookup(const HRContext &context, HRIndex &index, Report report);
+    /// Told of the files that a look-up has found to be no XML, at its end.
+    using ReportErrors = std::function<void(const HRControlErrors &errors)>;
+
+    HRContentLookup(
+        const HRContext &context, HRIndex &index, Report report, ReportErrors reportErrors);
 
     /// A key's element in the first locale that has it; reports how long that took.
     ///
@@ -56,10 +61,12 @@ public:
 
 private:
     QLocale fallbackLocale() const;
+    void tellErrors() const;
 
     const HRContext &m_context;
     HRIndex &m_index;
     Report m_report;
+    ReportErrors m_reportErrors;
 };
 
 } // namespace Hintreels

@@ -45,7 +45,9 @@ HRManagerPrivate::HRManagerPrivate(HRManager *manager, HRInterface *host,
     , context(hostContext)
     , index(hostIndex ? hostIndex : new HRIndex(&context, paths))
     , scanner(context, *index, reporterOf(manager), reporterOf(manager, messageWarning))
-    , lookup(context, *index, reporterOf(manager))
+    , brokenFiles(reporterOf(manager, messageWarning))
+    , lookup(context, *index, reporterOf(manager),
+          [this](const HRControlErrors &errors) { tellErrors(errors); })
     , presenter(context, host, lookup)
     , hoverFilter([this] { return presenter.popup(); }, showerOf(manager))
     , translation(manager)
@@ -70,6 +72,12 @@ bool HRManagerPrivate::tellKeys(const QStringList &keys)
                 messageInformation, QStringLiteral("looking for Hintreel for key:") + key);
     }
     return guarded;
+}
+
+void HRManagerPrivate::tellErrors(const HRControlErrors &errors)
+{
+    if (setting(context, reportBrokenFilesKey, false))
+        brokenFiles.tell(errors);
 }
 
 bool HRManagerPrivate::mayShow() const

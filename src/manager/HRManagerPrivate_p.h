@@ -4,6 +4,7 @@
 #pragma once
 
 #include "context/HRContext.h"
+#include "manager/HRBrokenFiles_p.h"
 #include "manager/HRContentLookup_p.h"
 #include "manager/HRHoverFilter_p.h"
 #include "manager/HRManager.h"
@@ -47,6 +48,7 @@ struct HRManagerPrivate
     HRContext context;
     HRIndex *index; // never deleted: reserved popups ask it for components
     HRPackageScanner scanner;
+    HRBrokenFiles brokenFiles;
     HRContentLookup lookup;
     HRPopupPresenter presenter;
     HRHoverFilter hoverFilter;
@@ -58,6 +60,7 @@ struct HRManagerPrivate
     float scale = 1.0F;
 
 private:
+    void tellErrors(const HRControlErrors &errors);
     bool tellKeys(const QStringList &keys);
     bool mayShow() const;
     bool canRender();

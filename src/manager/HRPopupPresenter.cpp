@@ -141,16 +141,15 @@ bool HRPopupPresenter::present(const HRHover &hover, const QString &key, HRFound
     nameShortcut(hover, key, element);
     const bool isWanted
         = canPresent() && popup == m_popup && element && popup->view()->content() == element;
-    if (isWanted) {
-        HRWidgetPrivate::of(*popup).showWithContent(
+    const bool mayShow = isWanted
+        && HRWidgetPrivate::of(*popup).showWithContent(
             hover.object, hover.area, corner, element, found.packageDirectory());
-        // Without its view, Qt's container of it crashes when raised.
-        if (popup && popup->view())
-            popup->raise();
-    }
+    // Without its view, Qt's container of it crashes when raised.
+    if (mayShow && popup && popup->view())
+        popup->raise();
     if (popup && popup->view())
         HRViewPrivate::of(*popup->view()).freeContent(std::move(previous));
-    return isWanted && popup;
+    return mayShow && popup;
 }
 
 // The host names the shortcut of what the pointer rests on, also where the content shown is that of

@@ -45,7 +45,8 @@ void fuzzControlFile(const QByteArray &input)
     probe(input);
     const MemoryFile file(input);
     const std::optional<HRControlDigest> found = digestBySearching(input);
-    const HRControlDigest parsed = digestByParsing(file.path());
+    HRControlErrors errors;
+    const HRControlDigest parsed = digestByParsing(file.path(), errors);
     HRContext context;
     HRIndex index(&context, {});
     const QStringList keys = keysOfControlFile(file.path()).mid(0, mostKeys) + QStringList("a");

@@ -43,7 +43,8 @@ struct Fixture
     HRContext context;
     TableIndex index{ &context, {} };
     QStringList reports;
-    HRContentLookup lookup{ context, index, [this](const QString &text) { reports += text; } };
+    HRContentLookup lookup{ context, index, [this](const QString &text) { reports += text; },
+        [](const HRControlErrors &) {} };
 };
 
 } // namespace

@@ -98,10 +98,10 @@ bool HRControlDigest::mayServe(quint32 key, const QLocale &wanted) const
         && (!locale || locale->locale == wanted);
 }
 
-HRControlDigest digestByParsing(const QString &filePath)
+HRControlDigest digestByParsing(const QString &filePath, HRControlErrors &errors)
 {
     Notes notes;
-    const HRControlTree tree(filePath, noteElement, &notes);
+    const HRControlTree tree(filePath, noteElement, &notes, errors);
     std::sort(notes.digest.keys.begin(), notes.digest.keys.end());
     return notes.digest;
 }

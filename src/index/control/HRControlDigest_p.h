@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "index/control/HRControlError_p.h"
+
 #include <QByteArray>
 #include <QLocale>
 #include <QString>
@@ -47,6 +49,6 @@ struct HRControlDigest
 std::optional<HRControlDigest> digestBySearching(const QByteArray &bytes);
 
 /// Finds keys and locale by parsing a file. An empty digest where it cannot be read.
-HRControlDigest digestByParsing(const QString &filePath);
+HRControlDigest digestByParsing(const QString &filePath, HRControlErrors &errors);
 
 } // namespace Hintreels

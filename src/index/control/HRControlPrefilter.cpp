@@ -45,7 +45,7 @@ bool HRControlPrefilter::read(HRControlRecord &record)
     std::optional<HRControlDigest> digest;
     if (file.readAll(m_bytes))
         digest = digestBySearching(m_bytes);
-    record.digest = digest ? std::move(*digest) : digestByParsing(path);
+    record.digest = digest ? std::move(*digest) : digestByParsing(path, m_errors);
     record.isSettled = isSettled(record.stamp, now);
     return true;
 }

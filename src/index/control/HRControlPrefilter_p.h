@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "index/control/HRControlError_p.h"
+
 #include <QByteArray>
 
 #include <functional>
@@ -25,6 +27,12 @@ public:
     /// Whether a file of a size in bytes may be read; asked before each reading.
     using Judge = std::function<bool(const QString &path, qint64 size)>;
 
+    /// @param errors of files that are parsed; must outlive this
+    explicit HRControlPrefilter(HRControlErrors &errors)
+        : m_errors(errors)
+    {
+    }
+
     /// Until then, every file may be read.
     void setJudge(Judge judge) { m_judge = std::move(judge); }
 
@@ -40,6 +48,7 @@ public:
 private:
     bool isCurrent(HRControlRecord &record);
 
+    HRControlErrors &m_errors;
     QByteArray m_bytes;
     Judge m_judge = [](const QString &, qint64) { return true; };
 };

@@ -34,6 +34,14 @@ HRControlTree::HRControlTree(const QString &filePath, HRXmlParser::Filter filter
         m_objects = m_parser.read(bytes);
 }
 
+HRControlTree::HRControlTree(
+    const QString &filePath, HRXmlParser::Filter filter, void *data, HRControlErrors &errors)
+    : HRControlTree(filePath, filter, data)
+{
+    if (m_parser.errorLine() > 0)
+        errors.insert(filePath, { m_parser.errorLine(), m_parser.errorText() });
+}
+
 HRControlTree::~HRControlTree()
 {
     qDeleteAll(m_objects);
@@ -49,12 +57,12 @@ QObject *HRControlTree::takeOnly()
     return m_objects.size() == 1 ? m_objects.takeFirst() : nullptr;
 }
 
-std::unique_ptr<HRXmlElement> readOnlyTree(
-    const QString &filePath, HRXmlParser::Filter filter, const QString &key)
+std::unique_ptr<HRXmlElement> readOnlyTree(const QString &filePath, HRXmlParser::Filter filter,
+    const QString &key, HRControlErrors &errors)
 {
     QString wanted = key;
     // What an error left open goes with the parser at the end of this line.
-    const QPointer<QObject> tree = HRControlTree(filePath, filter, &wanted).takeOnly();
+    const QPointer<QObject> tree = HRControlTree(filePath, filter, &wanted, errors).takeOnly();
     return std::unique_ptr<HRXmlElement>(qobject_cast<HRXmlElement *>(tree.data()));
 }
 

@@ -5,6 +5,7 @@
 
 #include "content/HRXmlElement.h"
 #include "content/HRXmlParser.h"
+#include "index/control/HRControlError_p.h"
 
 #include <QMap>
 #include <QString>
@@ -21,6 +22,10 @@ class HRControlTree
 {
 public:
     HRControlTree(const QString &filePath, HRXmlParser::Filter filter, void *data);
+
+    /// Takes down what ends the reading before the file's end, too.
+    HRControlTree(
+        const QString &filePath, HRXmlParser::Filter filter, void *data, HRControlErrors &errors);
     ~HRControlTree();
     Q_DISABLE_COPY(HRControlTree)
 
@@ -40,8 +45,8 @@ private:
 ///
 /// Null where the file cannot be read, where another number of elements remains at the top, and
 /// where the file ends in an error inside of the element.
-std::unique_ptr<HRXmlElement> readOnlyTree(
-    const QString &filePath, HRXmlParser::Filter filter, const QString &key);
+std::unique_ptr<HRXmlElement> readOnlyTree(const QString &filePath, HRXmlParser::Filter filter,
+    const QString &key, HRControlErrors &errors);
 
 /// The keys of a control file in the order of its entries, up to an error in it.
 QStringList keysOfControlFile(const QString &filePath);

@@ -210,7 +210,11 @@ void HRView::handleWarnings(const QList<QQmlError> &warnings)
 
 void HRView::statusHasChanged(QQuickView::Status s)
 {
-    if (s == QQuickView::Error)
+    if (s != QQuickView::Error)
+        return;
+    const QPointer<HRView> guarded = this;
+    d->ui.tellBroken(QQuickView::source().toLocalFile());
+    if (guarded)
         d->reportErrors(QStringLiteral("Error %1:%2:%3"), errors());
 }
 

@@ -16,6 +16,7 @@ HRViewPrivate::HRViewPrivate(HRView *view, HRManager *hrManager)
     : q(view)
     , manager(hrManager)
     , loader(view, view->engine(), [this](const QUrl &source) { take(source); })
+    , ui(*this)
     , gates(view->engine(), view->contentItem(),
           [this](const QString &kind, const QString &path) { reportRefusal(kind, path); })
     , watch(std::make_shared<HRScriptWatch>(view->engine()))

@@ -9,6 +9,7 @@
 #include "interface/HRTypes.h"
 #include "manager/HRManager.h"
 #include "ui/popup/HROverrideCursors_p.h"
+#include "ui/popup/HRRequiredUi_p.h"
 #include "ui/popup/HRSceneLoader_p.h"
 #include "ui/popup/HRView.h"
 #include "ui/popup/HRViewClips_p.h"
@@ -63,6 +64,7 @@ struct HRViewPrivate
     bool reserved = false;
     HROverrideCursors cursors;
     HRSceneLoader loader;
+    HRRequiredUi ui;
     QString qmlFile; // of the scene
     HRSceneGates gates;
     std::shared_ptr<HRScriptWatch> watch;

@@ -33,11 +33,11 @@ HRWidgetPrivate::HRWidgetPrivate(HRWidget *widget, HRManager *hrManager, QWidget
 {
 }
 
-void HRWidgetPrivate::showWithContent(QObject *object, const QRect &part, const QPoint &pos,
+bool HRWidgetPrivate::showWithContent(QObject *object, const QRect &part, const QPoint &pos,
     HRXmlElement *content, const QString &rootPath)
 {
     if (!content || !view)
-        return;
+        return true;
     q->cancelHiding();
     reference = qobject_cast<QWidget *>(object);
     area = part;
@@ -51,11 +51,16 @@ void HRWidgetPrivate::showWithContent(QObject *object, const QRect &part, const 
     HRViewPrivate::of(*view).freeContent(std::move(previous));
     // The host may delete the popup or its view when it is told of a missing file.
     const QPointer<HRWidget> guarded = q;
-    view->loadQML(QFileInfo(view->uiRootFilePath()).absoluteFilePath());
+    const bool isLoaded = HRViewPrivate::of(*view).ui.load();
     if (!guarded || !view)
-        return;
+        return true;
+    if (!isLoaded) {
+        q->hide();
+        return false;
+    }
     takeInContent();
     q->showAnimated();
+    return true;
 }
 
 QRect HRWidgetPrivate::screen() const
@@ -210,7 +215,11 @@ void HRWidgetPrivate::takeInContent()
 /// A scene that had to wait for the event loop comes when the popup shows already.
 void HRWidgetPrivate::followScene()
 {
-    if (!q->isVisible() || !view->rootObject())
+    if (!q->isVisible())
+        return;
+    if (HRViewPrivate::of(*view).ui.isBroken())
+        q->hide();
+    if (!view->rootObject())
         return;
     matchBackground(*q);
     followContent();

@@ -31,7 +31,8 @@ struct HRWidgetPrivate
 
     /// See HRWidget::showWithContent().
     /// @param part of the reference that the hint belongs to, in global coordinates; null for all
-    void showWithContent(QObject *object, const QRect &part, const QPoint &pos,
+    /// @return false where the content has no user interface, though the settings require one
+    bool showWithContent(QObject *object, const QRect &part, const QPoint &pos,
         HRXmlElement *content, const QString &rootPath);
 
     QRect screen() const;

@@ -44,7 +44,8 @@ struct Fixture
     }
 
     TestPackages packages;
-    HRControlPrefilter reader;
+    HRControlErrors errors;
+    HRControlPrefilter reader{ errors };
     HRControlRecords records;
     HRControlRecord *record = nullptr;
     QLocale locale;

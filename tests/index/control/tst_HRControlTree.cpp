@@ -33,8 +33,10 @@ void tst_HRControlTree::readOnlyTree_buildsTheWantedEntryAlone()
     const TestPackages packages;
     const QString file = packages.writeControl("A", "a.xml",
         "<hintreel key='pen'><title>Pen</title></hintreel><hintreel key='line'/><other/>");
-    const auto tree = readOnlyTree(file, generateContentElement, "pen");
+    HRControlErrors errors;
+    const auto tree = readOnlyTree(file, generateContentElement, "pen", errors);
     QVERIFY(tree);
+    QVERIFY(errors.isEmpty());
     QCOMPARE(tree->toXml(),
         QString("<hintreels>\n  <hintreel key=\"pen\">\n    <title/>\n  </hintreel>\n"
                 "</hintreels>"));
@@ -46,8 +48,11 @@ void tst_HRControlTree::readOnlyTree_returnsNull_whenTheFileEndsInTheRoot()
     const TestPackages packages;
     const QString file
         = packages.write("a.xml", "<hintreels><hintreel key='pen'><title/></hintreel><");
-    QVERIFY(!readOnlyTree(file, generateContentElement, "pen"));
+    HRControlErrors errors;
+    QVERIFY(!readOnlyTree(file, generateContentElement, "pen", errors));
     QCOMPARE(messages.takeMessages().size(), 1);
+    QCOMPARE(errors.value(file).line, 1);
+    QCOMPARE(errors.value(file).text, QString("unexpected end of file"));
 }
 
 void tst_HRControlTree::readOnlyTree_returnsALiveTree_whenTheErrorComesAfterTheRoot()
@@ -56,7 +61,8 @@ void tst_HRControlTree::readOnlyTree_returnsALiveTree_whenTheErrorComesAfterTheR
     const TestPackages packages;
     const QString file
         = packages.write("a.xml", "<hintreels><hintreel key='pen'/></hintreels><more/>");
-    const auto tree = readOnlyTree(file, generateContentElement, "pen");
+    HRControlErrors errors;
+    const auto tree = readOnlyTree(file, generateContentElement, "pen", errors);
     QVERIFY(tree);
     QCOMPARE(tree->children().size(), 1);
     QCOMPARE(messages.takeMessages().size(), 1);
