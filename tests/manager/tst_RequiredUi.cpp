@@ -53,7 +53,7 @@ void tst_RequiredUi::show_isNoHint_withoutUi_data()
     QTest::newRow("no search") << QByteArray() << missing.arg("ui/HintreelUI.qml", "%1")
                                << "Can't find :";
     QTest::newRow("search that names no package")
-        << QByteArray("search=\"Standart\"") << missing.arg("ui/HintreelUI.qml", "%1")
+        << QByteArray("search=\"Standards\"") << missing.arg("ui/HintreelUI.qml", "%1")
         << "Can't find :";
     QTest::newRow("another file") << QByteArray("search=\"A\" ui=\"ui/Own.qml\"")
                                   << missing.arg("ui/Own.qml", "%1") + ", %1/A.hintreels/ui/Own.qml"

@@ -11,7 +11,8 @@
 
 namespace Hintreels {
 
-/// Places a popup beside the part that its hint belongs to, and knows the way from one to the other.
+/// Places a popup beside the part that its hint belongs to, and knows the way from one to the
+/// other.
 ///
 /// All positions are global. The widget may be deleted at any time. GUI thread only.
 class HRBesidePlacement

@@ -42,9 +42,9 @@ struct HRPlaced
 /// Finds the place for a popup of a size: beside the part on a side that has room for it, covering
 /// neither part nor menus nor pointer.
 ///
-/// The hint of a menu's entry stands beside the menu as a whole. Where no side of the part has room,
-/// the popup stands beside the pointer; where that has no room either it sticks out of the screen,
-/// on the side where least of it does. A side on which it stands already is tried first.
+/// The hint of a menu's entry stands beside the menu as a whole. Where no side of the part has
+/// room, the popup stands beside the pointer; where that has no room either it sticks out of the
+/// screen, on the side where least of it does. A side on which it stands already is tried first.
 HRPlaced placedBeside(const HRPlace &place, const QSize &popup);
 
 /// Whether a position is on a straight way from a point of one area to a point of the other.
