@@ -220,7 +220,7 @@ bool HRManager::openExternalResource(const QString &resource)
 bool HRManager::eventFilter(QObject *watched, QEvent *event)
 {
     const std::shared_ptr<HRManagerPrivate> work = d;
-    return work->hoverFilter.filter(watched, *event);
+    return work->popupTakes(watched, *event) || work->hoverFilter.filter(watched, *event);
 }
 
 bool HRManager::mouseMoveEventFilter(QObject *, QMouseEvent *event)

@@ -6,6 +6,7 @@
 #include "context/setting_p.h"
 #include "index/HRIndex.h"
 #include "manager/popupFactory_p.h"
+#include "ui/popup/HRWidgetPrivate_p.h"
 #include "ui/popup/quickRenderer_p.h"
 
 #include <QGuiApplication>
@@ -60,6 +61,12 @@ bool HRManagerPrivate::show(const HRHover &hover)
         return false;
     ensurePopup();
     return presenter.show(hover);
+}
+
+bool HRManagerPrivate::popupTakes(QObject *watched, QEvent &event) const
+{
+    return watched && presenter.isPopupVisible()
+        && HRWidgetPrivate::of(*presenter.popup()).takeEvent(*watched, event);
 }
 
 /// False where the host has deleted the manager meanwhile.

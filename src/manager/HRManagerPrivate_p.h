@@ -42,6 +42,9 @@ struct HRManagerPrivate
     /// Makes a popup for hovers where there is none.
     void ensurePopup();
 
+    /// Whether a visible popup takes an event of somebody, and nobody else may see it.
+    bool popupTakes(QObject *watched, QEvent &event) const;
+
     HRManager *q;
     HRInterface *interface;
     QStringList dataPaths;

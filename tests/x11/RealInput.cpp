@@ -87,6 +87,16 @@ void type(const QString &letters)
     xdotool({ "type", "--delay", "20", letters });
 }
 
+void key(const QString &stroke)
+{
+    xdotool({ "key", stroke });
+}
+
+void scroll()
+{
+    xdotool({ "click", "5" });
+}
+
 QImage screenshot()
 {
     if (QGuiApplication::platformName() == "xcb")

@@ -31,6 +31,12 @@ void release();
 void click(const QPoint &position);
 void type(const QString &letters);
 
+/// Presses and releases a key with its modifiers, as in "ctrl+k".
+void key(const QString &stroke);
+
+/// Turns the wheel down by one step.
+void scroll();
+
 /// What the X server shows now.
 QImage screenshot();
 

@@ -5,6 +5,7 @@
 
 #include "context/setting_p.h"
 #include "ui/popup/HRViewPrivate_p.h"
+#include "ui/popup/popupDismissal_p.h"
 #include "ui/popup/popupFit_p.h"
 #include "ui/popup/popupGeometry_p.h"
 #include "ui/popup/popupScreen_p.h"
@@ -39,8 +40,7 @@ bool HRWidgetPrivate::showWithContent(QObject *object, const QRect &part, const 
     if (!content || !view)
         return true;
     q->cancelHiding();
-    reference = qobject_cast<QWidget *>(object);
-    area = part;
+    takeReference(object, part);
     view->setPackageRoot(rootPath);
     HRContent previous;
     if (content != view->content())
@@ -61,6 +61,13 @@ bool HRWidgetPrivate::showWithContent(QObject *object, const QRect &part, const 
     takeInContent();
     q->showAnimated();
     return true;
+}
+
+bool HRWidgetPrivate::takeEvent(QObject &watched, QEvent &event)
+{
+    if (takesAway(*q, watched, event))
+        dismissNatively();
+    return false;
 }
 
 QRect HRWidgetPrivate::screen() const
@@ -110,11 +117,25 @@ void HRWidgetPrivate::makeRoom()
     q->move(placeFor(QRect(frame.topLeft(), grown.expandedTo(frame.size()))));
 }
 
+bool HRWidgetPrivate::stays() const
+{
+    return reserved || (view && view->stayOpen());
+}
+
 /// 0 for a popup that is to stay.
 double HRWidgetPrivate::hideDelay() const
 {
-    const bool stays = reserved || (view && view->stayOpen());
-    return stays ? 0.0 : double(setting(settings(), hideDelayKey, 3000.0F));
+    return stays() ? 0.0 : double(setting(settings(), hideDelayKey, 3000.0F));
+}
+
+void HRWidgetPrivate::takeReference(QObject *object, const QRect &part)
+{
+    QObject::disconnect(referenceGone);
+    reference = qobject_cast<QWidget *>(object);
+    area = part;
+    if (reference)
+        referenceGone
+            = QObject::connect(reference, &QObject::destroyed, q, [this] { dismissNatively(); });
 }
 
 /// On Wayland a popup has its position only beside a window that it belongs to.
@@ -231,6 +252,13 @@ void HRWidgetPrivate::dismiss()
     if (reserved)
         q->window()->close();
     else
+        q->hide();
+}
+
+/// A popup that its UI keeps open is there to be followed while the host is used.
+void HRWidgetPrivate::dismissNatively()
+{
+    if (!stays() && setting(settings(), nativeDismissalKey, false))
         q->hide();
 }
 

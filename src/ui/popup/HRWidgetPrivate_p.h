@@ -35,7 +35,13 @@ struct HRWidgetPrivate
     bool showWithContent(QObject *object, const QRect &part, const QPoint &pos,
         HRXmlElement *content, const QString &rootPath);
 
+    /// Lets an event that somebody gets do to the visible popup what the settings say. The host may
+    /// delete the popup then.
+    /// @return true where nobody else may see the event
+    bool takeEvent(QObject &watched, QEvent &event);
+
     QRect screen() const;
+    bool stays() const;
     double hideDelay() const;
     bool standsBeside() const;
     QSize pointerOffset() const;
@@ -43,6 +49,7 @@ struct HRWidgetPrivate
     void takePlace(const QPoint &pos);
     void makeRoom();
 
+    void takeReference(QObject *object, const QRect &part);
     void followReferenceWindow();
     void keepTimeFor(const QPoint &pointer);
     void followStayOpen();
@@ -56,12 +63,14 @@ struct HRWidgetPrivate
     void takeInContent();
     void followScene();
     void dismiss();
+    void dismissNatively();
 
     HRWidget *q;
     QPointer<HRManager> manager;
     QPointer<HRView> view;
     QPointer<QWidget> container;
     QPointer<QWidget> reference;
+    QMetaObject::Connection referenceGone;
     QRect area; // of the part that the hint belongs to, global; null for the whole reference
     std::optional<HRBesidePlacement> beside; // of the hint on show, where it asks for that
     HRPopupFade fade;
