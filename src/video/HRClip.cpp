@@ -19,6 +19,13 @@ qint64 mostPixels(qint64 largestPicture)
     return qBound(qint64(0), largestPicture + roundedUp, qint64(std::numeric_limits<int>::max()));
 }
 
+/// @param ticks of @p unit; not a number where FFmpeg knows none
+double toSeconds(qint64 ticks, AVRational unit)
+{
+    return ticks == AV_NOPTS_VALUE ? std::numeric_limits<double>::quiet_NaN()
+                                   : double(ticks) * quotient(unit);
+}
+
 QString tooLarge()
 {
     return QStringLiteral("Could not allocate rgb frame in %1");
@@ -126,6 +133,9 @@ QString HRClip::tryOpen(const QString &path)
 HRVideoFrame HRClip::convertPicture()
 {
     const AVFrame *picture = m_decoder.picture();
+    const AVRational unit = m_demuxer.stream()->time_base;
+    m_pictureTime = { toSeconds(picture->best_effort_timestamp, unit),
+        toSeconds(picture->pkt_duration, unit) };
     HRVideoFrame converted;
     if (qint64(picture->width) * picture->height <= m_largestPicture)
         converted = m_converter.convert(picture);

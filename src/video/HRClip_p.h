@@ -6,6 +6,7 @@
 #include "video/HRMediaDecoder_p.h"
 #include "video/HRMediaDemuxer_p.h"
 #include "video/HRPictureConverter_p.h"
+#include "video/HRPictureTimes_p.h"
 
 namespace Hintreels {
 
@@ -43,6 +44,8 @@ public:
     /// cannot be read or allocated, and when asked to stop. A picture that cannot be decoded is
     /// passed over.
     HRVideoFrame readPicture();
+    /// Of the picture that was read last, as the file has it.
+    HRFileTime pictureTime() const { return m_pictureTime; }
     /// While it is open: goes to @p seconds, as near as the format allows.
     void seek(double seconds, bool backward);
     /// While it is open: goes to the start. Pictures that the decoder holds still come first,
@@ -58,6 +61,7 @@ private:
 
     qint64 m_largestPicture = standardLargestPicture; // pixels
     QString m_failure;
+    HRFileTime m_pictureTime;
     HRMediaDemuxer::ShouldStop m_shouldStop;
     HRMediaDemuxer m_demuxer;
     HRMediaDecoder m_decoder;

@@ -33,7 +33,7 @@ std::chrono::nanoseconds HRPacing::delay() const
     // be measured at all makes up for the pictures that were not fetched.
     const double elapsed = elapsedMilliseconds(last, now) * 1000.0;
     const double wait = behind - std::min(elapsed, behind);
-    const double seconds = std::max(wait, period);
+    const double seconds = shown > 0.0 ? shown : std::max(wait, period);
     if (!std::isfinite(seconds) || seconds <= 0.0)
         return std::chrono::nanoseconds(0);
     return std::chrono::nanoseconds(

@@ -19,9 +19,11 @@ struct HRPacing
     double frameRate = 0.0; ///< pictures per second
     QDateTime last; ///< when the position last moved on; invalid before that
     QDateTime now;
+    double shown = 0.0; ///< seconds that the file gives the picture; 0 where the rate decides
 
-    /// 0 where the rate says nothing: one period as a rule, to the nanosecond, or else what the
-    /// pictures take that nobody has fetched, as far as that time has not passed.
+    /// What the file says. Without that one period as a rule, to the nanosecond, or else what the
+    /// pictures take that nobody has fetched, as far as that time has not passed; 0 where the rate
+    /// says nothing.
     std::chrono::nanoseconds delay() const;
 };
 

@@ -11,6 +11,13 @@
 
 namespace Hintreels {
 
+namespace {
+
+constexpr QLatin1String timedByRate("constant");
+constexpr QLatin1String timedByFile("file");
+
+} // namespace
+
 HRVideoComponent::HRVideoComponent(QQuickItem *parent)
     : QQuickPaintedItem(parent)
     , d(new HRVideoComponentPrivate(this))
@@ -155,6 +162,31 @@ double HRVideoComponent::pictureTime() const
     return d->picture.pts();
 }
 
+double HRVideoComponent::length() const
+{
+    return d->awaitedSources > 0 ? 0.0 : d->videoSource->clipLength();
+}
+
+qint64 HRVideoComponent::positionAt(double seconds) const
+{
+    return qint64(d->videoSource->indexAt(seconds));
+}
+
+QString HRVideoComponent::timing() const
+{
+    return d->videoSource->isTimedByFile() ? timedByFile : timedByRate;
+}
+
+void HRVideoComponent::setTiming(const QString &timing)
+{
+    if (timing == this->timing() || (timing != timedByFile && timing != timedByRate))
+        return;
+    d->videoSource->setTimedByFile(timing == timedByFile);
+    Q_EMIT timingChanged();
+    d->tellLength();
+    d->controller->setNeedFrame(true); // with its new time
+}
+
 bool HRVideoComponent::isDecoded() const
 {
     return d->clip.isDecoded();
@@ -222,6 +254,7 @@ void HRVideoComponent::frameReady()
     }
     if (d->picture.pts() != timeBefore)
         Q_EMIT timeChanged();
+    d->tellLength();
     update();
     d->apply(HRClipEvent::pictureShown);
 }

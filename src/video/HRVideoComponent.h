@@ -40,6 +40,8 @@ class HINTREELS_EXPORT HRVideoComponent : public QQuickPaintedItem
     Q_PROPERTY(bool ended READ hasEnded NOTIFY endedChanged)
     Q_PROPERTY(bool keepPlaying READ keepsPlaying WRITE setKeepPlaying NOTIFY keepPlayingChanged)
     Q_PROPERTY(bool loop READ isLooping WRITE setLooping NOTIFY loopChanged)
+    Q_PROPERTY(double length READ length NOTIFY lengthChanged)
+    Q_PROPERTY(QString timing READ timing WRITE setTiming NOTIFY timingChanged)
 
     ///@}
 public:
@@ -96,8 +98,20 @@ public:
     double loadProgress() const;
 
     /// The time of the painted picture in seconds, 0 where there is none. The clock starts with the
-    /// item's first clip and runs on from clip to clip.
+    /// item's first clip and runs on from clip to clip; that of the file starts with each clip.
     Q_INVOKABLE double pictureTime() const;
+    /// How long the pictures that are decoded so far are shown, in seconds: with all of them, how
+    /// long the clip is.
+    double length() const;
+    /// The position of the picture that is shown @p seconds after the clip's first.
+    Q_INVOKABLE qint64 positionAt(double seconds) const;
+
+    /// "constant", the default, or "file".
+    QString timing() const;
+    /// With "constant" all pictures are shown for the same time, at the clip's rate; with "file"
+    /// each for the time that the file says. Times that go back, are missing or stand still for
+    /// more than 10 s count as one period of the rate. Any other value leaves it as it is.
+    void setTiming(const QString &timing);
 
     /// Whether all pictures of the clip are there.
     bool isDecoded() const;
@@ -143,6 +157,8 @@ Q_SIGNALS:
     /// The clip has been played to its end, and its last picture is shown; when looping, the first
     /// follows.
     void finished();
+    void lengthChanged(); ///< more of the clip is known, or another clip was set
+    void timingChanged(); ///< it was set to another value
 
 public Q_SLOTS:
     /// Fetches the picture that is due.

@@ -53,6 +53,7 @@ void HRVideoComponentPrivate::decodingEnded()
 {
     if (awaitedSources > 0)
         return; // that of the clip before
+    tellLength();
     apply(HRClipEvent::decoded);
     lookForEnd();
 }
@@ -63,6 +64,7 @@ void HRVideoComponentPrivate::dropPicture()
     picture = HRVideoFrame();
     if (isTimeKnown)
         Q_EMIT q->timeChanged();
+    tellLength();
     q->update();
 }
 
@@ -108,6 +110,15 @@ void HRVideoComponentPrivate::showLastPicture()
     if (picture.pts() != timeBefore)
         Q_EMIT q->timeChanged();
     q->update();
+}
+
+void HRVideoComponentPrivate::tellLength()
+{
+    const double length = q->length();
+    if (lengthSeen == length)
+        return;
+    lengthSeen = length;
+    Q_EMIT q->lengthChanged();
 }
 
 } // namespace Hintreels

@@ -28,6 +28,7 @@ struct HRVideoComponentPrivate
     void obey(HRClipState::Action action);
     void announce(const HRClipState &before, const HRClipState &after);
     void showLastPicture();
+    void tellLength();
 
     HRVideoComponent *const q;
     HRVideoSourceFFMPEG *const videoSource;
@@ -35,6 +36,7 @@ struct HRVideoComponentPrivate
     HRVideoFrame picture;
     double contentHeightSeen = 0.0;
     double progressSeen = 0.0;
+    double lengthSeen = 0.0;
     QString searchPath;
     QString source;
     // Clips that were asked for and have not replaced the one before yet, whose pictures are not

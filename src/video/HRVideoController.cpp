@@ -44,7 +44,7 @@ HRVideoFrame HRVideoControllerPrivate::picture(quint64 index) const
 void HRVideoControllerPrivate::pace(const HRPlayhead::Advance &advance, HRDueTime::Time came)
 {
     HRPacing pacing{ advance.displayed, advance.position, source->frameRate(), {},
-        QDateTime::currentDateTime() };
+        QDateTime::currentDateTime(), source->shownByFile(advance.position) };
     {
         const HRMutexLocker lock(controllerMutex);
         pacing.last = lastFrameDisplayTime;

@@ -7,11 +7,23 @@
 #include "video/HRVideoSource_p.h"
 #include "video/stopThread_p.h"
 
+#include <algorithm>
+#include <limits>
+
 namespace Hintreels {
 
 namespace {
 
 constexpr std::chrono::milliseconds longestPause(100);
+
+// Of a picture: its own time is to find it, and a fraction of it is to find none before.
+constexpr double rounding = 1e-6;
+
+/// In seconds; 0 where the rate says nothing.
+double periodOf(double rate)
+{
+    return rate > 0.0 ? 1.0 / rate : 0.0;
+}
 
 } // namespace
 
@@ -136,6 +148,13 @@ bool HRVideoSource::shouldQuit()
 
 void HRVideoSource::pushFrame(const HRVideoFrame &picture)
 {
+    const double unknown = std::numeric_limits<double>::quiet_NaN();
+    pushFrame(picture, unknown, unknown);
+}
+
+void HRVideoSource::pushFrame(const HRVideoFrame &picture, double start, double length)
+{
+    const double period = periodOf(frameRate());
     std::function<void()> tellOfFirst;
     {
         const HRMutexLocker lock(d->frameMutex);
@@ -144,6 +163,9 @@ void HRVideoSource::pushFrame(const HRVideoFrame &picture)
         if (d->cache->length() == 0)
             tellOfFirst = d->onFirstPicture;
         d->cache->addFrame(picture);
+        // Which leaves out what there is no memory for.
+        if (d->cache->length() > d->times.count())
+            d->times.append({ start, length }, period);
     }
     if (tellOfFirst)
         tellOfFirst();
@@ -152,7 +174,12 @@ void HRVideoSource::pushFrame(const HRVideoFrame &picture)
 HRVideoFrame HRVideoSource::getFrame(unsigned int index)
 {
     const HRMutexLocker lock(d->frameMutex);
-    return isFrameAvailable(index) ? d->cache->frame(index) : HRVideoFrame();
+    if (!isFrameAvailable(index))
+        return HRVideoFrame();
+    HRVideoFrame picture = d->cache->frame(index);
+    if (d->isTimedByFile)
+        picture.setPts(d->times.start(index));
+    return picture;
 }
 
 bool HRVideoSource::isFrameAvailable(size_t index)
@@ -170,6 +197,46 @@ size_t HRVideoSource::totalFrameCount()
 {
     const HRMutexLocker lock(d->frameMutex);
     return d->cache ? d->cache->length() : 0;
+}
+
+void HRVideoSource::setTimedByFile(bool timed)
+{
+    const HRMutexLocker lock(d->frameMutex);
+    d->isTimedByFile = timed;
+}
+
+bool HRVideoSource::isTimedByFile()
+{
+    const HRMutexLocker lock(d->frameMutex);
+    return d->isTimedByFile;
+}
+
+double HRVideoSource::shownByFile(size_t index)
+{
+    const HRMutexLocker lock(d->frameMutex);
+    if (!d->isTimedByFile || index >= d->times.count())
+        return 0.0;
+    return d->times.end(index) - d->times.start(index);
+}
+
+double HRVideoSource::clipLength()
+{
+    const double period = periodOf(frameRate());
+    const HRMutexLocker lock(d->frameMutex);
+    return d->isTimedByFile ? d->times.length() : double(d->times.count()) * period;
+}
+
+size_t HRVideoSource::indexAt(double seconds)
+{
+    const double length = clipLength();
+    const HRMutexLocker lock(d->frameMutex);
+    const size_t count = d->times.count();
+    if (d->isTimedByFile)
+        return d->times.indexAt(seconds);
+    if (!(seconds > 0.0) || !(length > 0.0))
+        return 0;
+    const double passed = double(count) * std::min(seconds / length, 1.0);
+    return std::min(size_t(passed + rounding), count - 1);
 }
 
 void HRVideoSource::onFirstPicture(std::function<void()> tell)
@@ -191,6 +258,7 @@ void HRVideoSource::setupSource()
     {
         const HRMutexLocker lock(d->frameMutex);
         d->cache.swap(previous);
+        d->times.clear();
     }
     // Freeing a long clip takes a while, and nobody waits for it here.
     previous.reset();
@@ -210,6 +278,7 @@ void HRVideoSource::dropClip()
     {
         const HRMutexLocker lock(d->frameMutex);
         d->cache.swap(dropped);
+        d->times.clear();
     }
 }
 

@@ -100,7 +100,12 @@ public:
 
     /// Appends a picture to the cache of the current clip.
     void pushFrame(const HRVideoFrame &picture);
-    /// The picture at @p index, or a null one where there is none.
+    /// The same for a picture of which the file says when it is shown.
+    /// @param start in seconds; not a number where the file does not tell
+    /// @param length in seconds, as @p start
+    void pushFrame(const HRVideoFrame &picture, double start, double length);
+    /// The picture at @p index, or a null one where there is none. Its time is that of the source's
+    /// clock, or else of setTimedByFile().
     HRVideoFrame getFrame(unsigned int index);
     /// Whether the picture at @p index is decoded.
     bool isFrameAvailable(size_t index);
@@ -108,6 +113,20 @@ public:
     size_t loadedFrameCount();
     /// The same: all pictures that are known of are loaded.
     size_t totalFrameCount();
+    /// Whether pictures are shown for the times that the file says, from 0 on, instead of all for
+    /// the same. Times that go back, are missing or stand still for more than 10 s count as the
+    /// length of a picture at the clip's rate.
+    void setTimedByFile(bool timed);
+    /// What setTimedByFile() has set.
+    bool isTimedByFile();
+    /// How long the picture at @p index is shown by the file, in seconds; 0 where pictures are not
+    /// timed so, or there is none.
+    double shownByFile(size_t index);
+    /// How long the pictures that are decoded so far are shown, in seconds; 0 where they are not
+    /// timed by the file and their rate is not known.
+    double clipLength();
+    /// The index of the picture that is shown @p seconds after the first one; at most the last.
+    size_t indexAt(double seconds);
     /// Has @p tell called at the first picture of each clip, on the source's thread and with no
     /// lock held; in place of what was to be called before.
     void onFirstPicture(std::function<void()> tell);

@@ -249,6 +249,7 @@ void HRVideoSourceFFMPEG::releaseMedia()
 bool HRVideoSourceFFMPEG::decodeNextPicture()
 {
     HRVideoFrame picture;
+    HRFileTime time;
     QString failure;
     QString path;
     {
@@ -264,12 +265,13 @@ bool HRVideoSourceFFMPEG::decodeNextPicture()
             d->clip.rewind();
             d->release();
         } else {
+            time = d->clip.pictureTime();
             picture.setPts(d->clock.tick(frameRate()));
             d->publishProgress(picture.pts());
         }
     }
     if (!picture.isNull()) {
-        pushFrame(picture);
+        pushFrame(picture, time.start, time.length);
         return true;
     }
     if (!shouldQuit()) {

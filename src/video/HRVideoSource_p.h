@@ -4,6 +4,7 @@
 #pragma once
 
 #include "video/HRMutex_p.h"
+#include "video/HRPictureTimes_p.h"
 #include "video/HRVideoActionQueue_p.h"
 #include "video/HRVideoFrameCache.h"
 
@@ -20,6 +21,8 @@ struct HRVideoSourcePrivate
     HRMutex stateMutex{ HRLock::state };
     HRVideoActionQueue changes;
     std::unique_ptr<HRVideoFrameCache> cache; // guarded by frameMutex, contents included
+    HRPictureTimes times; // of the cache's pictures by the file; guarded by frameMutex
+    bool isTimedByFile = false; // guarded by frameMutex
     std::function<void()> onFirstPicture; // guarded by frameMutex
 };
 

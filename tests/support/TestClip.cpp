@@ -41,7 +41,7 @@ public:
         avformat_free_context(m_output);
     }
 
-    void encode(const QImage &picture, int number)
+    void encode(const QImage &picture, int time)
     {
         check(av_frame_make_writable(m_frame.get()));
         const QImage image = picture.convertToFormat(QImage::Format_RGB32);
@@ -49,7 +49,7 @@ public:
         const int strides[4] = { image.bytesPerLine() };
         sws_scale(
             m_scaler.get(), planes, strides, 0, image.height(), m_frame->data, m_frame->linesize);
-        m_frame->pts = number;
+        m_frame->pts = time;
         send(m_frame.get());
     }
 
@@ -132,7 +132,7 @@ QString TestClip::write(const QString &path, const Draw &draw) const
     av_log_set_level(AV_LOG_QUIET);
     Encoder encoder(*this, path);
     for (int i = 0; i < pictures; ++i)
-        encoder.encode(draw(size, i), i);
+        encoder.encode(draw(size, i), times.value(i, i));
     encoder.finish();
     return path;
 }

@@ -7,6 +7,7 @@
 #include <QImage>
 #include <QSize>
 #include <QString>
+#include <QVector>
 
 #include <functional>
 
@@ -19,6 +20,7 @@ struct TestClip
     int pictures = 8;
     int rate = 30; ///< pictures in @c seconds
     int seconds = 1;
+    QVector<int> times; ///< of the pictures, in units of the rate; evenly where there are none
     QByteArray codec = "libx264"; ///< name of an FFmpeg encoder; B pictures where it can
     QByteArray format = "yuv420p"; ///< FFmpeg's name of the pixel format
     QByteArray options = "crf=12:preset=veryfast:bf=2"; ///< of the encoder

@@ -111,6 +111,7 @@ private Q_SLOTS:
     void video_hasAButtonThatLeavesItInSight();
     void video_keepsItsAspect_whenItIsWide();
     void video_showsTheCaptionOfItsPicture();
+    void video_keepsToTheTimesOfItsFile();
     void video_isReachedByKeyboard_whenDetached();
     void video_isReachedByScreenReaders_whilePlaying();
 };
@@ -379,6 +380,27 @@ void tst_StandardUiClips::video_showsTheCaptionOfItsPicture()
     fixture.host->context().set(localeKey, "de_DE");
     fixture.show();
     QTRY_COMPARE(fixture.text("clipCaption"), QString("Zuerst"));
+}
+
+void tst_StandardUiClips::video_keepsToTheTimesOfItsFile()
+{
+    TestClip varying;
+    varying.rate = 100;
+    varying.times = { 0, 300, 305, 990 };
+    varying.pictures = varying.times.size();
+    ClipFixture fixture({}, varying);
+    fixture.context.set(reducedMotionKey, true);
+    fixture.packages.write("Test.hintreels/Resources/clip.vtt",
+        "WEBVTT\n\n00:00.000 --> 00:03.000\nFirst\n\n00:03.050 --> 00:09.000\nThird\n");
+    fixture.show();
+    QTRY_VERIFY(fixture.isDecoded());
+    QTRY_COMPARE(fixture.text("clipCaption"), QString("First"));
+
+    fixture.click(fixture.item("progressLine")); // in the middle
+
+    QTRY_COMPARE(qRound(100 * fixture.time()), 305);
+    QVERIFY(qAbs(fixture.progress() - 0.3) < 0.05);
+    QCOMPARE(fixture.text("clipCaption"), QString("Third"));
 }
 
 void tst_StandardUiClips::video_isReachedByKeyboard_whenDetached()

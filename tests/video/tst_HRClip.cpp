@@ -38,7 +38,6 @@ private Q_SLOTS:
     void seek_goesOnFromThere();
     void restart_keepsWhatTheDecoderHolds();
     void restart_startsAnew_whenTheDecoderIsDrained();
-    void facts_describeTheClip();
     void damagedFiles_neitherCrashNorHang_data();
     void damagedFiles_neitherCrashNorHang();
 
@@ -425,21 +424,6 @@ void tst_HRClip::restart_startsAnew_whenTheDecoderIsDrained()
     QCOMPARE(numbersOf(readAll(&clip)), upTo(20));
     clip.restart();
     QCOMPARE(numbersOf(readAll(&clip)), upTo(20));
-}
-
-void tst_HRClip::facts_describeTheClip()
-{
-    TestClip encoded;
-    encoded.size = QSize(90, 50);
-    encoded.rate = 20;
-    encoded.pictures = 10;
-    HRClip clip(neverStop);
-    QCOMPARE(clip.open(encoded.write(path("facts.mp4"))), QString());
-    const HRClipFacts facts = clip.facts();
-    QCOMPARE(facts.size, QSize(90, 50));
-    QCOMPARE(facts.duration, 0.5);
-    QCOMPARE(facts.frameRate, 20.0);
-    QVERIFY(facts.timeBase >= 0.0);
 }
 
 void tst_HRClip::damagedFiles_neitherCrashNorHang_data()

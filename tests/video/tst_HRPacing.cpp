@@ -17,6 +17,8 @@ class tst_HRPacing : public QObject
 private Q_SLOTS:
     void delay_followsRateBacklogAndClock_data();
     void delay_followsRateBacklogAndClock();
+    void delay_isWhatTheFileSays_data();
+    void delay_isWhatTheFileSays();
     void dueTime_doesNotDrift_data();
     void dueTime_doesNotDrift();
     void dueTime_countsFromNow_whereNothingWasWaitedFor();
@@ -63,8 +65,29 @@ void tst_HRPacing::delay_followsRateBacklogAndClock()
     QFETCH(double, rate);
     QFETCH(QDateTime, last);
     QFETCH(QDateTime, now);
-    const HRPacing pacing{ displayed, position, rate, last, now };
+    const HRPacing pacing{ displayed, position, rate, last, now, 0.0 };
     QTEST(double(pacing.delay().count()) / 1e6, "delay");
+}
+
+void tst_HRPacing::delay_isWhatTheFileSays_data()
+{
+    QTest::addColumn<quint64>("displayed");
+    QTest::addColumn<double>("rate");
+    QTest::addColumn<double>("shown"); // seconds
+    QTest::newRow("longer than a period") << quint64(4) << 25.0 << 2.5;
+    QTest::newRow("shorter than a period") << quint64(4) << 25.0 << 0.01;
+    QTest::newRow("with a backlog") << quint64(0) << 25.0 << 0.5;
+    QTest::newRow("without a rate") << quint64(4) << 0.0 << 0.5;
+}
+
+void tst_HRPacing::delay_isWhatTheFileSays()
+{
+    QFETCH(quint64, displayed);
+    QFETCH(double, rate);
+    QFETCH(double, shown);
+    const QDateTime now(QDate(2026, 6, 1), QTime(12, 0), Qt::UTC);
+    const HRPacing pacing{ displayed, 5, rate, now, now, shown };
+    QCOMPARE(double(pacing.delay().count()) / 1e9, shown);
 }
 
 void tst_HRPacing::dueTime_doesNotDrift_data()
@@ -95,7 +118,7 @@ void tst_HRPacing::dueTime_doesNotDrift()
         const double ahead = double(i) * period - double((now - start).count());
         QVERIFY2(ahead < 1e4, qPrintable(QString("picture %1: %2 ns").arg(i).arg(ahead)));
         // Each picture is fetched before the next is due.
-        const HRPacing pacing{ i, i, rate, midnight, midnight.addMSecs(1) };
+        const HRPacing pacing{ i, i, rate, midnight, midnight.addMSecs(1), 0.0 };
         due = dueTime.next(now, pacing.delay());
         const std::chrono::nanoseconds delayed(qint64(lateness(random)));
         now = std::max(now, due + delayed);

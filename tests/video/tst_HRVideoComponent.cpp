@@ -324,16 +324,16 @@ void tst_HRVideoComponent::metaObject_keepsItsOrder()
             "progressChanged()", "heightChanged()", "searchPathChanged()", "scrubbingChanged()",
             "contentHeightChanged()", "contentWidthChanged()", "loadProgressChanged()",
             "timeChanged()", "decodedChanged()", "endedChanged()", "keepPlayingChanged()",
-            "loopChanged()", "finished()", "frameReady()", "play()", "pause()",
-            "sourceChangedState()", "rewindToStart()", "controllerPositionChanged()",
-            "pictureTime()" }));
+            "loopChanged()", "finished()", "lengthChanged()", "timingChanged()", "frameReady()",
+            "play()", "pause()", "sourceChangedState()", "rewindToStart()",
+            "controllerPositionChanged()", "pictureTime()", "positionAt(double)" }));
     QStringList properties;
     for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i)
         properties += meta.property(i).name();
     QCOMPARE(properties,
         (QStringList{ "source", "state", "position", "progress", "searchPath", "scrubbing",
             "contentHeight", "contentWidth", "loadProgress", "time", "decoded", "ended",
-            "keepPlaying", "loop" }));
+            "keepPlaying", "loop", "length", "timing" }));
 }
 
 QTEST_MAIN(tst_HRVideoComponent)

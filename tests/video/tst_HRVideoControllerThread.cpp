@@ -28,6 +28,7 @@ private Q_SLOTS:
     void thread_showsThePictureAtTheNewPosition_whilePaused();
     void thread_playsEveryPictureAndPauses();
     void thread_playsAtTheClipsRate();
+    void thread_showsAPictureAsLongAsTheFileSays();
     void thread_neverRunsAhead_whateverIsAsked_data();
     void thread_neverRunsAhead_whateverIsAsked();
     void thread_waitsForTheWholeBacklog_afterAPause();
@@ -133,6 +134,28 @@ void tst_HRVideoControllerThread::thread_playsAtTheClipsRate()
     playback.controller->start();
     QTRY_COMPARE(playback.controller->state(), HRVideoController::controllerPaused);
     QVERIFY2(timer.elapsed() >= 11 * 20 - 2, qPrintable(QString("%1 ms").arg(timer.elapsed())));
+}
+
+void tst_HRVideoControllerThread::thread_showsAPictureAsLongAsTheFileSays()
+{
+    Playback byRate(50); // 1 s
+    Playback byFile(0);
+    byFile.source.load(Playback::url(), 0);
+    const HRVideoFrame picture(TestClip::numbered(QSize(40, 30), 0), 0);
+    for (double start : { 0.0, 0.001, 10.0, 10.001, 10.002 })
+        byFile.source.pushFrame(picture, start, 0.001);
+    byFile.source.setTimedByFile(true);
+    byRate.controller->play();
+    byFile.controller->play();
+    byFile.controller->start();
+    byRate.controller->start();
+    QTRY_COMPARE(byRate.controller->state(), HRVideoController::controllerPaused);
+    QTRY_COMPARE(byFile.controller->position(), size_t(2)); // and there it stays for 10 s
+    QCOMPARE(byFile.controller->state(), HRVideoController::controllerPlaying);
+
+    byFile.controller->setPosition(2);
+    QTRY_COMPARE(byFile.controller->state(), HRVideoController::controllerPaused);
+    QCOMPARE(byFile.controller->position(), size_t(5));
 }
 
 void tst_HRVideoControllerThread::thread_neverRunsAhead_whateverIsAsked_data()

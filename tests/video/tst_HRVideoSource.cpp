@@ -33,6 +33,9 @@ private Q_SLOTS:
     void setupSource_asksForIdling_whenTheSourceIsEmpty();
     void pictures_areAbsent_withoutACache();
     void getFrame_returnsNull_beyondTheLast();
+    void pictures_areTimedByTheFile_whenAskedFor();
+    void pictures_areTimedAnew_withEachClip();
+    void indexAt_goesByTheRate_asARule();
     void clearChanges_dropsWhatWasAskedFor();
     void loadSource_emitsSourceLoaded();
     void notifyStreamEnded_emitsStreamEnded();
@@ -208,6 +211,61 @@ void tst_HRVideoSource::getFrame_returnsNull_beyondTheLast()
     QVERIFY(source.isFrameAvailable(1));
     QVERIFY(!source.isFrameAvailable(2));
     QVERIFY(source.getFrame(2).isNull());
+}
+
+void tst_HRVideoSource::pictures_areTimedByTheFile_whenAskedFor()
+{
+    FakeSource source;
+    source.load(urlA, 0);
+    HRVideoFrame picture(TestClip::numbered(QSize(4, 3), 0), 7);
+    source.pushFrame(picture, 1.0, 0.5);
+    source.pushFrame(picture, 3.5, 0.5);
+    source.pushFrame(picture);
+    QCOMPARE(source.getFrame(1).pts(), 7.0);
+    QCOMPARE(source.shownByFile(0), 0.0);
+    QCOMPARE(source.clipLength(), 3 / 50.0);
+
+    source.setTimedByFile(true);
+    QVERIFY(source.isTimedByFile());
+    QCOMPARE(source.getFrame(1).pts(), 2.5);
+    QCOMPARE(source.shownByFile(0), 2.5);
+    QCOMPARE(source.shownByFile(2), 1 / 50.0); // of which nothing is known
+    QCOMPARE(source.shownByFile(3), 0.0); // which there is not
+    QCOMPARE(source.clipLength(), 2.5 + 2 / 50.0);
+    QCOMPARE(source.indexAt(2.4), size_t(0));
+    QCOMPARE(source.indexAt(2.5), size_t(1));
+    QVERIFY(source.getFrame(3).isNull());
+}
+
+void tst_HRVideoSource::pictures_areTimedAnew_withEachClip()
+{
+    FakeSource source;
+    source.setTimedByFile(true);
+    for (const QUrl &url : { urlA, urlB }) {
+        source.load(url, 0);
+        QCOMPARE(source.clipLength(), 0.0);
+        source.pushFrame(HRVideoFrame(TestClip::numbered(QSize(4, 3), 0), 0), 5.0, 1.0);
+        QCOMPARE(source.getFrame(0).pts(), 0.0);
+        QCOMPARE(source.clipLength(), 1.0);
+    }
+    source.dropClip();
+    QCOMPARE(source.clipLength(), 0.0);
+}
+
+void tst_HRVideoSource::indexAt_goesByTheRate_asARule()
+{
+    FakeSource source;
+    QCOMPARE(source.indexAt(1.0), size_t(0));
+    source.rate = 30.0;
+    source.load(urlA, 10);
+    for (size_t i = 0; i < 10; ++i)
+        QCOMPARE(source.indexAt(double(i) / 30.0), i);
+    QCOMPARE(source.indexAt(0.99 / 30.0), size_t(0));
+    QCOMPARE(source.indexAt(-1.0), size_t(0));
+    QCOMPARE(source.indexAt(qQNaN()), size_t(0));
+    QCOMPARE(source.indexAt(1e300), size_t(9));
+    source.rate = 0.0;
+    QCOMPARE(source.indexAt(1.0), size_t(0));
 }
 
 void tst_HRVideoSource::clearChanges_dropsWhatWasAskedFor()

@@ -19,7 +19,9 @@ Item {
     readonly property alias ended: video.ended
     readonly property alias time: video.time
     readonly property bool shown: video.implicitWidth > 0
-    readonly property real progress: shown ? Math.min(1, video.progress) : 0
+    // By the clock on which the clip goes, as the captions are.
+    readonly property real progress:
+        ended ? 1 : video.length > 0 ? Math.min(1, video.time / video.length) : 0
     readonly property QtObject hostWindow: Window.window
 
     function textureSize(screenScale) {
@@ -35,7 +37,7 @@ Item {
     function scrubTo(fraction) {
         scrubbing = true
         if (shown)
-            video.progress = fraction
+            video.position = video.positionAt(fraction * video.length)
     }
 
     function endScrubbing() {
@@ -55,6 +57,7 @@ Item {
         // As many pixels as the screen shows of it: a hidden window keeps them.
         textureSize: clip.textureSize(Screen.devicePixelRatio)
         antialiasing: true
+        timing: "file"
         keepPlaying: clip.wanted && clip.watched
         onEndedChanged: {
             if (ended)

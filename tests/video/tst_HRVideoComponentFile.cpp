@@ -1,0 +1,126 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "video/HRVideoComponent.h"
+
+#include "video/ItemStage.h"
+
+#include <QtTest>
+
+using namespace Hintreels;
+
+/// What the item takes from the file where it is told to.
+class tst_HRVideoComponentFile : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void timing_isConstant_untilItIsSet();
+    void timing_followsTheFile();
+    void timing_ofEachClipBeginsAtZero();
+    void length_isToldOfEachClip();
+
+private:
+    QString path(const QString &name) const { return m_directory.filePath(name); }
+    QString varyingClip() const;
+
+    QTemporaryDir m_directory;
+};
+
+namespace {
+
+qint64 indexOf(ItemStage *stage, double seconds)
+{
+    qint64 index = -1;
+    QMetaObject::invokeMethod(
+        stage->item, "positionAt", Q_RETURN_ARG(qint64, index), Q_ARG(double, seconds));
+    return index;
+}
+
+} // namespace
+
+/// Four pictures, shown for 0.2 s, 2 s, 0.3 s and 0.01 s; at the rate that FFmpeg finds for 0.2 s
+/// each.
+QString tst_HRVideoComponentFile::varyingClip() const
+{
+    TestClip clip;
+    clip.rate = 100;
+    clip.times = { 0, 20, 220, 250 };
+    clip.pictures = clip.times.size();
+    return clip.write(path("varying.mp4"));
+}
+
+void tst_HRVideoComponentFile::timing_isConstant_untilItIsSet()
+{
+    ItemStage stage;
+    SignalCounter timing(stage.item, &HRVideoComponent::timingChanged);
+    stage.setFile(varyingClip());
+    QTRY_VERIFY(stage.isDecoded());
+    QCOMPARE(stage.item->timing(), QString("constant"));
+    QCOMPARE(stage.item->length(), 0.8);
+    QCOMPARE(stage.item->positionAt(0.6), qint64(3));
+    for (const char *value : { "constant", "", "File", "variable" })
+        stage.item->setTiming(value);
+    QCOMPARE(timing.count(), 0);
+
+    stage.item->setPosition(3);
+    QTRY_COMPARE(stage.number(), 3);
+    QCOMPARE(stage.item->pictureTime(), 0.6);
+    stage.item->setTiming("file");
+    QCOMPARE(stage.item->timing(), QString("file"));
+    QCOMPARE(timing.count(), 1);
+    QTRY_COMPARE(qRound(100 * stage.item->pictureTime()), 250);
+}
+
+void tst_HRVideoComponentFile::timing_followsTheFile()
+{
+    ItemStage stage;
+    stage.item->setTiming("file");
+    stage.setFile(varyingClip());
+    QTRY_VERIFY(stage.isDecoded());
+    QCOMPARE(stage.item->length(), 2.51);
+    const QVector<int> times{ 0, 20, 220, 250 };
+    for (int i = 3; i >= 0; --i) {
+        stage.item->setPosition(indexOf(&stage, 0.01 * times[i] + 0.005));
+        QTRY_COMPARE(stage.number(), i);
+        QCOMPARE(qRound(100 * stage.item->pictureTime()), times[i]);
+        QCOMPARE(stage.item->position(), qint64(i));
+        QCOMPARE(stage.item->progress(), i / 4.0);
+    }
+}
+
+void tst_HRVideoComponentFile::timing_ofEachClipBeginsAtZero()
+{
+    ItemStage stage;
+    stage.item->setTiming("file");
+    NumberedClips clips;
+    for (const QString &file : { varyingClip(), clips.write("second.mp4", 20, 10) }) {
+        stage.setFile(file);
+        QTRY_VERIFY(stage.isDecoded());
+        QTRY_VERIFY(!stage.paintsNothing());
+        QCOMPARE(stage.item->pictureTime(), 0.0);
+    }
+    QCOMPARE(stage.item->length(), 0.2);
+}
+
+void tst_HRVideoComponentFile::length_isToldOfEachClip()
+{
+    ItemStage stage;
+    QCOMPARE(stage.item->length(), 0.0);
+    SignalCounter length(stage.item, &HRVideoComponent::lengthChanged);
+    stage.setFile(varyingClip());
+    QTRY_VERIFY(stage.item->isDecoded());
+    QCOMPARE(stage.item->length(), 0.8);
+    QVERIFY(length.count() > 0);
+
+    length.clear();
+    stage.item->setTiming("file");
+    QCOMPARE(length.count(), 1);
+    NumberedClips clips;
+    stage.setFile(clips.write("second.mp4", 20, 10));
+    QCOMPARE(length.count(), 2);
+    QCOMPARE(stage.item->length(), 0.0);
+}
+
+QTEST_MAIN(tst_HRVideoComponentFile)
+#include "tst_HRVideoComponentFile.moc"
