@@ -1,10 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
+#include "ui/popup/HRView.h"
 #include "ui/popup/HRWidget.h"
 #include "wayland/WestonHost.h"
 #include "x11/RealInput.h"
 
+#include <QQuickItem>
+#include <QTimer>
 #include <QtTest>
 
 using namespace Hintreels;
@@ -17,7 +20,24 @@ class tst_wayland_popup : public QObject
 private Q_SLOTS:
     void init();
     void popup_paintsItsContent_whenPointerRestsOnWidget();
+    void popup_followsToNextWidget_withNextContent();
+    void popup_growsWithItsContent();
+    void popup_goesAfterDelay_whenPointerLeavesLastWindow();
+    void time_stops_whenPointerComesBackIntoPopup();
+    void popup_takesItsTimeAndPaintsAgain_whenItShouldFade();
+    void popup_goesWithItsWindow();
+    void host_mayDeletePopup_whileItShows();
 };
+
+namespace {
+
+/// Whether the time until the popup hides runs.
+bool isTimeRunning(const WestonHost &host)
+{
+    return host.popup().findChild<QTimer *>()->isActive();
+}
+
+} // namespace
 
 void tst_wayland_popup::init()
 {
@@ -30,6 +50,101 @@ void tst_wayland_popup::popup_paintsItsContent_whenPointerRestsOnWidget()
     QVERIFY(host.hover(host.red));
     QVERIFY(eventually([&] { return showsHint(host.popup(), Qt::red); }));
     QCOMPARE(host.popup().size(), QSize(201, 121));
+}
+
+void tst_wayland_popup::popup_followsToNextWidget_withNextContent()
+{
+    WestonHost host;
+    QVERIFY(host.hover(host.red));
+    QVERIFY(eventually([&] { return showsHint(host.popup(), Qt::red); }));
+
+    QVERIFY(host.hover(host.blue));
+
+    QVERIFY(eventually([&] { return showsHint(host.popup(), Qt::blue); }));
+    QVERIFY(RealInput::boundsOf(Qt::red).isEmpty());
+}
+
+void tst_wayland_popup::popup_growsWithItsContent()
+{
+    WestonHost host;
+    QVERIFY(host.hover(host.red));
+    QVERIFY(eventually([&] { return showsHint(host.popup(), Qt::red); }));
+
+    host.popup().view()->rootObject()->setHeight(170);
+
+    QVERIFY(eventually([&] { return host.popup().size() == QSize(201, 171); }));
+    QVERIFY(eventually([&] { return showsHint(host.popup(), Qt::red); }));
+}
+
+void tst_wayland_popup::popup_goesAfterDelay_whenPointerLeavesLastWindow()
+{
+    WestonHost host;
+    QVERIFY(host.hover(host.red));
+    QVERIFY(!isTimeRunning(host));
+
+    restPointerElsewhere();
+
+    QVERIFY(eventually([&] { return !host.popup().isVisible(); }));
+    QVERIFY(eventually([&] { return RealInput::boundsOf(Qt::red).isEmpty(); }));
+}
+
+void tst_wayland_popup::time_stops_whenPointerComesBackIntoPopup()
+{
+    WestonHost host([](HRContext &context) { context.set(hideDelayKey, 3600 * 1000); });
+    QVERIFY(host.hover(host.red));
+    QVERIFY(eventually([&] { return showsHint(host.popup(), Qt::red); }));
+    const QPoint middle = RealInput::boundsOf(Qt::red).center();
+    restPointerElsewhere();
+    QVERIFY(eventually([&] { return isTimeRunning(host); }));
+
+    RealInput::movePointer(middle); // of the screen's
+
+    QVERIFY(eventually([&] { return !isTimeRunning(host); }));
+    QVERIFY(host.popup().isVisible());
+}
+
+void tst_wayland_popup::popup_takesItsTimeAndPaintsAgain_whenItShouldFade()
+{
+    WestonHost host([](HRContext &context) {
+        context.set(showAnimationDurationKey, 100);
+        context.set(hideAnimationDurationKey, 100);
+    });
+    for (int i = 0; i < 3; ++i) {
+        QVERIFY(host.find());
+        QVERIFY(host.hover(host.red));
+        QVERIFY(eventually([&] { return showsHint(host.popup(), Qt::red); }));
+        restPointerElsewhere();
+        QVERIFY(eventually([&] { return !host.popup().isVisible(); }));
+    }
+}
+
+void tst_wayland_popup::popup_goesWithItsWindow()
+{
+    WestonHost host;
+    QVERIFY(host.hover(host.red));
+    QVERIFY(eventually([&] { return showsHint(host.popup(), Qt::red); }));
+
+    host.window.hide();
+    QVERIFY(!host.popup().isVisible());
+
+    restPointerElsewhere();
+    host.window.show();
+    QVERIFY(host.find());
+    QVERIFY(host.hover(host.blue));
+    QVERIFY(eventually([&] { return showsHint(host.popup(), Qt::blue); }));
+}
+
+void tst_wayland_popup::host_mayDeletePopup_whileItShows()
+{
+    WestonHost host;
+    QVERIFY(host.hover(host.red));
+    QVERIFY(eventually([&] { return showsHint(host.popup(), Qt::red); }));
+
+    delete &host.popup();
+
+    QVERIFY(eventually([] { return RealInput::boundsOf(Qt::red).isEmpty(); }));
+    QVERIFY(host.hover(host.blue));
+    QVERIFY(eventually([&] { return showsHint(host.popup(), Qt::blue); }));
 }
 
 QTEST_MAIN(tst_wayland_popup)

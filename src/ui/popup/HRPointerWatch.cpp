@@ -3,7 +3,11 @@
 
 #include "ui/popup/HRPointerWatch_p.h"
 
+#include "ui/popup/wayland_p.h"
+
+#include <QCoreApplication>
 #include <QCursor>
+#include <QEvent>
 
 namespace Hintreels {
 
@@ -17,11 +21,18 @@ constexpr int lookInterval = 200; // ms
 HRPointerWatch::HRPointerWatch(Moved moved)
     : m_moved(std::move(moved))
 {
+    if (isOnWayland())
+        QCoreApplication::instance()->installEventFilter(this);
 }
 
-void HRPointerWatch::start(const QPoint &position)
+HRPointerWatch::Position HRPointerWatch::position() const
 {
-    m_lastPosition = position;
+    return m_isNowhere ? Position() : QCursor::pos();
+}
+
+void HRPointerWatch::start()
+{
+    m_lastPosition = position();
     m_timer.start(lookInterval, this);
 }
 
@@ -30,13 +41,28 @@ void HRPointerWatch::stop()
     m_timer.stop();
 }
 
+bool HRPointerWatch::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool leaves = event->type() == QEvent::Leave;
+    if (watched->isWindowType() && (leaves || event->type() == QEvent::Enter)) {
+        m_isNowhere = leaves;
+        look();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
 void HRPointerWatch::timerEvent(QTimerEvent *)
 {
-    const QPoint position = QCursor::pos();
-    if (position == m_lastPosition)
+    look();
+}
+
+void HRPointerWatch::look()
+{
+    const Position now = position();
+    if (!m_timer.isActive() || now == m_lastPosition)
         return;
-    m_lastPosition = position;
-    m_moved(position);
+    m_lastPosition = now;
+    m_moved(now);
 }
 
 } // namespace Hintreels

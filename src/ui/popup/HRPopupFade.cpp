@@ -3,14 +3,27 @@
 
 #include "ui/popup/HRPopupFade_p.h"
 
+#include "ui/popup/wayland_p.h"
+
 #include <QPropertyAnimation>
 #include <QWidget>
 
 namespace Hintreels {
 
+namespace {
+
+QVariantAnimation *makeAnimation(QWidget *window)
+{
+    if (isOnWayland())
+        return new QVariantAnimation(window);
+    return new QPropertyAnimation(window, "windowOpacity", window);
+}
+
+} // namespace
+
 HRPopupFade::HRPopupFade(QWidget *window)
     : m_window(window)
-    , m_animation(new QPropertyAnimation(window, "windowOpacity", window))
+    , m_animation(makeAnimation(window))
 {
 }
 
@@ -24,13 +37,19 @@ bool HRPopupFade::isFadingOut() const
     return isRunning() && m_animation->endValue().toReal() == 0.0;
 }
 
+void HRPopupFade::setOpacity(qreal opacity)
+{
+    if (!isOnWayland())
+        m_window->setWindowOpacity(opacity);
+}
+
 void HRPopupFade::fade(qreal from, qreal to, int duration, const Ended &ended)
 {
     stop();
     m_animation->setStartValue(from);
     m_animation->setEndValue(to);
     m_animation->setDuration(duration);
-    m_ended = QObject::connect(m_animation, &QPropertyAnimation::finished, m_window, ended);
+    m_ended = QObject::connect(m_animation, &QVariantAnimation::finished, m_window, ended);
     m_animation->start();
 }
 

@@ -7,14 +7,15 @@
 
 #include <functional>
 
-class QPropertyAnimation;
+class QVariantAnimation;
 class QWidget;
 
 namespace Hintreels {
 
 /// Fades a window in and out by its opacity.
 ///
-/// The animation is a child of the window. One fade runs at a time; stopping it tells nobody.
+/// The animation is a child of the window. One fade runs at a time; stopping it tells nobody. On
+/// Wayland, where windows have no opacity, a fade takes its time only.
 class HRPopupFade
 {
 public:
@@ -25,6 +26,8 @@ public:
 
     bool isRunning() const;
     bool isFadingOut() const;
+
+    void setOpacity(qreal opacity);
 
     /// Animates the opacity; @p ended is called when that is done.
     ///
@@ -37,7 +40,7 @@ public:
 
 private:
     QWidget *m_window;
-    QPropertyAnimation *m_animation;
+    QVariantAnimation *m_animation;
     QMetaObject::Connection m_ended;
 };
 

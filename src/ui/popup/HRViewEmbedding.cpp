@@ -22,17 +22,19 @@ void HRViewEmbedding::setContainer(QWidget *container)
 
 void HRViewEmbedding::prepareFor(const QWidget &popup)
 {
-    if (nativeWindowOf(popup) == m_window && !isOnWayland())
-        return;
-    hideContainer();
-    release();
+    const bool mayBeRenewed = nativeWindowOf(popup) != m_window;
+    if (mayBeRenewed || isOnWayland())
+        hideContainer();
+    if (mayBeRenewed)
+        release();
 }
 
 void HRViewEmbedding::embedIn(const QWidget &popup)
 {
     m_window = nativeWindowOf(popup);
-    if (isOnWayland())
-        showContainerWhenExposed(popup.windowHandle());
+    QWindow *window = popup.windowHandle();
+    if (window && isOnWayland())
+        window->installEventFilter(this);
     else
         showContainer();
 }
@@ -53,8 +55,8 @@ void HRViewEmbedding::release()
 
 bool HRViewEmbedding::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Expose)
-        showContainerWhenExposed(static_cast<QWindow *>(watched));
+    if (event->type() == QEvent::Expose && m_container)
+        m_container->setVisible(static_cast<QWindow *>(watched)->isExposed());
     return QObject::eventFilter(watched, event);
 }
 
@@ -74,16 +76,6 @@ void HRViewEmbedding::showContainer()
 {
     if (m_container)
         m_container->show();
-}
-
-void HRViewEmbedding::showContainerWhenExposed(QWindow *window)
-{
-    if (window->isExposed()) {
-        window->removeEventFilter(this);
-        showContainer();
-    } else {
-        window->installEventFilter(this);
-    }
 }
 
 } // namespace Hintreels

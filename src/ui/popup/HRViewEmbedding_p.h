@@ -21,8 +21,9 @@ namespace Hintreels {
 /// window is given up before, and made anew once the window around it is mapped.
 ///
 /// On Wayland, a view that is shown before the compositor has given the window around it its size
-/// stays unexposed, and never paints. So the view comes in when the window around it is exposed,
-/// each time.
+/// stays unexposed, and never paints. So the view comes in whenever the window around it is
+/// exposed, and leaves when it no longer is: the news of a showing may come after the window was
+/// hidden.
 class HRViewEmbedding : public QObject
 {
 public:
@@ -34,7 +35,7 @@ public:
     /// Gives the view's native window up, if showing the popup may renew the window around it.
     void prepareFor(const QWidget &popup);
 
-    /// Brings the view into a popup that is mapped, at the latest when that is exposed.
+    /// Brings the view into a popup that is mapped.
     void embedIn(const QWidget &popup);
 
     /// Makes the view's native window anew after the window around it has been mapped.
@@ -43,7 +44,7 @@ public:
     /// Gives the view's native window up; the next showing makes another one.
     void release();
 
-    /// Notices when the window around the view is exposed.
+    /// On Wayland, notices when the window around the view is exposed.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
@@ -53,7 +54,6 @@ private:
     static NativeWindow nativeWindowOf(const QWidget &popup);
     void hideContainer();
     void showContainer();
-    void showContainerWhenExposed(QWindow *window);
 
     QPointer<QWindow> m_view;
     QPointer<QWidget> m_container;

@@ -11,7 +11,6 @@
 #include "ui/popup/popupReserving_p.h"
 
 #include <QApplication>
-#include <QCursor>
 #include <QLayout>
 #include <QTimer>
 
@@ -117,7 +116,7 @@ void HRWidget::cancelHiding()
         return;
     d->fade.stop();
     setWindowOpacity(1.0);
-    d->keepTimeFor(QCursor::pos());
+    d->keepTime();
 }
 
 void HRWidget::setVisible(bool visible)
@@ -180,7 +179,7 @@ void HRWidget::showAnimated()
         show();
         return;
     }
-    setWindowOpacity(fadeInStart);
+    d->fade.setOpacity(fadeInStart);
     show();
     contentResized();
     d->fade.fade(fadeInStart, 1.0, duration, [this] { d->endFadeIn(); });
@@ -222,14 +221,13 @@ QRect HRWidget::findVisibleGeometry(QRect geometry, bool *move)
 
 void HRWidget::showEvent(QShowEvent *)
 {
-    const QPoint pointer = QCursor::pos();
-    if (!isSafe(pointer))
+    if (!d->isSafe(d->watch.position()))
         setTimer();
     reposition();
     if (d->view)
         d->view->setDecodingPaused(false);
     if (!d->reserved)
-        d->watch.start(pointer);
+        d->watch.start();
     else if (!isWindow())
         d->embedding.renewLater();
 }

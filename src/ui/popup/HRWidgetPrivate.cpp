@@ -12,7 +12,6 @@
 #include "ui/popup/sceneContext_p.h"
 #include "ui/popup/wayland_p.h"
 
-#include <QCursor>
 #include <QFileInfo>
 #include <QQuickItem>
 #include <QTimer>
@@ -30,7 +29,7 @@ HRWidgetPrivate::HRWidgetPrivate(HRWidget *widget, HRManager *hrManager, QWidget
     , timer(new QTimer(widget))
     , clock(timer)
     , hideTimer(clock, [this] { return hideDelay(); })
-    , watch([widget](const QPoint &position) { widget->checkMousePosition(position); })
+    , watch([this](const auto &position) { hideTimer.follow(isSafe(position)); })
 {
 }
 
@@ -40,6 +39,7 @@ bool HRWidgetPrivate::showWithContent(QObject *object, const QRect &part, const 
     if (!content || !view)
         return true;
     q->cancelHiding();
+    leaveOldPlace();
     takeReference(object, part);
     view->setPackageRoot(rootPath);
     HRContent previous;
@@ -138,31 +138,49 @@ void HRWidgetPrivate::takeReference(QObject *object, const QRect &part)
             = QObject::connect(reference, &QObject::destroyed, q, [this] { dismissNatively(); });
 }
 
-/// On Wayland a popup has its position only beside a window that it belongs to.
+/// On Wayland a popup stays where it has appeared: it has to appear anew for another place.
+void HRWidgetPrivate::leaveOldPlace()
+{
+    if (isOnWayland() && !reserved)
+        q->hide();
+}
+
+/// On Wayland a popup has its position only beside a window that it belongs to, and has to go
+/// before that: compositors end an application whose popup outlives its window.
 void HRWidgetPrivate::followReferenceWindow()
 {
-    if (QWindow *window = q->windowHandle())
-        window->setTransientParent(reference ? reference->window()->windowHandle() : nullptr);
+    QObject::disconnect(goingWithWindow);
+    QWindow *window = reference ? reference->window()->windowHandle() : nullptr;
+    if (QWindow *popup = q->windowHandle())
+        popup->setTransientParent(window);
+    if (window && isOnWayland())
+        goingWithWindow = QObject::connect(window, &QWindow::visibleChanged, q, &QWidget::hide);
+}
+
+/// A pointer that is nowhere has left the safe area, too.
+bool HRWidgetPrivate::isSafe(const HRPointerWatch::Position &pointer) const
+{
+    return pointer && q->isSafe(*pointer);
 }
 
 /// Decides anew whether the time until hiding runs.
-void HRWidgetPrivate::keepTimeFor(const QPoint &pointer)
+void HRWidgetPrivate::keepTime()
 {
-    hideTimer.decide(q->isSafe(pointer));
+    hideTimer.decide(isSafe(watch.position()));
 }
 
 /// The time may run already when the reader asks the popup to stay: the pointer is quick to leave.
 void HRWidgetPrivate::followStayOpen()
 {
     if (q->isVisible() && view->stayOpen() == hideTimer.isRunning())
-        keepTimeFor(QCursor::pos());
+        keepTime();
 }
 
 /// A time-out during the fade-in hid nothing: it counts from here.
 void HRWidgetPrivate::endFadeIn()
 {
     if (!hideTimer.isRunning())
-        keepTimeFor(QCursor::pos());
+        keepTime();
 }
 
 void HRWidgetPrivate::stopHiding()
@@ -177,6 +195,7 @@ void HRWidgetPrivate::becomeOrdinaryWindow()
 {
     reserved = true;
     stopHiding();
+    QObject::disconnect(goingWithWindow);
     q->setWindowOpacity(1.0);
     q->setAttribute(Qt::WA_ShowWithoutActivating, false);
     view->setFlag(Qt::WindowDoesNotAcceptFocus, false);
@@ -230,7 +249,7 @@ void HRWidgetPrivate::takeInContent()
     followContent();
     if (standsBeside())
         q->reposition();
-    keepTimeFor(QCursor::pos());
+    keepTime();
 }
 
 /// A scene that had to wait for the event loop comes when the popup shows already.

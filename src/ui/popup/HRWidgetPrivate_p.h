@@ -50,8 +50,11 @@ struct HRWidgetPrivate
     void makeRoom();
 
     void takeReference(QObject *object, const QRect &part);
+    bool isSafe(const HRPointerWatch::Position &pointer) const;
+
+    void leaveOldPlace();
     void followReferenceWindow();
-    void keepTimeFor(const QPoint &pointer);
+    void keepTime();
     void followStayOpen();
     void endFadeIn();
     void stopHiding();
@@ -79,6 +82,7 @@ struct HRWidgetPrivate
     HRHideTimer hideTimer;
     HRPointerWatch watch;
     HRViewEmbedding embedding;
+    QMetaObject::Connection goingWithWindow;
     bool reserved = false; // by its reader, and a window of its own ever since
     bool placedByReader = false;
 };

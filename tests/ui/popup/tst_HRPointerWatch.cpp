@@ -40,8 +40,8 @@ private Q_SLOTS:
 void tst_HRPointerWatch::watch_tellsOnce_whenPointerMoved()
 {
     QVector<QPoint> moves;
-    HRPointerWatch watch([&](const QPoint &position) { moves.append(position); });
-    watch.start(QCursor::pos());
+    HRPointerWatch watch([&](const auto &position) { moves.append(*position); });
+    watch.start();
     QCursor::setPos(50, 60);
     QTRY_COMPARE(moves, QVector<QPoint>{ QPoint(50, 60) });
     look(watch);
@@ -51,8 +51,8 @@ void tst_HRPointerWatch::watch_tellsOnce_whenPointerMoved()
 void tst_HRPointerWatch::watch_isSilent_whilePointerRests()
 {
     QVector<QPoint> moves;
-    HRPointerWatch watch([&](const QPoint &position) { moves.append(position); });
-    watch.start(QCursor::pos());
+    HRPointerWatch watch([&](const auto &position) { moves.append(*position); });
+    watch.start();
     look(watch);
     look(watch);
     QVERIFY(moves.isEmpty());
@@ -62,22 +62,22 @@ void tst_HRPointerWatch::watch_isSilent_whilePointerRests()
 void tst_HRPointerWatch::watch_isSilent_whenStopped()
 {
     QVector<QPoint> moves;
-    HRPointerWatch watch([&](const QPoint &position) { moves.append(position); });
-    watch.start(QCursor::pos());
+    HRPointerWatch watch([&](const auto &position) { moves.append(*position); });
+    watch.start();
     watch.stop();
     QCOMPARE(timersOf(&watch), 0);
 
     // What happened while it was stopped stays untold.
     QCursor::setPos(50, 60);
-    watch.start(QCursor::pos());
+    watch.start();
     look(watch);
     QVERIFY(moves.isEmpty());
 }
 
 void tst_HRPointerWatch::watch_hasNoTimerObject()
 {
-    HRPointerWatch watch([](const QPoint &) {});
-    watch.start(QCursor::pos());
+    HRPointerWatch watch([](const auto &) {});
+    watch.start();
     QVERIFY(watch.children().isEmpty());
 }
 
