@@ -41,6 +41,7 @@ private Q_SLOTS:
     void popup_fadesOutAndPaintsAgain_whenShownAnew();
     void popup_paintsAgain_whenItsWindowWasRenewed_data();
     void popup_paintsAgain_whenItsWindowWasRenewed();
+    void host_mayDeletePopup_whileItShows();
     void hints_leakNothing_whenShownInTurn();
 };
 
@@ -215,6 +216,17 @@ void tst_x11_popup::popup_paintsAgain_whenItsWindowWasRenewed()
         change(host.popup());
         RealInput::movePointer(farAway);
     }
+}
+
+void tst_x11_popup::host_mayDeletePopup_whileItShows()
+{
+    HintHost host;
+    QVERIFY(host.hover(host.red));
+
+    delete &host.popup();
+
+    QVERIFY(host.hover(host.blue));
+    QTRY_VERIFY(showsHint(host.popup(), Qt::blue));
 }
 
 namespace {

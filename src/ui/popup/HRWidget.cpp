@@ -44,6 +44,8 @@ HRWidget::HRWidget(HRManager *manager, QWidget *parent, QWidget *reference)
 
 HRWidget::~HRWidget()
 {
+    // No event that is yet to come may find it visible, but without its private record.
+    hide();
     // Before the container goes, which would delete the view's window too.
     delete d->view;
 }
