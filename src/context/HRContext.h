@@ -73,7 +73,10 @@ enum contextKey : int
     qmlModulesKey = 10006, ///< string list, empty: further modules that QML may import with
                            ///< ownFilesOnlyKey, with those inside them
     placementKey = 10007, ///< int, placementAtPointer: where the popup goes, an HRPlacement
-    nativeDismissalKey = 10009, ///< bool, false: the popup goes for what takes native tool tips away
+    popupPressesKey = 10008, ///< bool, false: what the pointer does inside the popup is the popup's
+                             ///< while a menu or the list of a combo box is open, too
+    nativeDismissalKey = 10009, ///< bool, false: what takes native tool tips away takes the popup
+                                ///< away
     reportBrokenFilesKey = 10012, ///< bool, false: tell of each control file that is not XML, with
                                   ///< the line, when a look-up reads it
     requireUiKey = 10013 ///< bool, false: a hint whose QML root file is missing or broken is no

@@ -31,6 +31,7 @@ Rectangle {
     MouseArea {
         anchors.fill: parent
         onPressed: hintreelView.debugLog("pressed")
+        onWheel: hintreelView.debugLog("scrolled")
         onClicked: {
             if (mouse.y < 20 && mouse.x > 180)
                 hintreelView.reserved = true

@@ -25,8 +25,8 @@ class HRWidget;
 ///
 /// The hint of a button fills a popup of 200 x 120 pixels, the blue one's of 200 x 160, with the
 /// colour of the button's name, around a white square. A click into its top right corner pins the
-/// popup, one into its top left corner keeps it open. Any press is logged as "pressed", and a key
-/// as "typed" with its letter.
+/// popup, one into its top left corner keeps it open. Any press is logged as "pressed", the
+/// wheel as "scrolled", and a key as "typed" with its letter.
 ///
 /// Messages on Qt's message output fail the test.
 class HintHost

@@ -25,6 +25,7 @@ HRWidgetPrivate::HRWidgetPrivate(HRWidget *widget, HRManager *hrManager, QWidget
     : q(widget)
     , manager(hrManager)
     , reference(referenceWidget)
+    , input(*widget)
     , fade(widget)
     , timer(new QTimer(widget))
     , clock(timer)
@@ -65,6 +66,8 @@ bool HRWidgetPrivate::showWithContent(QObject *object, const QRect &part, const 
 
 bool HRWidgetPrivate::takeEvent(QObject &watched, QEvent &event)
 {
+    if (setting(settings(), popupPressesKey, false) && input.take(watched, event))
+        return true;
     if (takesAway(*q, watched, event))
         dismissNatively();
     return false;

@@ -8,6 +8,7 @@
 #include "ui/popup/HRHideTimer_p.h"
 #include "ui/popup/HRPointerWatch_p.h"
 #include "ui/popup/HRPopupFade_p.h"
+#include "ui/popup/HRPopupInput_p.h"
 #include "ui/popup/HRView.h"
 #include "ui/popup/HRViewEmbedding_p.h"
 #include "ui/popup/HRWidget.h"
@@ -76,6 +77,7 @@ struct HRWidgetPrivate
     QMetaObject::Connection referenceGone;
     QRect area; // of the part that the hint belongs to, global; null for the whole reference
     std::optional<HRBesidePlacement> beside; // of the hint on show, where it asks for that
+    HRPopupInput input;
     HRPopupFade fade;
     QTimer *timer;
     HRQTimerClock clock;

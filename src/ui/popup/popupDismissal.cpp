@@ -3,8 +3,8 @@
 
 #include "ui/popup/popupDismissal_p.h"
 
-#include "ui/popup/HRView.h"
 #include "ui/popup/HRWidget.h"
+#include "ui/popup/popupParts_p.h"
 
 #include <QKeyEvent>
 
@@ -41,13 +41,6 @@ bool isMenu(const QObject &object)
     return widget && widget->windowType() == Qt::Popup;
 }
 
-bool isIn(const HRWidget &popup, const QObject &watched)
-{
-    const auto *widget = qobject_cast<const QWidget *>(&watched);
-    return &watched == popup.view() || &watched == popup.windowHandle() || widget == &popup
-        || (widget && popup.isAncestorOf(widget));
-}
-
 /// Windows within windows, and those that a dialog belongs to, take the reference along.
 bool isWindowAround(const QWidget *reference, const QObject &watched)
 {
@@ -72,10 +65,10 @@ bool takesAway(const HRWidget &popup, const QObject &watched, const QEvent &even
     switch (event.type()) {
     case QEvent::ShortcutOverride: // nobody gets the press of a key that is a shortcut
     case QEvent::KeyPress:
-        return !isModifier(static_cast<const QKeyEvent &>(event).key()) && !isIn(popup, watched);
+        return !isModifier(static_cast<const QKeyEvent &>(event).key()) && isOfHost(popup, watched);
     case QEvent::Wheel:
     case QEvent::DragEnter:
-        return !isIn(popup, watched);
+        return isOfHost(popup, watched);
     case QEvent::Move:
         return isWindowAround(reference, watched);
     case QEvent::Show:
