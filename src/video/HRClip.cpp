@@ -125,7 +125,7 @@ QString HRClip::tryOpen(const QString &path)
     const AVPixelFormat format = m_decoder.format();
     if (format != AV_PIX_FMT_NONE && !m_converter.allocate(size))
         return tooLarge();
-    if (!m_converter.prepare(size, format))
+    if (!m_converter.prepare({ size, format }))
         return QStringLiteral("Could not get a swscale context for %1");
     return QString();
 }

@@ -33,6 +33,8 @@ public:
     /// changes to one ends there
     /// @return null, or else what failed, with %1 for the path; then nothing is open
     QString open(const QString &path, qint64 largestPicture = standardLargestPicture);
+    /// Whether the matrix and the range that the pictures name count; see HRPictureConverter.
+    void setColorsByFile(bool byFile) { m_converter.setColorsByFile(byFile); }
     void close();
     bool isOpen() const { return m_demuxer.isOpen(); }
     /// What ended the pictures before their time, with %1 for the path; null where nothing did.

@@ -34,11 +34,10 @@ bool areAlike(const AVFrame *a, const AVFrame *b, int plane, int top, const QSiz
 
 } // namespace
 
-bool HRDirectConverter::prepare(const QSize &size, AVPixelFormat format)
+bool HRDirectConverter::prepare(const HRPictureShape &shape, const HRPictureColors &colors)
 {
-    m_band = QSize(size.width(), qMin(bandRows, size.height()));
-    m_scaler.reset(sws_getCachedContext(nullptr, m_band.width(), m_band.height(), format,
-        m_band.width(), m_band.height(), AV_PIX_FMT_RGB32, SWS_BICUBIC, nullptr, nullptr, nullptr));
+    m_band = QSize(shape.size.width(), qMin(bandRows, shape.size.height()));
+    m_scaler = makeScaler({ m_band, shape.format }, { m_band, AV_PIX_FMT_RGB32 }, colors);
     m_last.reset(av_frame_alloc());
     return m_scaler && m_last;
 }

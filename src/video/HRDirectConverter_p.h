@@ -3,10 +3,8 @@
 
 #pragma once
 
-#include "video/HRFFmpegHandle_p.h"
 #include "video/HRVideoFrame.h"
-
-#include <QSize>
+#include "video/colorScaler_p.h"
 
 namespace Hintreels {
 
@@ -20,8 +18,8 @@ public:
     HRDirectConverter() = default;
     Q_DISABLE_COPY(HRDirectConverter)
 
-    /// Gets ready for pictures of @p size and @p format; false on failure.
-    bool prepare(const QSize &size, AVPixelFormat format);
+    /// Gets ready for pictures of @p shape and @p colors; false on failure.
+    bool prepare(const HRPictureShape &shape, const HRPictureColors &colors);
 
     /// Where @p target holds what the last call wrote, it is told what is new in it.
     /// @return false where the picture could not be converted

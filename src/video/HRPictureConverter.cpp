@@ -35,6 +35,11 @@ const QRgb *row(const AVFrame *picture, int y)
     return reinterpret_cast<const QRgb *>(picture->data[0] + qint64(y) * picture->linesize[0]);
 }
 
+HRPictureColors colorsOf(const AVFrame *picture)
+{
+    return { picture->colorspace, picture->color_range };
+}
+
 /// Whether its rows lie as an image has them, and no pixel is transparent.
 bool isImage(const AVFrame *picture)
 {
@@ -83,28 +88,29 @@ bool HRPictureConverter::allocate(const QSize &size)
     return m_rgb != nullptr;
 }
 
-bool HRPictureConverter::prepare(const QSize &size, AVPixelFormat format)
+bool HRPictureConverter::prepare(const HRPictureShape &shape, const HRPictureColors &colors)
 {
     // The scaler aborts the process on a picture without a format.
-    if (size.isEmpty() || !sws_isSupportedInput(format))
+    if (shape.size.isEmpty() || !sws_isSupportedInput(shape.format))
         return false;
-    m_isDirect = isDirect(size, format);
-    m_sourceSize = size;
-    m_sourceFormat = format;
+    m_isDirect = isDirect(shape);
+    m_source = shape;
+    m_colors = colors;
     if (m_isDirect)
-        return m_direct.prepare(size, format);
-    m_scaler.reset(sws_getCachedContext(nullptr, size.width(), size.height(), format,
-        m_size.width(), m_size.height(), AV_PIX_FMT_RGB24, SWS_BICUBIC, nullptr, nullptr, nullptr));
+        return m_direct.prepare(shape, colors);
+    m_scaler = makeScaler(shape, { m_size, AV_PIX_FMT_RGB24 }, colors);
     return m_scaler != nullptr;
 }
 
 HRVideoFrame HRPictureConverter::convert(const AVFrame *picture)
 {
-    // Size and format may change in the middle of a stream.
-    const QSize size(picture->width, picture->height);
-    const auto format = AVPixelFormat(picture->format);
-    const bool changed = size != m_sourceSize || format != m_sourceFormat;
-    if (changed && !prepare(size, format))
+    // All of this may change in the middle of a stream.
+    const HRPictureShape shape{ QSize(picture->width, picture->height),
+        AVPixelFormat(picture->format) };
+    const HRPictureColors colors = m_colorsByFile ? colorsOf(picture) : HRPictureColors();
+    const bool changed
+        = shape.size != m_source.size || shape.format != m_source.format || colors != m_colors;
+    if (changed && !prepare(shape, colors))
         return HRVideoFrame();
     const bool isReady = has32Bits(picture);
     if (isReady && isImage(picture))
@@ -141,7 +147,7 @@ void HRPictureConverter::close()
     m_scaler.reset();
     m_rgb.reset();
     m_size = QSize();
-    m_sourceSize = QSize();
+    m_source = HRPictureShape();
 }
 
 // What a GIF gives: the pixels are ours but for their alpha, and as a rule with it.
@@ -149,16 +155,17 @@ bool HRPictureConverter::has32Bits(const AVFrame *picture) const
 {
     const bool isOfFormat
         = picture->format == AV_PIX_FMT_RGB32 || picture->format == AV_PIX_FMT_0RGB32;
-    return isOfFormat && m_sourceSize == m_size;
+    return isOfFormat && m_source.size == m_size;
 }
 
 // Measured for 8-bit 4:2:0 of even height, and held by a test over formats and sizes. The others
 // differ by up to 255: the scaler rounds and filters colour by other code for packed RGB24.
-bool HRPictureConverter::isDirect(const QSize &size, AVPixelFormat format) const
+bool HRPictureConverter::isDirect(const HRPictureShape &shape) const
 {
-    const bool planar420 = format == AV_PIX_FMT_YUV420P || format == AV_PIX_FMT_YUVJ420P;
-    return planar420 && size == m_size && size.height() % 2 == 0
-        && size.width() % directWidthStep == 0;
+    const bool planar420
+        = shape.format == AV_PIX_FMT_YUV420P || shape.format == AV_PIX_FMT_YUVJ420P;
+    return planar420 && shape.size == m_size && m_size.height() % 2 == 0
+        && m_size.width() % directWidthStep == 0;
 }
 
 void HRPictureConverter::copy(const AVFrame *picture, HRVideoFrame *target)

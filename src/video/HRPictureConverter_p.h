@@ -4,10 +4,8 @@
 #pragma once
 
 #include "video/HRDirectConverter_p.h"
-#include "video/HRFFmpegHandle_p.h"
 #include "video/HRVideoFrame.h"
-
-#include <QSize>
+#include "video/colorScaler_p.h"
 
 namespace Hintreels {
 
@@ -26,9 +24,11 @@ public:
 
     /// Makes room for pictures of @p size, which the results have.
     bool allocate(const QSize &size);
-    /// Gets ready for pictures of @p size and @p format.
-    bool prepare(const QSize &size, AVPixelFormat format);
+    /// Gets ready for pictures of @p shape and @p colors.
+    bool prepare(const HRPictureShape &shape, const HRPictureColors &colors = {});
 
+    /// Whether pictures are converted by the matrix and the range that they name themselves.
+    void setColorsByFile(bool byFile) { m_colorsByFile = byFile; }
     /// The converted picture; a null one where it cannot be allocated or converted.
     HRVideoFrame convert(const AVFrame *picture);
     void close();
@@ -36,18 +36,19 @@ public:
 private:
     bool takeTarget();
     bool has32Bits(const AVFrame *picture) const;
-    bool isDirect(const QSize &size, AVPixelFormat format) const;
+    bool isDirect(const HRPictureShape &shape) const;
     void copy(const AVFrame *picture, HRVideoFrame *target);
     bool convertByRgb24(const AVFrame *picture, HRVideoFrame *target);
 
     QSize m_size; // of the results
-    QSize m_sourceSize; // that the scaler is ready for, as is the format
-    AVPixelFormat m_sourceFormat = AV_PIX_FMT_NONE;
+    HRPictureShape m_source; // that the scaler is ready for, as are the colours
+    HRPictureColors m_colors;
     int m_rgbStride = 0; // bytes
     HRFFmpegHandle<uint8_t> m_rgb;
     HRFFmpegHandle<SwsContext> m_scaler;
     HRVideoFrame m_target; // the last result
     bool m_isDirect = false;
+    bool m_colorsByFile = false;
     HRDirectConverter m_direct;
 };
 

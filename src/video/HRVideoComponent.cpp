@@ -15,6 +15,8 @@ namespace {
 
 constexpr QLatin1String timedByRate("constant");
 constexpr QLatin1String timedByFile("file");
+constexpr QLatin1String colorsByScaler("described");
+constexpr QLatin1String colorsByFile("file");
 
 } // namespace
 
@@ -185,6 +187,19 @@ void HRVideoComponent::setTiming(const QString &timing)
     Q_EMIT timingChanged();
     d->tellLength();
     d->controller->setNeedFrame(true); // with its new time
+}
+
+QString HRVideoComponent::colors() const
+{
+    return d->videoSource->areColorsByFile() ? colorsByFile : colorsByScaler;
+}
+
+void HRVideoComponent::setColors(const QString &colors)
+{
+    if (colors == this->colors() || (colors != colorsByFile && colors != colorsByScaler))
+        return;
+    d->videoSource->setColorsByFile(colors == colorsByFile);
+    Q_EMIT colorsChanged();
 }
 
 bool HRVideoComponent::isDecoded() const

@@ -42,6 +42,7 @@ class HINTREELS_EXPORT HRVideoComponent : public QQuickPaintedItem
     Q_PROPERTY(bool loop READ isLooping WRITE setLooping NOTIFY loopChanged)
     Q_PROPERTY(double length READ length NOTIFY lengthChanged)
     Q_PROPERTY(QString timing READ timing WRITE setTiming NOTIFY timingChanged)
+    Q_PROPERTY(QString colors READ colors WRITE setColors NOTIFY colorsChanged)
 
     ///@}
 public:
@@ -113,6 +114,13 @@ public:
     /// more than 10 s count as one period of the rate. Any other value leaves it as it is.
     void setTiming(const QString &timing);
 
+    /// "described", the default, or "file".
+    QString colors() const;
+    /// With "described" all pictures are converted by the scaler's own matrix, that of BT.601; with
+    /// "file" by the matrix and the range that the picture names, as far as it names them. Counts
+    /// for clips that are set from then on. Any other value leaves it as it is.
+    void setColors(const QString &colors);
+
     /// Whether all pictures of the clip are there.
     bool isDecoded() const;
     /// Whether the clip rests where playing has come to its end. No longer once it is played, moved
@@ -159,6 +167,7 @@ Q_SIGNALS:
     void finished();
     void lengthChanged(); ///< more of the clip is known, or another clip was set
     void timingChanged(); ///< it was set to another value
+    void colorsChanged(); ///< it was set to another value
 
 public Q_SLOTS:
     /// Fetches the picture that is due.

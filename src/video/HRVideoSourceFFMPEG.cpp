@@ -145,6 +145,16 @@ void HRVideoSourceFFMPEG::setLargestPicture(int megapixels)
     d->largestPicture = megapixels;
 }
 
+void HRVideoSourceFFMPEG::setColorsByFile(bool byFile)
+{
+    d->colorsByFile = byFile;
+}
+
+bool HRVideoSourceFFMPEG::areColorsByFile() const
+{
+    return d->colorsByFile;
+}
+
 void HRVideoSourceFFMPEG::setDecodingPaused(bool paused)
 {
     d->decodingPaused = paused;
@@ -229,6 +239,7 @@ bool HRVideoSourceFFMPEG::openMedia()
     const HRMutexLocker lock(d->decoderMutex);
     d->release();
     d->path = path;
+    d->clip.setColorsByFile(d->colorsByFile);
     const QString failure = d->clip.open(path, d->largestPicture * megapixel);
     if (failure.isNull()) {
         d->publishFacts();

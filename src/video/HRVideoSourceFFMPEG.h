@@ -46,6 +46,13 @@ public:
     /// From any thread.
     void setLargestPicture(int megapixels);
 
+    /// Clips that are opened from now on are shown in the colour matrix and range that their
+    /// pictures name, instead of the scaler's own; what a picture does not name stays the scaler's.
+    /// From any thread.
+    void setColorsByFile(bool byFile);
+    /// What setColorsByFile() has set.
+    bool areColorsByFile() const;
+
     /// While paused, requests are carried out and clips are opened, but no picture is decoded. From
     /// any thread; a picture that is being decoded still comes.
     void setDecodingPaused(bool paused);

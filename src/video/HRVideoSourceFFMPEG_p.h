@@ -35,6 +35,7 @@ struct HRVideoSourceFFMPEGPrivate
     HRMutex statusMutex{ HRLock::status };
     HRClipStatus status; // guarded by statusMutex
     std::atomic<bool> decodingPaused{ false };
+    std::atomic<bool> colorsByFile{ false };
     std::atomic<int> largestPicture{ HRVideoSourceFFMPEG::standardLargestPicture }; // megapixels
 
     HRClipStatus currentStatus();

@@ -76,6 +76,8 @@ private:
         m_encoder->pix_fmt = av_get_pix_fmt(clip.format.constData());
         m_encoder->time_base = { clip.seconds, clip.rate };
         m_encoder->framerate = { clip.rate, clip.seconds };
+        m_encoder->colorspace = AVColorSpace(clip.matrix);
+        m_encoder->color_range = AVColorRange(clip.range);
         m_encoder->thread_count = 1;
         m_encoder->strict_std_compliance = FF_COMPLIANCE_UNOFFICIAL;
         if (m_output->oformat->flags & AVFMT_GLOBALHEADER)
@@ -96,6 +98,13 @@ private:
         m_scaler.reset(sws_getCachedContext(nullptr, m_frame->width, m_frame->height,
             AV_PIX_FMT_RGB32, m_frame->width, m_frame->height, m_encoder->pix_fmt, SWS_BICUBIC,
             nullptr, nullptr, nullptr));
+        m_frame->colorspace = m_encoder->colorspace;
+        m_frame->color_range = m_encoder->color_range;
+        const bool isFull = m_encoder->color_range == AVCOL_RANGE_JPEG;
+        if (m_encoder->colorspace != AVCOL_SPC_UNSPECIFIED || isFull) {
+            sws_setColorspaceDetails(m_scaler.get(), sws_getCoefficients(SWS_CS_DEFAULT), 1,
+                sws_getCoefficients(m_encoder->colorspace), isFull, 0, 1 << 16, 1 << 16);
+        }
     }
 
     void writeHeader(const QByteArray &fileOptions)

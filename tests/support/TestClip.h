@@ -23,6 +23,8 @@ struct TestClip
     QVector<int> times; ///< of the pictures, in units of the rate; evenly where there are none
     QByteArray codec = "libx264"; ///< name of an FFmpeg encoder; B pictures where it can
     QByteArray format = "yuv420p"; ///< FFmpeg's name of the pixel format
+    int matrix = 2; ///< an AVColorSpace; 2 for one that is not named
+    int range = 0; ///< an AVColorRange; 0 for one that is not named
     QByteArray options = "crf=12:preset=veryfast:bf=2"; ///< of the encoder
     QByteArray fileOptions; ///< of the container, which the file's suffix chooses
 

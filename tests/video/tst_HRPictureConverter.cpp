@@ -22,6 +22,9 @@ class tst_HRPictureConverter : public QObject
 private Q_SLOTS:
     void convert_equalsTheRgb24Conversion_data();
     void convert_equalsTheRgb24Conversion();
+    void convert_understandsThePicturesColors_data();
+    void convert_understandsThePicturesColors();
+    void convert_takesAllPicturesAlike_asARule();
     void convert_followsEachChange_data();
     void convert_followsEachChange();
     void convert_keepsTheOpenedSize_whenPicturesChange();
@@ -41,7 +44,7 @@ struct ReadyConverter : HRPictureConverter
 {
     ReadyConverter(const QSize &size, AVPixelFormat format)
     {
-        if (!allocate(size) || !prepare(size, format))
+        if (!allocate(size) || !prepare({ size, format }))
             qFatal("no memory for a converter");
     }
 };
@@ -64,6 +67,32 @@ HRFFmpegHandle<AVFrame> noise(AVPixelFormat format, const QSize &size)
             buffer->data[i + 1] = uint8_t(value >> 8);
         }
     }
+    return picture;
+}
+
+/// One colour, (0, 192, 0), as a matrix codes it in a range.
+/// @param red and blue are their shares in the luminance
+HRFFmpegHandle<AVFrame> green(
+    AVPixelFormat format, const QSize &size, double red, double blue, bool isFull)
+{
+    HRFFmpegHandle<AVFrame> picture = noise(format, size);
+    const double value = 192 / 255.0;
+    const double luma = (1 - red - blue) * value;
+    const double steps = isFull ? 255 : 224;
+    const int y = qRound(isFull ? 255 * luma : 16 + 219 * luma);
+    const int u = qRound(128 + steps * -luma / (2 * (1 - blue)));
+    const int v = qRound(128 + steps * -luma / (2 * (1 - red)));
+    const auto fill = [&](int plane, int even, int odd) {
+        const int rows
+            = plane == 0 || format == AV_PIX_FMT_YUV444P ? size.height() : size.height() / 2;
+        for (int i = 0; i < rows * picture->linesize[plane]; ++i)
+            picture->data[plane][i] = uint8_t(i % 2 == 0 ? even : odd);
+    };
+    const bool isInterleaved = format == AV_PIX_FMT_NV12;
+    fill(0, y, y);
+    fill(1, u, isInterleaved ? v : u);
+    if (!isInterleaved)
+        fill(2, v, v);
     return picture;
 }
 
@@ -129,6 +158,58 @@ void tst_HRPictureConverter::convert_equalsTheRgb24Conversion()
     QCOMPARE(converted.format(), QImage::Format_RGB32);
     QCOMPARE(static_cast<const QImage &>(converted), reference(picture.get(), size));
     QCOMPARE(qAlpha(reinterpret_cast<const QRgb *>(converted.constBits())[0]), 255);
+
+    // A picture that names no colours.
+    converter.setColorsByFile(true);
+    QCOMPARE(static_cast<const QImage &>(converter.convert(picture.get())), converted);
+}
+
+void tst_HRPictureConverter::convert_understandsThePicturesColors_data()
+{
+    QTest::addColumn<int>("format");
+    QTest::addColumn<int>("matrix");
+    QTest::addColumn<double>("red"); // its share in the luminance
+    QTest::addColumn<double>("blue");
+    for (int format : { AV_PIX_FMT_YUV420P, AV_PIX_FMT_YUV444P, AV_PIX_FMT_NV12 }) {
+        const char *name = av_get_pix_fmt_name(AVPixelFormat(format));
+        QTest::addRow("BT.709, %s", name) << format << int(AVCOL_SPC_BT709) << 0.2126 << 0.0722;
+        QTest::addRow("BT.601, %s", name) << format << int(AVCOL_SPC_SMPTE170M) << 0.299 << 0.114;
+        QTest::addRow("BT.2020, %s", name)
+            << format << int(AVCOL_SPC_BT2020_NCL) << 0.2627 << 0.0593;
+        QTest::addRow("not named, %s", name)
+            << format << int(AVCOL_SPC_UNSPECIFIED) << 0.299 << 0.114;
+    }
+}
+
+void tst_HRPictureConverter::convert_understandsThePicturesColors()
+{
+    QFETCH(int, format);
+    QFETCH(int, matrix);
+    QFETCH(double, red);
+    QFETCH(double, blue);
+    const QSize size(64, 48);
+    ReadyConverter converter(size, AVPixelFormat(format));
+    converter.setColorsByFile(true);
+    for (AVColorRange range : { AVCOL_RANGE_MPEG, AVCOL_RANGE_JPEG, AVCOL_RANGE_MPEG }) {
+        const HRFFmpegHandle<AVFrame> picture
+            = green(AVPixelFormat(format), size, red, blue, range == AVCOL_RANGE_JPEG);
+        picture->colorspace = AVColorSpace(matrix);
+        picture->color_range = range;
+        const QRgb pixel = converter.convert(picture.get()).pixel(32, 24);
+        QVERIFY2(qAbs(qRed(pixel)) < 4 && qAbs(qGreen(pixel) - 192) < 4 && qAbs(qBlue(pixel)) < 4,
+            qPrintable(QColor(pixel).name()));
+    }
+}
+
+void tst_HRPictureConverter::convert_takesAllPicturesAlike_asARule()
+{
+    const QSize size(64, 48);
+    ReadyConverter converter(size, AV_PIX_FMT_YUV420P);
+    const HRFFmpegHandle<AVFrame> picture = noise(AV_PIX_FMT_YUV420P, size);
+    const QImage expected = converter.convert(picture.get());
+    picture->colorspace = AVCOL_SPC_BT709;
+    picture->color_range = AVCOL_RANGE_JPEG;
+    QCOMPARE(static_cast<const QImage &>(converter.convert(picture.get())), expected);
 }
 
 void tst_HRPictureConverter::convert_followsEachChange_data()
@@ -272,7 +353,7 @@ void tst_HRPictureConverter::prepare_refuses()
     QFETCH(QSize, size);
     HRPictureConverter converter;
     QVERIFY(converter.allocate(QSize(64, 48)));
-    QVERIFY(!converter.prepare(size, AVPixelFormat(format)));
+    QVERIFY(!converter.prepare({ size, AVPixelFormat(format) }));
 }
 
 QTEST_APPLESS_MAIN(tst_HRPictureConverter)

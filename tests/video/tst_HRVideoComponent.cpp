@@ -324,8 +324,8 @@ void tst_HRVideoComponent::metaObject_keepsItsOrder()
             "progressChanged()", "heightChanged()", "searchPathChanged()", "scrubbingChanged()",
             "contentHeightChanged()", "contentWidthChanged()", "loadProgressChanged()",
             "timeChanged()", "decodedChanged()", "endedChanged()", "keepPlayingChanged()",
-            "loopChanged()", "finished()", "lengthChanged()", "timingChanged()", "frameReady()",
-            "play()", "pause()", "sourceChangedState()", "rewindToStart()",
+            "loopChanged()", "finished()", "lengthChanged()", "timingChanged()", "colorsChanged()",
+            "frameReady()", "play()", "pause()", "sourceChangedState()", "rewindToStart()",
             "controllerPositionChanged()", "pictureTime()", "positionAt(double)" }));
     QStringList properties;
     for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i)
@@ -333,7 +333,7 @@ void tst_HRVideoComponent::metaObject_keepsItsOrder()
     QCOMPARE(properties,
         (QStringList{ "source", "state", "position", "progress", "searchPath", "scrubbing",
             "contentHeight", "contentWidth", "loadProgress", "time", "decoded", "ended",
-            "keepPlaying", "loop", "length", "timing" }));
+            "keepPlaying", "loop", "length", "timing", "colors" }));
 }
 
 QTEST_MAIN(tst_HRVideoComponent)

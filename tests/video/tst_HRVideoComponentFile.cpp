@@ -19,6 +19,8 @@ private Q_SLOTS:
     void timing_followsTheFile();
     void timing_ofEachClipBeginsAtZero();
     void length_isToldOfEachClip();
+    void colors_areTheFiles_whenAskedFor_data();
+    void colors_areTheFiles_whenAskedFor();
 
 private:
     QString path(const QString &name) const { return m_directory.filePath(name); }
@@ -120,6 +122,57 @@ void tst_HRVideoComponentFile::length_isToldOfEachClip()
     stage.setFile(clips.write("second.mp4", 20, 10));
     QCOMPARE(length.count(), 2);
     QCOMPARE(stage.item->length(), 0.0);
+}
+
+void tst_HRVideoComponentFile::colors_areTheFiles_whenAskedFor_data()
+{
+    QTest::addColumn<int>("matrix");
+    QTest::addColumn<int>("range");
+    QTest::addColumn<QColor>("described");
+    QTest::addColumn<QColor>("byFile");
+    const QColor green(0, 192, 0);
+    QTest::newRow("BT.709") << 1 << 1 << QColor(13, 221, 3) << green;
+    QTest::newRow("BT.709, full range") << 1 << 2 << QColor(13, 221, 3) << green;
+    QTest::newRow("BT.601") << 6 << 1 << green << green;
+    QTest::newRow("BT.601, full range") << 6 << 2 << green << green;
+    QTest::newRow("nothing named") << 2 << 0 << green << green;
+}
+
+void tst_HRVideoComponentFile::colors_areTheFiles_whenAskedFor()
+{
+    TestClip clip;
+    QFETCH(int, matrix);
+    QFETCH(int, range);
+    QFETCH(QColor, described);
+    QFETCH(QColor, byFile);
+    clip.matrix = matrix;
+    clip.range = range;
+    clip.pictures = 2;
+    const auto paint = [](const QSize &size, int) {
+        QImage picture(size, QImage::Format_RGB32);
+        picture.fill(qRgb(0, 192, 0));
+        return picture;
+    };
+    const auto isLike = [](const QColor &a, const QColor &b) {
+        return qAbs(a.red() - b.red()) < 5 && qAbs(a.green() - b.green()) < 5
+            && qAbs(a.blue() - b.blue()) < 5;
+    };
+    ItemStage stage;
+    SignalCounter colors(stage.item, &HRVideoComponent::colorsChanged);
+    QCOMPARE(stage.item->colors(), QString("described"));
+    stage.setFile(clip.write(path("described.mp4"), paint));
+    QTRY_VERIFY(!stage.paintsNothing());
+    const QColor before = stage.painted().pixelColor(20, 20);
+    QVERIFY2(isLike(before, described), qPrintable(before.name()));
+
+    for (const char *value : { "file", "file", "something" })
+        stage.item->setColors(value);
+    QCOMPARE(stage.item->colors(), QString("file"));
+    QCOMPARE(colors.count(), 1);
+    stage.setFile(clip.write(path("file.mp4"), paint));
+    QTRY_VERIFY(!stage.paintsNothing());
+    const QColor after = stage.painted().pixelColor(20, 20);
+    QVERIFY2(isLike(after, byFile), qPrintable(after.name()));
 }
 
 QTEST_MAIN(tst_HRVideoComponentFile)

@@ -58,6 +58,7 @@ Item {
         textureSize: clip.textureSize(Screen.devicePixelRatio)
         antialiasing: true
         timing: "file"
+        colors: "file"
         keepPlaying: clip.wanted && clip.watched
         onEndedChanged: {
             if (ended)
