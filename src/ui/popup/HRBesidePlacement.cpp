@@ -11,12 +11,6 @@ namespace Hintreels {
 
 namespace {
 
-QRect visibleArea(const QWidget *widget)
-{
-    const QRect area = widget ? widget->visibleRegion().boundingRect() : QRect();
-    return area.isEmpty() ? QRect() : area.translated(widget->mapToGlobal(QPoint(0, 0)));
-}
-
 /// Menus that lead to one another, and the lists of combo boxes.
 QRect openMenus()
 {

@@ -229,7 +229,7 @@ void HRWidget::showEvent(QShowEvent *)
     if (d->view)
         d->view->setDecodingPaused(false);
     if (!d->reserved)
-        d->watch.start();
+        d->beginToShow();
     else if (!isWindow())
         d->embedding.renewLater();
 }

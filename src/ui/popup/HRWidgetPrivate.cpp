@@ -5,9 +5,11 @@
 
 #include "context/setting_p.h"
 #include "ui/popup/HRViewPrivate_p.h"
+#include "ui/popup/hostToolTip_p.h"
 #include "ui/popup/popupDismissal_p.h"
 #include "ui/popup/popupFit_p.h"
 #include "ui/popup/popupGeometry_p.h"
+#include "ui/popup/popupParts_p.h"
 #include "ui/popup/popupScreen_p.h"
 #include "ui/popup/sceneContext_p.h"
 #include "ui/popup/wayland_p.h"
@@ -68,7 +70,9 @@ bool HRWidgetPrivate::takeEvent(QObject &watched, QEvent &event)
 {
     if (setting(settings(), popupPressesKey, false) && input.take(watched, event))
         return true;
-    if (takesAway(*q, watched, event))
+    if (event.type() == QEvent::Show && isHostToolTip(watched))
+        giveWayTo(static_cast<QWidget &>(watched));
+    else if (takesAway(*q, watched, event))
         dismissNatively();
     return false;
 }
@@ -281,6 +285,26 @@ void HRWidgetPrivate::dismiss()
 void HRWidgetPrivate::dismissNatively()
 {
     if (!stays() && setting(settings(), nativeDismissalKey, false))
+        q->hide();
+}
+
+void HRWidgetPrivate::beginToShow()
+{
+    watch.start();
+    if (setting(settings(), hostToolTipsKey, false))
+        hideHostToolTips();
+}
+
+/// Only one of the two is to be seen: the popup for its own part, the tool tip for any other.
+void HRWidgetPrivate::giveWayTo(QWidget &toolTip)
+{
+    if (!setting(settings(), hostToolTipsKey, false))
+        return;
+    const QRect part = area.isEmpty() ? visibleArea(reference) : area;
+    const HRPointerWatch::Position pointer = watch.position();
+    if (pointer && isToolTipOf(part, toolTip.geometry(), areaOnScreen(*q), *pointer))
+        keepHidden(toolTip);
+    else if (!stays())
         q->hide();
 }
 

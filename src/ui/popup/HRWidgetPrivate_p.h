@@ -68,6 +68,8 @@ struct HRWidgetPrivate
     void followScene();
     void dismiss();
     void dismissNatively();
+    void beginToShow();
+    void giveWayTo(QWidget &toolTip);
 
     HRWidget *q;
     QPointer<HRManager> manager;

@@ -40,4 +40,10 @@ QRect availableGeometry(const QWidget *reference, const QPoint &position)
     return screen ? screen->availableGeometry() : area;
 }
 
+QRect visibleArea(const QWidget *widget)
+{
+    const QRect area = widget ? widget->visibleRegion().boundingRect() : QRect();
+    return area.isEmpty() ? QRect() : area.translated(widget->mapToGlobal(QPoint(0, 0)));
+}
+
 } // namespace Hintreels

@@ -18,4 +18,8 @@ namespace Hintreels {
 /// @param position global
 QRect availableGeometry(const QWidget *reference, const QPoint &position);
 
+/// What can be seen of a widget inside its window, in global coordinates; null where nothing can.
+/// @param widget may be null
+QRect visibleArea(const QWidget *widget);
+
 } // namespace Hintreels
