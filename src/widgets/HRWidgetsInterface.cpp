@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "widgets/HRWidgetsInterface.h"
+
+#include "context/setting_p.h"
+#include "manager/HRManager.h"
+#include "widgets/HRWidgetsInterfacePrivate_p.h"
+#include "widgets/parts/partAt_p.h"
+#include "widgets/parts/partName_p.h"
+#include "widgets/parts/viewParts_p.h"
+#include "widgets/widgetsSettings_p.h"
+
+#include <QCoreApplication>
+
+namespace Hintreels {
+
+const int HRWidgetsInterface::keyRole = partKeyRole;
+
+// The settings are copied before their last copy goes.
+HRWidgetsInterface::HRWidgetsInterface(
+    HRContext &context, const QStringList &dataPaths, HRIndex *index)
+    : HRInterface(*std::make_unique<HRContext>(widgetsSettings(context)), dataPaths, index)
+    , d(std::make_shared<HRWidgetsInterfacePrivate>(this))
+{
+    if (!qApp || !setting(this->context(), applicationFilterKey, false))
+        return;
+    qApp->removeEventFilter(manager());
+    qApp->installEventFilter(d.get());
+}
+
+HRWidgetsInterface::~HRWidgetsInterface()
+{
+    // What is at work keeps the filter, but nobody answers it any more.
+    if (qApp)
+        qApp->removeEventFilter(d.get());
+}
+
+QString HRWidgetsInterface::keyForObject(QObject *object)
+{
+    if (auto *widget = qobject_cast<QWidget *>(object)) {
+        const HRPart part = wholePart(widget);
+        return part.key.isEmpty() ? part.names.value(0) : part.key;
+    }
+    if (!object)
+        return {};
+    const QString key = keyOf(object);
+    return key.isEmpty() ? nameOf(object) : key;
+}
+
+QString HRWidgetsInterface::shortCutForObject(
+    const QString &key, QObject *object, const QString &shortcut)
+{
+    const QString live = d->shortcut(key, object);
+    return live.isEmpty() ? shortcut : live;
+}
+
+} // namespace Hintreels

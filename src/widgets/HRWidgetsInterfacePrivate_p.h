@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "widgets/HRWidgetsInterface.h"
+#include "widgets/parts/HRPart_p.h"
+
+#include <optional>
+
+namespace Hintreels {
+
+/// Follows the application's events for an interface, in place of the manager.
+///
+/// The interface may be deleted while a piece is at work, so whoever calls the host back shares
+/// this.
+struct HRWidgetsInterfacePrivate : public QObject
+{
+    explicit HRWidgetsInterfacePrivate(HRWidgetsInterface *interface);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+    /// The shortcut of what an object, or the hovered part of it, does; empty where the key is not
+    /// that of the part.
+    QString shortcut(const QString &key, QObject *object) const;
+
+private:
+    bool showToolTip(QWidget *widget, const QPoint &position);
+    HRPart partOf(QWidget *widget, const QPoint &position) const;
+    bool isHostsOwn(const QString &key, QObject *object) const;
+
+    HRWidgetsInterface *q;
+    std::optional<HRPart> m_hovered; // while its hint is looked for
+};
+
+} // namespace Hintreels

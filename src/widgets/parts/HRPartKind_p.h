@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "widgets/parts/HRPart_p.h"
+
+#include <QPoint>
+#include <QVector>
+
+#include <optional>
+
+namespace Hintreels {
+
+/// How the parts of one kind of widget are found.
+struct HRPartKind
+{
+    /// The part at a position of a widget, which may be all of it; nothing for other kinds.
+    using At = std::optional<HRPart> (*)(QWidget *widget, const QPoint &position);
+
+    /// All parts of a widget of this kind.
+    using All = QVector<HRPart> (*)(QWidget *widget);
+
+    At at;
+    All all; ///< null where a widget is one part
+};
+
+} // namespace Hintreels

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "widgets/parts/tabParts_p.h"
+
+#include "widgets/parts/partName_p.h"
+
+#include <QDockWidget>
+#include <QMainWindow>
+#include <QTabBar>
+#include <QTabWidget>
+
+namespace Hintreels {
+
+namespace {
+
+/// The dock that a main window shows under a tab of its own; Qt says so by the title only.
+const QDockWidget *dockCalled(const QString &title, const QMainWindow *window)
+{
+    const auto docks = window->findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    for (const QDockWidget *dock : docks) {
+        if (dock->windowTitle() == title)
+            return dock;
+    }
+    return nullptr;
+}
+
+const QObject *pageOf(const QTabBar *bar, int index)
+{
+    if (const auto *tabWidget = qobject_cast<const QTabWidget *>(bar->parent()))
+        return tabWidget->widget(index);
+    if (const auto *window = qobject_cast<const QMainWindow *>(bar->parent()))
+        return dockCalled(bar->tabText(index), window);
+    return nullptr;
+}
+
+HRPart tab(QTabBar *bar, int index)
+{
+    HRPart part(bar, bar->tabRect(index));
+    const QVariant data = bar->tabData(index);
+    if (data.userType() == QMetaType::QString && !data.toString().isEmpty())
+        part.names.append(data.toString());
+    part.goesBy(pageOf(bar, index));
+    part.text = withoutMnemonic(bar->tabText(index));
+    part.showsText = true;
+    return part;
+}
+
+} // namespace
+
+std::optional<HRPart> tabAt(QWidget *widget, const QPoint &position)
+{
+    auto *bar = qobject_cast<QTabBar *>(widget);
+    if (!bar)
+        return std::nullopt;
+    const int index = bar->tabAt(position);
+    if (index >= 0)
+        return tab(bar, index);
+    HRPart part(bar);
+    part.goesBy(bar);
+    return part;
+}
+
+QVector<HRPart> tabs(QWidget *widget)
+{
+    auto *bar = static_cast<QTabBar *>(widget);
+    QVector<HRPart> parts;
+    for (int i = 0; i < bar->count(); ++i)
+        parts.append(tab(bar, i));
+    return parts;
+}
+
+} // namespace Hintreels

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "widgets/widgetsSettings_p.h"
+
+#include <QPair>
+
+namespace Hintreels {
+
+namespace {
+
+/// What is on, unless the host says otherwise. A setting of its own line for each.
+const QPair<contextKey, QVariant> defaults[] = {
+    { applicationFilterKey, true },
+    { ownFilesOnlyKey, true },
+};
+
+} // namespace
+
+HRContext widgetsSettings(const HRContext &host)
+{
+    HRContext settings(host);
+    for (const auto &[key, value] : defaults) {
+        if (!settings.contains(key))
+            settings.set(key, value);
+    }
+    return settings;
+}
+
+} // namespace Hintreels
