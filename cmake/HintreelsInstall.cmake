@@ -1,17 +1,21 @@
 # SPDX-FileCopyrightText: 2026 The Hintreels authors
 # SPDX-License-Identifier: MIT
 #
-# Installs the library and the CMake package by which hosts find it.
+# Installs the library, and what hosts find it by: a CMake package and a file for pkg-config.
+#
+# Components: runtime (library and standard packages), development (headers and what finds them),
+# qml (type descriptions for editors and qmllint), documents.
 
 include(CMakePackageConfigHelpers)
 
 set(HINTREELS_INSTALL_CMAKEDIR ${CMAKE_INSTALL_LIBDIR}/cmake/Hintreels)
-set(HINTREELS_INSTALL_PACKAGESDIR ${CMAKE_INSTALL_DATADIR}/hintreels/packages)
 
 install(TARGETS Hintreels EXPORT HintreelsTargets
-    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
-    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
-install(EXPORT HintreelsTargets NAMESPACE Hintreels:: DESTINATION ${HINTREELS_INSTALL_CMAKEDIR})
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime
+    NAMELINK_COMPONENT development)
+install(EXPORT HintreelsTargets NAMESPACE Hintreels::
+    DESTINATION ${HINTREELS_INSTALL_CMAKEDIR} COMPONENT development)
 
 configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/HintreelsConfig.cmake.in
     ${PROJECT_BINARY_DIR}/HintreelsConfig.cmake
@@ -22,4 +26,17 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/HintreelsConfigVersion.cm
 install(FILES
     ${PROJECT_BINARY_DIR}/HintreelsConfig.cmake
     ${PROJECT_BINARY_DIR}/HintreelsConfigVersion.cmake
-    DESTINATION ${HINTREELS_INSTALL_CMAKEDIR})
+    DESTINATION ${HINTREELS_INSTALL_CMAKEDIR} COMPONENT development)
+
+# Found from where the file lies, so that a moved tree works.
+file(RELATIVE_PATH HINTREELS_PREFIX_FROM_PKGCONFIG
+    /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+configure_file(${PROJECT_SOURCE_DIR}/cmake/hintreels.pc.in hintreels.pc @ONLY)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/hintreels.pc
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
+
+install(FILES ${PROJECT_SOURCE_DIR}/LICENSE ${PROJECT_SOURCE_DIR}/CHANGELOG.md
+    ${PROJECT_SOURCE_DIR}/SECURITY.md
+    DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documents)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/
+    DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documents)

@@ -28,12 +28,15 @@ function(hintreels_install_headers target)
 
     list(TRANSFORM headers PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/ OUTPUT_VARIABLE paths)
     set_target_properties(${target} PROPERTIES HINTREELS_PUBLIC_HEADERS "${paths}")
-    foreach(header IN LISTS headers)
-        get_filename_component(folder ${header} DIRECTORY)
-        install(FILES ${header}
-            DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/HintreelsHeaders/${folder})
-    endforeach()
-    install(DIRECTORY ${forwarding_dir} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+    if(HINTREELS_INSTALL)
+        foreach(header IN LISTS headers)
+            get_filename_component(folder ${header} DIRECTORY)
+            install(FILES ${header} COMPONENT development
+                DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/HintreelsHeaders/${folder})
+        endforeach()
+        install(DIRECTORY ${forwarding_dir} COMPONENT development
+            DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+    endif()
 
     target_include_directories(${target} INTERFACE
         $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/include>

@@ -3,6 +3,7 @@
 
 #include "interface/HRInterface.h"
 
+#include "interface/standardPackages_p.h"
 #include "manager/HRManager.h"
 
 #include <QDebug>
@@ -42,6 +43,11 @@ HRInterface::HRInterface(HRContext &context, const QStringList &dataPaths, HRInd
 }
 
 HRInterface::~HRInterface() = default;
+
+QString HRInterface::standardPackages()
+{
+    return packagesOf(libraryFile());
+}
 
 QWidget *HRInterface::createWindow(HRWindowType)
 {

@@ -43,6 +43,13 @@ public:
     /// @param index stays the host's and must outlive the interface; null for an index in memory
     HRInterface(HRContext &context, const QStringList &dataPaths, HRIndex *index = nullptr);
 
+    /// The data path of the packages that ship with the library, `Standard.hintreels` first, found
+    /// at run time beside the library: installed, moved, bundled with a host, or in a build tree.
+    ///
+    /// Null where they are not there, as with a static library whose program lies elsewhere. From
+    /// any thread.
+    static QString standardPackages();
+
     /// Shuts the library down. Popups that readers have reserved stay until they are closed.
     ~HRInterface() override;
 
