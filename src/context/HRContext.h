@@ -77,8 +77,8 @@ enum contextKey : int
                              ///< while a menu or the list of a combo box is open, too
     nativeDismissalKey = 10009, ///< bool, false: what takes native tool tips away takes the popup
                                 ///< away
-    hostToolTipsKey = 10010, ///< bool, false: while the popup shows, Qt's tool tip for the same part
-                             ///< does not, and one for another part takes the popup away
+    hostToolTipsKey = 10010, ///< bool, false: while the popup shows, Qt's tool tip for the same
+                             ///< part does not, and one for another part takes the popup away
     reportBrokenFilesKey = 10012, ///< bool, false: tell of each control file that is not XML, with
                                   ///< the line, when a look-up reads it
     requireUiKey = 10013 ///< bool, false: a hint whose QML root file is missing or broken is no
