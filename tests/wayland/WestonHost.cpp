@@ -11,7 +11,6 @@
 namespace {
 
 constexpr QSize markSize(8, 8);
-const QColor markColor(255, 0, 254);
 
 } // namespace
 
@@ -20,7 +19,6 @@ WestonHost::WestonHost(const std::function<void(HRContext &)> &configure)
 {
     m_mark.resize(markSize);
     m_mark.setAutoFillBackground(true);
-    m_mark.setPalette(markColor);
     m_mark.show();
     if (!find())
         qFatal("the host's window does not appear");
@@ -28,10 +26,14 @@ WestonHost::WestonHost(const std::function<void(HRContext &)> &configure)
 
 bool WestonHost::find()
 {
+    // Another colour each time: what shows it stands where the window stands now.
+    static int count = 0;
+    const QColor color(255, ++count % 256, 254);
+    m_mark.setPalette(color);
     QRect mark;
     const bool found = eventually([&] {
         const QRect before = mark;
-        mark = RealInput::boundsOf(markColor);
+        mark = RealInput::boundsOf(color);
         return mark.size() == markSize * outputScale() && mark == before;
     });
     RealInput::setPlace({ window.mapToGlobal(QPoint(0, 0)), mark.topLeft(), outputScale() });
@@ -43,11 +45,16 @@ int outputScale()
     return qRound(QGuiApplication::primaryScreen()->devicePixelRatio());
 }
 
-void restPointerElsewhere()
+QRect outputOnScreen(int output)
+{
+    const QSize size = QGuiApplication::primaryScreen()->size() * outputScale();
+    return { QPoint(output * size.width(), 0), size };
+}
+
+void restPointerElsewhere(int output)
 {
     RealInput::setPlace({});
-    const QSize output = QGuiApplication::primaryScreen()->size() * outputScale();
-    RealInput::movePointer(QPoint(1, output.height() - 2));
+    RealInput::movePointer(outputOnScreen(output).bottomLeft() + QPoint(1, -1));
 }
 
 bool eventually(const std::function<bool()> &holds)

@@ -26,8 +26,12 @@ private:
 /// Pixels of the screen for one of the application.
 int outputScale();
 
-/// Rests the pointer in the lower left corner of the first output, where windows appear then.
-void restPointerElsewhere();
+/// What the X server shows of an output, in its pixels.
+/// @param output 0 on the left, 1 on the right
+QRect outputOnScreen(int output);
+
+/// Rests the pointer in the lower left corner of an output, where windows appear then.
+void restPointerElsewhere(int output = 0);
 
 /// Waits until something holds, for as long as other programs may keep the processor busy.
 bool eventually(const std::function<bool()> &holds);

@@ -4,6 +4,7 @@
 #include "ui/popup/HRBesidePlacement_p.h"
 
 #include "ui/popup/popupScreen_p.h"
+#include "ui/popup/wayland_p.h"
 
 #include <QApplication>
 
@@ -44,7 +45,8 @@ QPoint HRBesidePlacement::topLeftFor(const QSize &popup, const QSize &offset)
 
 QRect HRBesidePlacement::screen() const
 {
-    return availableGeometry(nullptr, m_pointer);
+    return isOnWayland() ? roomBesideWindow(windowToStandBeside(m_reference), m_pointer)
+                         : availableGeometry(nullptr, m_pointer);
 }
 
 bool HRBesidePlacement::leadsTo(const QRect &popup, const QPoint &position) const

@@ -234,6 +234,11 @@ void HRWidget::showEvent(QShowEvent *)
         d->embedding.renewLater();
 }
 
+void HRWidget::moveEvent(QMoveEvent *)
+{
+    d->appearAnewLater();
+}
+
 void HRWidget::hideEvent(QHideEvent *)
 {
     d->stopHiding();

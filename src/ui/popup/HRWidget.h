@@ -105,6 +105,8 @@ public Q_SLOTS:
 protected:
     /// Starts the time until the popup hides, and what works only while it shows.
     void showEvent(QShowEvent *event) override;
+    /// On Wayland, has a visible popup appear anew where it has been moved to.
+    void moveEvent(QMoveEvent *event) override;
     /// Ends what showEvent() has started, and takes back the override cursors of QML.
     void hideEvent(QHideEvent *event) override;
 

@@ -79,7 +79,11 @@ bool HRWidgetPrivate::takeEvent(QObject &watched, QEvent &event)
 
 QRect HRWidgetPrivate::screen() const
 {
-    return standsBeside() ? beside->screen() : availableGeometry(reference, q->window()->pos());
+    if (standsBeside())
+        return beside->screen();
+    if (isOnWayland())
+        return reserved ? everywhere() : roomBesideWindow(windowToStandBeside(reference), hovered);
+    return availableGeometry(reference, q->window()->pos());
 }
 
 bool HRWidgetPrivate::standsBeside() const
@@ -95,18 +99,22 @@ QSize HRWidgetPrivate::pointerOffset() const
 /// Where a window goes that has this frame.
 QPoint HRWidgetPrivate::placeFor(const QRect &frame)
 {
-    return standsBeside() ? beside->topLeftFor(frame.size(), pointerOffset())
-                          : movedInside(frame, screen()).topLeft();
+    if (standsBeside())
+        return beside->topLeftFor(frame.size(), pointerOffset());
+    if (isOnWayland() && !reserved)
+        return placeBesidePointer(
+            windowToStandBeside(reference), hovered, pointerOffset(), frame.size());
+    return movedInside(frame, screen()).topLeft();
 }
 
 /// Takes the place for a hint; a popup beside its part waits for the hint's size.
 void HRWidgetPrivate::takePlace(const QPoint &pos)
 {
     beside.reset();
+    const QSize offset = pointerOffset();
+    hovered = withinReach(pos) - withinReach(QPoint(offset.width(), offset.height()));
     if (setting(settings(), placementKey, int(placementAtPointer)) == placementBeside) {
-        const QSize offset = pointerOffset();
-        const QPoint way = withinReach(QPoint(offset.width(), offset.height()));
-        beside.emplace().start(reference, area, withinReach(pos) - way);
+        beside.emplace().start(reference, area, hovered);
         return;
     }
     q->move(withinReach(pos));
@@ -152,12 +160,27 @@ void HRWidgetPrivate::leaveOldPlace()
         q->hide();
 }
 
+/// A move on Wayland, once the scene has done what it is at.
+void HRWidgetPrivate::appearAnewLater()
+{
+    const QWindow *window = q->windowHandle();
+    if (!isOnWayland() || reserved || !window || !window->isVisible())
+        return;
+    const auto appearAnew = [this] {
+        if (!q->isVisible() || reserved)
+            return;
+        q->hide();
+        q->show();
+    };
+    QMetaObject::invokeMethod(q, appearAnew, Qt::QueuedConnection);
+}
+
 /// On Wayland a popup has its position only beside a window that it belongs to, and has to go
 /// before that: compositors end an application whose popup outlives its window.
 void HRWidgetPrivate::followReferenceWindow()
 {
     QObject::disconnect(goingWithWindow);
-    QWindow *window = reference ? reference->window()->windowHandle() : nullptr;
+    QWindow *window = reference || isOnWayland() ? windowToStandBeside(reference) : nullptr;
     if (QWindow *popup = q->windowHandle())
         popup->setTransientParent(window);
     if (window && isOnWayland())

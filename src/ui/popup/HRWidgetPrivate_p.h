@@ -54,6 +54,7 @@ struct HRWidgetPrivate
     bool isSafe(const HRPointerWatch::Position &pointer) const;
 
     void leaveOldPlace();
+    void appearAnewLater();
     void followReferenceWindow();
     void keepTime();
     void followStayOpen();
@@ -77,6 +78,7 @@ struct HRWidgetPrivate
     QPointer<QWidget> container;
     QPointer<QWidget> reference;
     QMetaObject::Connection referenceGone;
+    QPoint hovered; // where the pointer rested that the hint came for, global
     QRect area; // of the part that the hint belongs to, global; null for the whole reference
     std::optional<HRBesidePlacement> beside; // of the hint on show, where it asks for that
     HRPopupInput input;

@@ -25,6 +25,16 @@ Span fitSpan(int start, int length, int shift, int screenFirst, int screenLast)
         screenFirst > start || excess > 0 };
 }
 
+bool isRoomierBefore(int position, int first, int last)
+{
+    return position - first > last - position;
+}
+
+int onRoomierSide(int position, int offset, int length, int first, int last)
+{
+    return isRoomierBefore(position, first, last) ? position - offset - length : position + offset;
+}
+
 } // namespace
 
 int mostCoveredScreen(const QRect &area, const QVector<QRect> &screens)
@@ -79,6 +89,32 @@ HRContentFit fitContent(
     const Span y
         = fitSpan(framePosition.y(), content.height(), titleBar, screen.top(), screen.bottom());
     return { QRect(QPoint(x.first, y.first), QPoint(x.last, y.last)), x.pushed || y.pushed };
+}
+
+QRect everywhere()
+{
+    return { QPoint(-QWIDGETSIZE_MAX, -QWIDGETSIZE_MAX), QPoint(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX) };
+}
+
+QRect openedWhereRoomier(const QRect &window, const QPoint &point)
+{
+    QRect area = everywhere();
+    if (isRoomierBefore(point.x(), window.left(), window.right()))
+        area.setRight(window.right());
+    else
+        area.setLeft(window.left());
+    if (isRoomierBefore(point.y(), window.top(), window.bottom()))
+        area.setBottom(window.bottom());
+    else
+        area.setTop(window.top());
+    return area;
+}
+
+QPoint onRoomierSides(
+    const QPoint &point, const QSize &offset, const QSize &popup, const QRect &window)
+{
+    return { onRoomierSide(point.x(), offset.width(), popup.width(), window.left(), window.right()),
+        onRoomierSide(point.y(), offset.height(), popup.height(), window.top(), window.bottom()) };
 }
 
 } // namespace Hintreels

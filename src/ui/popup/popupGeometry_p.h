@@ -41,4 +41,17 @@ struct HRContentFit
 HRContentFit fitContent(
     const QSize &content, const QPoint &framePosition, int titleBar, const QRect &screen);
 
+/// An area that ends nowhere within reach.
+QRect everywhere();
+
+/// A window's area that ends only on the sides where a point has less room inside the window, below
+/// and to the right where it has as much.
+QRect openedWhereRoomier(const QRect &window, const QPoint &point);
+
+/// Where a popup begins that stands beside a point, off by an offset in both directions, on the
+/// sides where the point has more room inside a window; below and to the right where it has as
+/// much.
+QPoint onRoomierSides(
+    const QPoint &point, const QSize &offset, const QSize &popup, const QRect &window);
+
 } // namespace Hintreels

@@ -31,6 +31,10 @@ private Q_SLOTS:
     void isNear_isEverywhere_whenMarginIsHuge();
     void fitContent_fitsIntoScreen_data();
     void fitContent_fitsIntoScreen();
+    void onRoomierSides_choosesEachSideByItself_data();
+    void onRoomierSides_choosesEachSideByItself();
+    void openedWhereRoomier_endsOnTheOtherSides_data();
+    void openedWhereRoomier_endsOnTheOtherSides();
 };
 
 void tst_popupGeometry::movedInside_correctsEachEdge_data()
@@ -175,6 +179,52 @@ void tst_popupGeometry::fitContent_fitsIntoScreen()
 
     QTEST(fit.geometry, "geometry");
     QTEST(fit.pushed, "pushed");
+}
+
+void tst_popupGeometry::onRoomierSides_choosesEachSideByItself_data()
+{
+    QTest::addColumn<QRect>("window");
+    QTest::addColumn<QPoint>("point");
+    QTest::addColumn<QPoint>("topLeft");
+    const QRect window(0, 0, 401, 301);
+    QTest::newRow("upper left") << window << QPoint(50, 40) << QPoint(85, 70);
+    QTest::newRow("upper right") << window << QPoint(350, 40) << QPoint(115, 70);
+    QTest::newRow("lower left") << window << QPoint(50, 250) << QPoint(85, 120);
+    QTest::newRow("lower right") << window << QPoint(350, 250) << QPoint(115, 120);
+    QTest::newRow("middle") << window << QPoint(200, 150) << QPoint(235, 180);
+    QTest::newRow("just beyond the middle") << window << QPoint(201, 151) << QPoint(-34, 21);
+    QTest::newRow("elsewhere") << window.translated(-1000, 500) << QPoint(-650, 540)
+                               << QPoint(-885, 570);
+    QTest::newRow("left of the window") << window << QPoint(-10, 40) << QPoint(25, 70);
+    QTest::newRow("below the window") << window << QPoint(50, 400) << QPoint(85, 270);
+}
+
+void tst_popupGeometry::onRoomierSides_choosesEachSideByItself()
+{
+    QFETCH(QRect, window);
+    QFETCH(QPoint, point);
+    QTEST(onRoomierSides(point, QSize(35, 30), QSize(200, 100), window), "topLeft");
+}
+
+void tst_popupGeometry::openedWhereRoomier_endsOnTheOtherSides_data()
+{
+    QTest::addColumn<QPoint>("point");
+    QTest::addColumn<QPoint>("topLeft");
+    QTest::addColumn<QPoint>("bottomRight");
+    const QPoint least = everywhere().topLeft();
+    const QPoint most = everywhere().bottomRight();
+    QTest::newRow("upper left") << QPoint(50, 40) << QPoint(0, 0) << most;
+    QTest::newRow("lower right") << QPoint(350, 250) << least << QPoint(400, 300);
+    QTest::newRow("upper right") << QPoint(350, 40) << QPoint(least.x(), 0)
+                                 << QPoint(400, most.y());
+}
+
+void tst_popupGeometry::openedWhereRoomier_endsOnTheOtherSides()
+{
+    QFETCH(QPoint, point);
+    QFETCH(QPoint, topLeft);
+    QFETCH(QPoint, bottomRight);
+    QCOMPARE(openedWhereRoomier(QRect(0, 0, 401, 301), point), QRect(topLeft, bottomRight));
 }
 
 QTEST_APPLESS_MAIN(tst_popupGeometry)
