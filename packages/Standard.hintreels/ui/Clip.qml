@@ -19,9 +19,11 @@ Item {
     readonly property alias ended: video.ended
     readonly property alias time: video.time
     readonly property bool shown: video.implicitWidth > 0
+    // Where the reader has gone by hand, until another picture is shown; below 0 where nowhere.
+    property real aim: -1
     // By the clock on which the clip goes, as the captions are.
-    readonly property real progress:
-        ended ? 1 : video.length > 0 ? Math.min(1, video.time / video.length) : 0
+    readonly property real progress: aim >= 0 ? aim
+        : ended ? 1 : video.length > 0 ? Math.min(1, video.time / video.length) : 0
     readonly property QtObject hostWindow: Window.window
 
     function textureSize(screenScale) {
@@ -36,8 +38,10 @@ Item {
 
     function scrubTo(fraction) {
         scrubbing = true
-        if (shown)
-            video.position = video.positionAt(fraction * video.length)
+        if (!shown)
+            return
+        aim = Math.max(0, Math.min(1, fraction))
+        video.position = video.positionAt(aim * video.length)
     }
 
     function endScrubbing() {
@@ -60,6 +64,10 @@ Item {
         timing: "file"
         colors: "file"
         keepPlaying: clip.wanted && clip.watched
+        onTimeChanged: {
+            if (!clip.scrubbing)
+                clip.aim = -1
+        }
         onEndedChanged: {
             if (ended)
                 clip.wanted = false
