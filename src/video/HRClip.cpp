@@ -3,6 +3,8 @@
 
 #include "video/HRClip_p.h"
 
+#include "video/upright_p.h"
+
 #include <cmath>
 #include <limits>
 
@@ -60,7 +62,8 @@ void HRClip::close()
 
 HRClipFacts HRClip::facts() const
 {
-    return { QSize(m_decoder.width(), m_decoder.height()), m_demuxer.duration(),
+    const QSize size(m_decoder.width(), m_decoder.height());
+    return { size, uprightTransform(size, m_demuxer.stream()), m_demuxer.duration(),
         m_decoder.timeBase(), m_demuxer.frameRate() };
 }
 

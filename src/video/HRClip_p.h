@@ -8,6 +8,8 @@
 #include "video/HRPictureConverter_p.h"
 #include "video/HRPictureTimes_p.h"
 
+#include <QTransform>
+
 namespace Hintreels {
 
 constexpr qint64 standardLargestPicture = 64'000'000; // pixels
@@ -16,6 +18,7 @@ constexpr qint64 standardLargestPicture = 64'000'000; // pixels
 struct HRClipFacts
 {
     QSize size; // pixels
+    QTransform upright; // of the pictures, to how they are to be seen
     double duration = 0.0; // seconds; 0 where it is not known
     double timeBase = 0.0; // seconds per tick of the codec; 0 where it has none
     double frameRate = 0.0; // pictures per second; 0 where it is not known

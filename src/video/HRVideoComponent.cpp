@@ -5,6 +5,7 @@
 
 #include "video/HRClipFinder_p.h"
 #include "video/retiredSources_p.h"
+#include "video/upright_p.h"
 
 #include <QPainter>
 #include <QUrl>
@@ -202,6 +203,22 @@ void HRVideoComponent::setColors(const QString &colors)
     Q_EMIT colorsChanged();
 }
 
+bool HRVideoComponent::isUpright() const
+{
+    return d->upright;
+}
+
+void HRVideoComponent::setUpright(bool upright)
+{
+    if (upright == d->upright)
+        return;
+    d->upright = upright;
+    Q_EMIT uprightChanged();
+    if (!d->picture.isNull())
+        placePicture();
+    update();
+}
+
 bool HRVideoComponent::isDecoded() const
 {
     return d->clip.isDecoded();
@@ -245,6 +262,7 @@ void HRVideoComponent::paint(QPainter *painter)
     if (d->picture.isNull())
         return;
     painter->setRenderHint(QPainter::SmoothPixmapTransform, antialiasing());
+    painter->setTransform(d->toUpright, true);
     painter->drawImage(QPoint(0, 0), d->picture);
 }
 
@@ -256,7 +274,7 @@ void HRVideoComponent::frameReady()
     const double timeBefore = d->picture.pts();
     if (!d->controller->replaceByCurrentFrame(isAwaiting ? &before : &d->picture) || isAwaiting)
         return;
-    setImplicitSize(d->picture.width(), d->picture.height());
+    placePicture();
     if (d->contentHeightSeen != d->picture.height()) {
         d->contentHeightSeen = d->picture.height();
         Q_EMIT heightChanged();
@@ -320,6 +338,13 @@ void HRVideoComponent::followWindow(QQuickWindow *window)
 {
     const HRClipFinder *finder = HRClipFinder::of(window);
     setDecodingPaused(finder && finder->isDecodingPaused());
+}
+
+void HRVideoComponent::placePicture()
+{
+    d->toUpright = d->upright ? d->videoSource->upright() : QTransform();
+    const QSize size = uprightSize(d->picture.size(), d->toUpright);
+    setImplicitSize(size.width(), size.height());
 }
 
 } // namespace Hintreels

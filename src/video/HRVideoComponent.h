@@ -17,8 +17,9 @@ struct HRVideoComponentPrivate;
 ///
 /// The clip is found by the HRView that shows the item, so a source set before the item is in its
 /// window has no effect: set it when the window is there. The item's implicit size is that of the
-/// picture it got last. Each item has two threads of its own, which idle until a source is set;
-/// destroying the item stops them, but waits for no picture that takes long. GUI thread only.
+/// picture it got last, as it is painted. Each item has two threads of its own, which idle until a
+/// source is set; destroying the item stops them, but waits for no picture that takes long. GUI
+/// thread only.
 ///
 /// The item's state and heightChanged() hide those of QQuickItem: use no QML states on it.
 class HINTREELS_EXPORT HRVideoComponent : public QQuickPaintedItem
@@ -43,6 +44,7 @@ class HINTREELS_EXPORT HRVideoComponent : public QQuickPaintedItem
     Q_PROPERTY(double length READ length NOTIFY lengthChanged)
     Q_PROPERTY(QString timing READ timing WRITE setTiming NOTIFY timingChanged)
     Q_PROPERTY(QString colors READ colors WRITE setColors NOTIFY colorsChanged)
+    Q_PROPERTY(bool upright READ isUpright WRITE setUpright NOTIFY uprightChanged)
 
     ///@}
 public:
@@ -121,6 +123,12 @@ public:
     /// for clips that are set from then on. Any other value leaves it as it is.
     void setColors(const QString &colors);
 
+    /// Whether pictures are painted as the file says that they are to be seen.
+    bool isUpright() const;
+    /// Paints pictures turned by quarters, mirrored and with square pixels where the file says so,
+    /// and has that size for its implicit one; or else as they are coded, which is the default.
+    void setUpright(bool upright);
+
     /// Whether all pictures of the clip are there.
     bool isDecoded() const;
     /// Whether the clip rests where playing has come to its end. No longer once it is played, moved
@@ -142,7 +150,8 @@ public:
     /// already plays. The view does so while the popup around it is hidden.
     void setDecodingPaused(bool paused);
 
-    /// Draws the picture at its own size, from the item's top left corner.
+    /// Draws the picture at its own size, upright where that is wanted, from the item's top left
+    /// corner.
     void paint(QPainter *painter) override;
 
 Q_SIGNALS:
@@ -168,6 +177,7 @@ Q_SIGNALS:
     void lengthChanged(); ///< more of the clip is known, or another clip was set
     void timingChanged(); ///< it was set to another value
     void colorsChanged(); ///< it was set to another value
+    void uprightChanged(); ///< it was set to another value
 
 public Q_SLOTS:
     /// Fetches the picture that is due.
@@ -189,6 +199,7 @@ protected:
 
 private:
     void followWindow(QQuickWindow *window);
+    void placePicture();
 
     std::unique_ptr<HRVideoComponentPrivate> d;
 };

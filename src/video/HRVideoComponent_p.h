@@ -34,6 +34,8 @@ struct HRVideoComponentPrivate
     HRVideoSourceFFMPEG *const videoSource;
     HRVideoController *const controller;
     HRVideoFrame picture;
+    QTransform toUpright; // of that picture; none where it is not wanted
+    bool upright = false;
     double contentHeightSeen = 0.0;
     double progressSeen = 0.0;
     double lengthSeen = 0.0;

@@ -155,6 +155,11 @@ bool HRVideoSourceFFMPEG::areColorsByFile() const
     return d->colorsByFile;
 }
 
+QTransform HRVideoSourceFFMPEG::upright() const
+{
+    return d->currentStatus().facts.upright;
+}
+
 void HRVideoSourceFFMPEG::setDecodingPaused(bool paused)
 {
     d->decodingPaused = paused;

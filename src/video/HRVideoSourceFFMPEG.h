@@ -5,6 +5,8 @@
 
 #include "video/HRVideoSource.h"
 
+#include <QTransform>
+
 #include <memory>
 
 namespace Hintreels {
@@ -52,6 +54,10 @@ public:
     void setColorsByFile(bool byFile);
     /// What setColorsByFile() has set.
     bool areColorsByFile() const;
+
+    /// What takes the pictures of the clip opened last to how the file says that they are to be
+    /// seen: turned by quarters, mirrored, and with pixels made square.
+    QTransform upright() const;
 
     /// While paused, requests are carried out and clips are opened, but no picture is decoded. From
     /// any thread; a picture that is being decoded still comes.

@@ -4,6 +4,7 @@
 #include "video/clipSize_p.h"
 
 #include "video/HRClip_p.h"
+#include "video/upright_p.h"
 
 #include <QElapsedTimer>
 
@@ -19,8 +20,9 @@ QSize pictureSize(HRMediaDemuxer *demuxer)
 {
     if (!demuxer->chooseVideoStream())
         return {};
-    const AVCodecParameters *pictures = demuxer->stream()->codecpar;
-    return QSize(pictures->width, pictures->height);
+    const AVStream *pictures = demuxer->stream();
+    const QSize size(pictures->codecpar->width, pictures->codecpar->height);
+    return uprightSize(size, uprightTransform(size, pictures));
 }
 
 } // namespace

@@ -10,7 +10,8 @@
 
 namespace Hintreels {
 
-/// The size of a clip's pictures in pixels; empty for a file that cannot be opened as a clip.
+/// The size of a clip's pictures as they are to be seen, in pixels; empty for a file that cannot be
+/// opened as a clip.
 ///
 /// Reads no further than the header, or the first pictures where that gives no size, and for a
 /// tenth of a second at most. Any thread.

@@ -31,6 +31,7 @@ public:
         m_stream->time_base = m_encoder->time_base;
         m_stream->avg_frame_rate = m_encoder->framerate;
         check(avcodec_parameters_from_context(m_stream->codecpar, m_encoder.get()));
+        describeStream(clip);
         check(avio_open(&m_output->pb, qPrintable(path), AVIO_FLAG_WRITE));
         writeHeader(clip.fileOptions);
     }
@@ -105,6 +106,22 @@ private:
             sws_setColorspaceDetails(m_scaler.get(), sws_getCoefficients(SWS_CS_DEFAULT), 1,
                 sws_getCoefficients(m_encoder->colorspace), isFull, 0, 1 << 16, 1 << 16);
         }
+    }
+
+    void describeStream(const TestClip &clip)
+    {
+        if (!clip.pixel.isEmpty()) {
+            m_stream->sample_aspect_ratio = { clip.pixel.width(), clip.pixel.height() };
+            m_stream->codecpar->sample_aspect_ratio = m_stream->sample_aspect_ratio;
+        }
+        if (clip.turn.isEmpty())
+            return;
+        auto *matrix = reinterpret_cast<int32_t *>(
+            av_stream_new_side_data(m_stream, AV_PKT_DATA_DISPLAYMATRIX, 9 * sizeof(int32_t)));
+        std::fill(matrix, matrix + 9, 0);
+        for (int i = 0; i < 4; ++i)
+            matrix[i + i / 2] = clip.turn[i] * (1 << 16);
+        matrix[8] = 1 << 30;
     }
 
     void writeHeader(const QByteArray &fileOptions)

@@ -25,6 +25,8 @@ struct TestClip
     QByteArray format = "yuv420p"; ///< FFmpeg's name of the pixel format
     int matrix = 2; ///< an AVColorSpace; 2 for one that is not named
     int range = 0; ///< an AVColorRange; 0 for one that is not named
+    QSize pixel; ///< width to height of a pixel; not named where it is empty
+    QVector<int> turn; ///< a, b, c and d of a display matrix, in whole numbers; or none
     QByteArray options = "crf=12:preset=veryfast:bf=2"; ///< of the encoder
     QByteArray fileOptions; ///< of the container, which the file's suffix chooses
 

@@ -325,15 +325,16 @@ void tst_HRVideoComponent::metaObject_keepsItsOrder()
             "contentHeightChanged()", "contentWidthChanged()", "loadProgressChanged()",
             "timeChanged()", "decodedChanged()", "endedChanged()", "keepPlayingChanged()",
             "loopChanged()", "finished()", "lengthChanged()", "timingChanged()", "colorsChanged()",
-            "frameReady()", "play()", "pause()", "sourceChangedState()", "rewindToStart()",
-            "controllerPositionChanged()", "pictureTime()", "positionAt(double)" }));
+            "uprightChanged()", "frameReady()", "play()", "pause()", "sourceChangedState()",
+            "rewindToStart()", "controllerPositionChanged()", "pictureTime()",
+            "positionAt(double)" }));
     QStringList properties;
     for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i)
         properties += meta.property(i).name();
     QCOMPARE(properties,
         (QStringList{ "source", "state", "position", "progress", "searchPath", "scrubbing",
             "contentHeight", "contentWidth", "loadProgress", "time", "decoded", "ended",
-            "keepPlaying", "loop", "length", "timing", "colors" }));
+            "keepPlaying", "loop", "length", "timing", "colors", "upright" }));
 }
 
 QTEST_MAIN(tst_HRVideoComponent)

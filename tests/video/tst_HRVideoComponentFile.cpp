@@ -21,6 +21,8 @@ private Q_SLOTS:
     void length_isToldOfEachClip();
     void colors_areTheFiles_whenAskedFor_data();
     void colors_areTheFiles_whenAskedFor();
+    void upright_turnsThePicture_data();
+    void upright_turnsThePicture();
 
 private:
     QString path(const QString &name) const { return m_directory.filePath(name); }
@@ -173,6 +175,59 @@ void tst_HRVideoComponentFile::colors_areTheFiles_whenAskedFor()
     QTRY_VERIFY(!stage.paintsNothing());
     const QColor after = stage.painted().pixelColor(20, 20);
     QVERIFY2(isLike(after, byFile), qPrintable(after.name()));
+}
+
+void tst_HRVideoComponentFile::upright_turnsThePicture_data()
+{
+    QTest::addColumn<QSize>("pixel");
+    QTest::addColumn<QVector<int>>("turn");
+    QTest::addColumn<QSize>("size"); // of the item
+    QTest::addColumn<QPoint>("light"); // of the four quarters the one that is light
+    using Turn = QVector<int>;
+    QTest::newRow("as it is coded") << QSize() << Turn() << QSize(40, 20) << QPoint(0, 0);
+    QTest::newRow("a quarter") << QSize() << Turn{ 0, 1, -1, 0 } << QSize(20, 40) << QPoint(1, 0);
+    QTest::newRow("half") << QSize() << Turn{ -1, 0, 0, -1 } << QSize(40, 20) << QPoint(1, 1);
+    QTest::newRow("three quarters")
+        << QSize() << Turn{ 0, -1, 1, 0 } << QSize(20, 40) << QPoint(0, 1);
+    QTest::newRow("mirrored") << QSize() << Turn{ -1, 0, 0, 1 } << QSize(40, 20) << QPoint(1, 0);
+    QTest::newRow("wide pixels") << QSize(3, 2) << Turn() << QSize(60, 20) << QPoint(0, 0);
+    QTest::newRow("high pixels, a quarter")
+        << QSize(1, 2) << Turn{ 0, 1, -1, 0 } << QSize(40, 40) << QPoint(1, 0);
+}
+
+void tst_HRVideoComponentFile::upright_turnsThePicture()
+{
+    TestClip clip;
+    QFETCH(QSize, pixel);
+    QFETCH(QVector<int>, turn);
+    QFETCH(QSize, size);
+    QFETCH(QPoint, light);
+    clip.pixel = pixel;
+    clip.turn = turn;
+    clip.size = QSize(40, 20);
+    clip.pictures = 1;
+    ItemStage stage;
+    SignalCounter upright(stage.item, &HRVideoComponent::uprightChanged);
+    stage.item->setUpright(true);
+    stage.setFile(clip.write(path("turned.mp4"), [](const QSize &coded, int) {
+        QImage picture(coded, QImage::Format_RGB32);
+        picture.fill(Qt::black);
+        QPainter(&picture).fillRect(0, 0, coded.width() / 2, coded.height() / 2, Qt::white);
+        return picture;
+    }));
+    QTRY_VERIFY(stage.item->implicitWidth() > 0.0);
+    QCOMPARE(QSizeF(stage.item->implicitWidth(), stage.item->implicitHeight()), QSizeF(size));
+    const QImage painted = stage.painted();
+    for (const QPoint &quarter : { QPoint(0, 0), QPoint(1, 0), QPoint(0, 1), QPoint(1, 1) }) {
+        const QPoint middle(
+            (2 * quarter.x() + 1) * size.width() / 4, (2 * quarter.y() + 1) * size.height() / 4);
+        QCOMPARE(qGray(painted.pixel(middle)) > 128, quarter == light);
+    }
+
+    stage.item->setUpright(false);
+    QCOMPARE(QSizeF(stage.item->implicitWidth(), stage.item->implicitHeight()), QSizeF(40, 20));
+    QVERIFY(qGray(stage.painted().pixel(10, 5)) > 128);
+    QCOMPARE(upright.count(), 2);
 }
 
 QTEST_MAIN(tst_HRVideoComponentFile)

@@ -18,6 +18,8 @@ class tst_clipSize : public QObject
 private Q_SLOTS:
     void clipSize_isThatOfItsPictures_data();
     void clipSize_isThatOfItsPictures();
+    void clipSize_isUpright_data();
+    void clipSize_isUpright();
     void clipSize_isEmpty_whenItIsNoClip_data();
     void clipSize_isEmpty_whenItIsNoClip();
     void clipSize_isEmpty_whenAskedToStop_data();
@@ -43,6 +45,32 @@ void tst_clipSize::clipSize_isThatOfItsPictures()
     clip.size = QSize(90, 50);
 
     QCOMPARE(clipSize(clip.write(files.path() + "/" + name)), QSize(90, 50));
+}
+
+void tst_clipSize::clipSize_isUpright_data()
+{
+    QTest::addColumn<QSize>("pixel");
+    QTest::addColumn<QVector<int>>("turn");
+    QTest::addColumn<QSize>("size");
+
+    QTest::newRow("turned") << QSize() << QVector<int>{ 0, 1, -1, 0 } << QSize(48, 96);
+    QTest::newRow("turned by half") << QSize() << QVector<int>{ -1, 0, 0, -1 } << QSize(96, 48);
+    QTest::newRow("wide pixels") << QSize(4, 3) << QVector<int>() << QSize(128, 48);
+    QTest::newRow("wide pixels, turned")
+        << QSize(4, 3) << QVector<int>{ 0, -1, 1, 0 } << QSize(48, 128);
+}
+
+void tst_clipSize::clipSize_isUpright()
+{
+    QFETCH(QSize, pixel);
+    QFETCH(QVector<int>, turn);
+    TestPackages files;
+    TestClip clip;
+    clip.size = QSize(96, 48);
+    clip.pixel = pixel;
+    clip.turn = turn;
+
+    QTEST(clipSize(clip.write(files.path() + "/clip.mp4")), "size");
 }
 
 void tst_clipSize::clipSize_isEmpty_whenItIsNoClip_data()

@@ -63,6 +63,7 @@ Item {
         antialiasing: true
         timing: "file"
         colors: "file"
+        upright: true
         keepPlaying: clip.wanted && clip.watched
         onTimeChanged: {
             if (!clip.scrubbing)
