@@ -79,6 +79,8 @@ enum contextKey : int
                                 ///< away
     hostToolTipsKey = 10010, ///< bool, false: while the popup shows, Qt's tool tip for the same
                              ///< part does not, and one for another part takes the popup away
+    hostColorsKey = 10011, ///< bool, false: the standard UI takes the colours of the widget that
+                           ///< its hint belongs to, and of its window
     reportBrokenFilesKey = 10012, ///< bool, false: tell of each control file that is not XML, with
                                   ///< the line, when a look-up reads it
     requireUiKey = 10013 ///< bool, false: a hint whose QML root file is missing or broken is no

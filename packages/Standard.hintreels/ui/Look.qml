@@ -1,12 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
-// Colours, type and measures of the standard UI, all taken from the host's palette and font.
+// Colours, type and measures of the standard UI, all taken from the host's colours and font.
 import QtQml 2.15
 import QtQuick 2.15
 import com.zentora.hintreels.qml 1.1
 
 QtObject {
+    id: look
+
     property HRView view
     property HRContentReader reader
 
@@ -21,7 +23,7 @@ QtObject {
     readonly property color cap: dark ? mix(palette.windowText, 0.10) : palette.base
     readonly property color capEdge: mix(palette.windowText, 0.30)
     readonly property color code: mix(palette.windowText, 0.07)
-    readonly property bool dark: palette.window.hslLightness < 0.5
+    readonly property bool dark: background.hslLightness < 0.5
     readonly property var noteColors: ({
         "tip": "#2e9e5b", "note": palette.highlight, "warning": "#d98a00"
     })
@@ -40,7 +42,7 @@ QtObject {
 
     readonly property real hostFontSize: Math.max(12, probe.fontInfo.pixelSize)
     readonly property Text probe: Text {}
-    readonly property SystemPalette palette: SystemPalette {}
+    readonly property HostPalette palette: HostPalette { reader: look.reader }
 
     function scaled(size) {
         return view.getScaledSize(Math.round(size))

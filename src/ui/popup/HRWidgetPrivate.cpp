@@ -54,6 +54,9 @@ bool HRWidgetPrivate::showWithContent(QObject *object, const QRect &part, const 
     HRViewPrivate::of(*view).freeContent(std::move(previous));
     // The host may delete the popup or its view when it is told of a missing file.
     const QPointer<HRWidget> guarded = q;
+    takeColors();
+    if (!guarded || !view)
+        return true;
     const bool isLoaded = HRViewPrivate::of(*view).ui.load();
     if (!guarded || !view)
         return true;
@@ -316,6 +319,17 @@ void HRWidgetPrivate::beginToShow()
     watch.start();
     if (setting(settings(), hostToolTipsKey, false))
         hideHostToolTips();
+}
+
+/// A host whose window is painted may do anything meanwhile.
+void HRWidgetPrivate::takeColors()
+{
+    const QPointer<HRView> scene = view;
+    QVariantMap colors;
+    if (reference && setting(settings(), hostColorsKey, false))
+        colors = hostColors.colorsFor(*reference);
+    if (scene)
+        setSceneColors(*scene, colors);
 }
 
 /// Only one of the two is to be seen: the popup for its own part, the tool tip for any other.

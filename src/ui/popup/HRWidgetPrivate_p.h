@@ -6,6 +6,7 @@
 #include "manager/HRManager.h"
 #include "ui/popup/HRBesidePlacement_p.h"
 #include "ui/popup/HRHideTimer_p.h"
+#include "ui/popup/HRHostColors_p.h"
 #include "ui/popup/HRPointerWatch_p.h"
 #include "ui/popup/HRPopupFade_p.h"
 #include "ui/popup/HRPopupInput_p.h"
@@ -70,6 +71,7 @@ struct HRWidgetPrivate
     void dismiss();
     void dismissNatively();
     void beginToShow();
+    void takeColors();
     void giveWayTo(QWidget &toolTip);
 
     HRWidget *q;
@@ -82,6 +84,7 @@ struct HRWidgetPrivate
     QRect area; // of the part that the hint belongs to, global; null for the whole reference
     std::optional<HRBesidePlacement> beside; // of the hint on show, where it asks for that
     HRPopupInput input;
+    HRHostColors hostColors;
     HRPopupFade fade;
     QTimer *timer;
     HRQTimerClock clock;

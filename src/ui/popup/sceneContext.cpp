@@ -40,4 +40,13 @@ void setSceneContext(HRView &view, HRXmlElement *content, const QString &package
         setLastingProperties(*context, &view, manager);
 }
 
+void setSceneColors(HRView &view, const QVariantMap &colors)
+{
+    const HRSceneLoader::Work work(&HRViewPrivate::of(view).loader);
+    const HRScriptWatch::Entry entry(HRViewPrivate::of(view).watch);
+    const QVariant reader = view.rootContext()->contextProperty(QStringLiteral("hintreelReader"));
+    if (auto *contentReader = reader.value<HRContentReader *>())
+        contentReader->setHostColors(colors);
+}
+
 } // namespace Hintreels

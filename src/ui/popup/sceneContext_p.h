@@ -24,4 +24,7 @@ class HRXmlElement;
 void setSceneContext(HRView &view, HRXmlElement *content, const QString &packageRoot,
     const QPointer<HRManager> &manager);
 
+/// Gives the scene's reader the colours of what the hint belongs to; see HRHostColors.
+void setSceneColors(HRView &view, const QVariantMap &colors);
+
 } // namespace Hintreels

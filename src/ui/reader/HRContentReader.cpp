@@ -68,6 +68,14 @@ HRContentReader::HRContentReader(SettingsSource settings, QObject *parent, FileG
     connect(m_clips, &HRMeasuring::measured, this, &HRContentReader::tellMeasured);
 }
 
+void HRContentReader::setHostColors(const QVariantMap &colors)
+{
+    if (m_hostColors == colors)
+        return;
+    m_hostColors = colors;
+    Q_EMIT hostColorsChanged();
+}
+
 QVariantMap HRContentReader::read(HRXmlElement *element, const QJSValue &say) const
 {
     if (!element)

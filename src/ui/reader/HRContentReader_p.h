@@ -33,6 +33,7 @@ class HRContentReader : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(int measured READ measured NOTIFY measuredChanged)
+    Q_PROPERTY(QVariantMap hostColors READ hostColors NOTIFY hostColorsChanged)
 
 public:
     using SettingsSource = std::function<HRReaderSettings()>;
@@ -75,6 +76,11 @@ public:
     /// waited for only as long as nobody notices.
     int measured() const { return m_measured; }
 
+    /// The colours of what the hint belongs to, by their names in QPalette; empty for those of the
+    /// desktop. There is "window", "windowText", "base", "highlight" and "highlightedText".
+    QVariantMap hostColors() const { return m_hostColors; }
+    void setHostColors(const QVariantMap &colors);
+
     /// Names of the files in which a clip's captions may lie, the best for the reader first.
     Q_INVOKABLE QStringList captionFiles(const QString &clip) const;
 
@@ -115,6 +121,7 @@ public:
 
 Q_SIGNALS:
     void measuredChanged();
+    void hostColorsChanged();
 
 private:
     void tellMeasured();
@@ -129,6 +136,7 @@ private:
     HRMeasuring *m_pictures;
     HRMeasuring *m_clips;
     int m_measured = 0;
+    QVariantMap m_hostColors;
 };
 
 } // namespace Hintreels
