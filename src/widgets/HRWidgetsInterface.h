@@ -27,7 +27,9 @@ struct HRWidgetsInterfacePrivate;
 /// `covers="inside"`. Content that only repeats what the part says itself is not shown, and content
 /// without a title has that of the action or the widget. docs/embedding.md has the whole list.
 ///
-/// These settings are on where the host has not set them: applicationFilterKey and ownFilesOnlyKey.
+/// These settings are on where the host has not set them: applicationFilterKey, ownFilesOnlyKey,
+/// placementKey (placementBeside), popupPressesKey, nativeDismissalKey, hostToolTipsKey and
+/// hostColorsKey.
 /// All virtual operations may be overridden. GUI thread only; widgets, actions and the interface
 /// itself may be deleted at any time.
 class HINTREELS_EXPORT HRWidgetsInterface : public HRInterface

@@ -13,6 +13,11 @@ namespace {
 const QPair<contextKey, QVariant> defaults[] = {
     { applicationFilterKey, true },
     { ownFilesOnlyKey, true },
+    { placementKey, int(placementBeside) },
+    { popupPressesKey, true },
+    { nativeDismissalKey, true },
+    { hostToolTipsKey, true },
+    { hostColorsKey, true },
 };
 
 } // namespace
