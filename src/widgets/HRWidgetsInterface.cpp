@@ -5,15 +5,30 @@
 
 #include "context/setting_p.h"
 #include "manager/HRManager.h"
+#include "ui/popup/HRWidget.h"
 #include "widgets/HRWidgetsInterfacePrivate_p.h"
+#include "widgets/coverage_p.h"
 #include "widgets/parts/partAt_p.h"
 #include "widgets/parts/partName_p.h"
 #include "widgets/parts/viewParts_p.h"
 #include "widgets/widgetsSettings_p.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 
 namespace Hintreels {
+
+namespace {
+
+/// Whether a window is the host's: neither a menu or a tooltip, nor a popup of ours, also where
+/// that is pinned into a window.
+bool isHosts(const QWidget *window)
+{
+    const bool isHint = qobject_cast<const HRWidget *>(window)
+        || window->findChild<HRWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    return !isHint && window->windowType() != Qt::Popup && window->windowType() != Qt::ToolTip;
+}
+
+} // namespace
 
 const int HRWidgetsInterface::keyRole = partKeyRole;
 
@@ -53,6 +68,19 @@ QString HRWidgetsInterface::shortCutForObject(
 {
     const QString live = d->shortcut(key, object);
     return live.isEmpty() ? shortcut : live;
+}
+
+HRCoverage HRWidgetsInterface::coverage()
+{
+    QVector<HRWalkedPart> parts;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        if (window->isVisible() && isHosts(window))
+            parts += walkParts(window);
+    }
+    HRCoverage coverage = coverageOf(parts, keys());
+    coverage.unusedKeys.removeAll(setting(context(), fallbackKeyKey, QString()));
+    return coverage;
 }
 
 } // namespace Hintreels

@@ -5,6 +5,7 @@
 
 #include "context/HRExport.h"
 #include "interface/HRInterface.h"
+#include "widgets/HRCoverage.h"
 
 #include <memory>
 
@@ -56,6 +57,13 @@ public:
     /// content's.
     QString shortCutForObject(
         const QString &key, QObject *object, const QString &shortcut) override;
+
+    /// Goes through the open windows, with their menus and all of their pages, and tells what has
+    /// no hint, shares one or cannot have one, and which content nobody asks for.
+    ///
+    /// It shows nothing and sends no message. All control files are read; content in any language
+    /// counts. It knows nothing of keys that an override of keyForObject() gives.
+    HRCoverage coverage();
 
 private:
     friend struct HRWidgetsInterfacePrivate;

@@ -8,11 +8,27 @@
 #include "widgets/parts/partAt_p.h"
 #include "widgets/parts/partPlace_p.h"
 
+#include <QApplication>
 #include <QHelpEvent>
 
 #include <utility>
 
 namespace Hintreels {
+
+namespace {
+
+/// What a hint is for that the host shows without saying so; null where no window has it.
+const QAction *actionNamed(const QString &name)
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (const QWidget *window : windows) {
+        if (const auto *action = window->findChild<QAction *>(name))
+            return action;
+    }
+    return nullptr;
+}
+
+} // namespace
 
 HRWidgetsInterfacePrivate::HRWidgetsInterfacePrivate(HRWidgetsInterface *interface)
     : q(interface)
@@ -72,8 +88,10 @@ bool HRWidgetsInterfacePrivate::isHostsOwn(const QString &key, QObject *object) 
 QString HRWidgetsInterfacePrivate::shortcut(const QString &key, QObject *object) const
 {
     auto *widget = qobject_cast<QWidget *>(object);
-    if (!widget)
-        return {};
+    if (!widget) {
+        const QAction *action = object ? qobject_cast<QAction *>(object) : actionNamed(key);
+        return action ? action->shortcut().toString(QKeySequence::NativeText) : QString();
+    }
     const bool isHovered = m_hovered && m_hovered->widget == widget;
     const HRPart part = isHovered ? *m_hovered : wholePart(widget);
     return keysOf(part).contains(key) ? part.shortcut() : QString();

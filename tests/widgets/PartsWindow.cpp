@@ -50,7 +50,8 @@ Spot section(const QHeaderView *header, int index)
 
 Spot cell(const QAbstractItemView *view, int row, int column)
 {
-    return middleOf(view->viewport(), view->visualRect(view->model()->index(row, column)));
+    const QRect area = view->visualRect(view->model()->index(row, column));
+    return middleOf(view->viewport(), area & view->viewport()->rect());
 }
 
 Spot listItem(QComboBox *box, int row)

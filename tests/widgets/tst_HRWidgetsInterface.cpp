@@ -134,6 +134,9 @@ private Q_SLOTS:
     void hostsKey_wins();
     void hostsObjectName_isNotItsOwn();
     void keyForObject_names_whatAnObjectStandsFor();
+    void hint_thatRepeatsItsPart_isNotShown();
+    void shortcutAndTitle_areTheActions();
+    void shortcut_isTheActions_whereHostNamesItsKey();
     void host_mayDelete_whenCalledBack_data();
     void host_mayDelete_whenCalledBack();
 };
@@ -314,6 +317,43 @@ void tst_HRWidgetsInterface::keyForObject_names_whatAnObjectStandsFor()
     QCOMPARE(f.host->keyForObject(ui.canvas->viewport()), QString("canvas"));
     QCOMPARE(f.host->keyForObject(ui.editFind), QString("finder"));
     QCOMPARE(f.host->keyForObject(nullptr), QString());
+}
+
+void tst_HRWidgetsInterface::hint_thatRepeatsItsPart_isNotShown()
+{
+    Fixture f(entry("reset", "title='Reset'") + entry("strikeout", "title='Strike out'"));
+    QVERIFY(!f.hover(f.window->ui.reset));
+    QVERIFY(f.hover(f.window->ui.strikeout));
+}
+
+void tst_HRWidgetsInterface::shortcutAndTitle_areTheActions()
+{
+    Fixture f(entry("fileOpen", "shortcut='X' summary='Opens a file'"));
+    QVERIFY(f.hover(buttonOf(f)));
+    QCOMPARE(f.shown("title"), QString("Open"));
+    QCOMPARE(f.shown("shortcut"), QString("Ctrl+O"));
+
+    f.popup()->hide();
+    actionOf(f).setShortcut(QKeySequence());
+    QMenu *menu = f.window->ui.menuFile;
+    menu->popup(QPoint(50, 50));
+    const Spot inMenu{ menu, menu->actionGeometry(&actionOf(f)).center() };
+    QVERIFY(f.hover(inMenu));
+    QCOMPARE(f.shown("shortcut"), QString("X"));
+
+    f.popup()->hide();
+    actionOf(f).setShortcut(QKeySequence("F3"));
+    QVERIFY(f.hover(inMenu));
+    QCOMPARE(f.shown("shortcut"), QString("F3"));
+}
+
+void tst_HRWidgetsInterface::shortcut_isTheActions_whereHostNamesItsKey()
+{
+    Fixture f(entry("fileOpen"));
+    QCOMPARE(f.host->shortCutForObject("fileOpen", nullptr, "X"), QString("Ctrl+O"));
+    QCOMPARE(f.host->shortCutForObject("fileOpen", buttonOf(f), "X"), QString("Ctrl+O"));
+    QCOMPARE(f.host->shortCutForObject("other", buttonOf(f), "X"), QString("X"));
+    QCOMPARE(f.host->shortCutForObject("other", nullptr, "X"), QString("X"));
 }
 
 using Deed = void (*)(Fixture &f);

@@ -102,7 +102,8 @@ HRPart wholeView(QAbstractItemView *view)
 
 HRPart cell(QAbstractItemView *view, const QModelIndex &index)
 {
-    HRPart part(view->viewport(), view->visualRect(index));
+    // The items of a list may be wider than the list.
+    HRPart part(view->viewport(), view->visualRect(index) & view->viewport()->rect());
     part.key = index.data(partKeyRole).toString();
     const QWidget *namesake = namesakeOf(view);
     if (qobject_cast<QTableView *>(view))

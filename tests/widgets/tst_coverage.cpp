@@ -1,0 +1,168 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "manager/HRManager.h"
+#include "support/RecordingHost.h"
+#include "support/TestPackage.h"
+#include "widgets/HRWidgetsInterface.h"
+#include "widgets/PartsWindow.h"
+#include "widgets/coverage_p.h"
+
+#include <QtTest>
+
+#include <algorithm>
+
+using namespace Hintreels;
+
+namespace {
+
+QStringList keysOf(const QVector<HRCoveredPart> &parts)
+{
+    QStringList keys;
+    for (const HRCoveredPart &part : parts)
+        keys.append(part.keys.value(0));
+    return keys;
+}
+
+bool tells(const QVector<HRCoveredPart> &parts, const QString &key)
+{
+    return keysOf(parts).contains(key);
+}
+
+/// An empty window with buttons of these names.
+struct Buttons : QWidget
+{
+    explicit Buttons(const QStringList &names)
+    {
+        setObjectName("window");
+        for (const QString &name : names)
+            (new QPushButton(name, this))->setObjectName(name);
+        show();
+    }
+};
+
+} // namespace
+
+class tst_coverage : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void part_withoutContent_isTold();
+    void part_withoutName_isTold();
+    void content_ofSeveralParts_isTold();
+    void content_ofOneAction_isNot();
+    void content_thatNobodyShows_isTold();
+    void window_isWalkedWhole();
+    void pieces_areNoParts();
+    void interface_looksAtOpenWindows_inSilence();
+};
+
+void tst_coverage::part_withoutContent_isTold()
+{
+    Buttons window({ "brew", "pour" });
+    const HRCoverage coverage = coverageOf(walkParts(&window), { "brew" });
+    QCOMPARE(keysOf(coverage.withoutHint), QStringList("window/pour"));
+    QCOMPARE(coverage.withoutHint[0].text, QString("pour"));
+    QVERIFY(coverage.nameless.isEmpty());
+    QVERIFY(coverage.shared.isEmpty());
+    QVERIFY(coverage.unusedKeys.isEmpty());
+}
+
+void tst_coverage::part_withoutName_isTold()
+{
+    Buttons window({ "brew", "" });
+    const HRCoverage coverage = coverageOf(walkParts(&window), { "brew" });
+    QCOMPARE(coverage.nameless.size(), 1);
+    QVERIFY(coverage.nameless[0].keys.isEmpty());
+    QVERIFY(coverage.withoutHint.isEmpty());
+}
+
+void tst_coverage::content_ofSeveralParts_isTold()
+{
+    Buttons window({ "brew", "brew", "pour" });
+    const HRCoverage coverage = coverageOf(walkParts(&window), { "brew", "pour" });
+    QCOMPARE(coverage.shared.keys(), QStringList("brew"));
+    QCOMPARE(coverage.shared["brew"].size(), 2);
+}
+
+void tst_coverage::content_ofOneAction_isNot()
+{
+    PartsWindow window; // has "fileOpen" in a menu and in a tool bar
+    const HRCoverage coverage = coverageOf(walkParts(&window), { "fileOpen" });
+    QVERIFY(coverage.shared.isEmpty());
+    QVERIFY(!tells(coverage.withoutHint, "PartsWindow/fileOpen"));
+}
+
+void tst_coverage::content_thatNobodyShows_isTold()
+{
+    Buttons window({ "brew" });
+    const QStringList keys{ "brew", "tea", "window/brew", "tea", "window" };
+    const HRCoverage coverage = coverageOf(walkParts(&window), keys);
+    // The window's button shows its special hint, never the general one.
+    QCOMPARE(coverage.unusedKeys, QStringList({ "brew", "tea" }));
+}
+
+void tst_coverage::window_isWalkedWhole()
+{
+    PartsWindow window;
+    new QPushButton("hidden", window.ui.colorTab);
+    window.ui.colorTab->findChild<QPushButton *>()->setObjectName("onOtherPage");
+    const HRCoverage coverage = coverageOf(walkParts(&window), {});
+    for (const char *key : { "PartsWindow/menuFile", "PartsWindow/fileQuit",
+             "PartsWindow/recentClear", "finder", "PartsWindow/fontTab", "PartsWindow/colorTab",
+             "PartsWindow/people/Age", "PartsWindow/people", "PartsWindow/fontTab/size",
+             "PartsWindow/fontTab/family", "PartsWindow/buttons/Save", "PartsWindow/strikeout",
+             "shape", "PartsWindow/canvas", "PartsWindow/colorTab/onOtherPage" })
+        QVERIFY2(tells(coverage.withoutHint, key), key);
+    for (const char *key : { "PartsWindow/tabs", "PartsWindow/zoom", "ink" })
+        QVERIFY2(!tells(coverage.withoutHint, key), key);
+}
+
+void tst_coverage::pieces_areNoParts()
+{
+    PartsWindow window;
+    const HRCoverage coverage = coverageOf(walkParts(&window), {});
+    for (const HRCoveredPart &part : coverage.nameless)
+        qWarning() << part.widget << part.text;
+    QVERIFY(coverage.nameless.isEmpty());
+}
+
+void tst_coverage::interface_looksAtOpenWindows_inSilence()
+{
+    class Host : public HRWidgetsInterface
+    {
+    public:
+        using HRWidgetsInterface::HRWidgetsInterface;
+        void handleMessage(HRMessageType, const QString &message) override
+        {
+            messages.append(message);
+        }
+        QStringList messages;
+    };
+
+    TestPackages packages;
+    packages.write("A.hintreels/ui/Popup.qml", rectangleQml(120, 80));
+    packages.writeControl("A", "a.xml",
+        "<hintreel key='brew' title='Brew'/><hintreel key='tea'/><hintreel key='none'/>",
+        "ui='ui/Popup.qml'");
+    HRContext context;
+    context.set(fallbackKeyKey, "none");
+    context.set(hideDelayKey, 0);
+    Host host(context, { packages.path() });
+    Buttons open({ "brew", "pour" });
+    Buttons closed({ "tea" });
+    closed.hide();
+    host.show("brew", QPoint(10, 10), nullptr);
+    host.context().set(messageLevelKey, int(messageDebug));
+
+    const HRCoverage coverage = host.coverage();
+
+    QCOMPARE(keysOf(coverage.withoutHint), QStringList("window/pour"));
+    QVERIFY(coverage.nameless.isEmpty());
+    QCOMPARE(coverage.unusedKeys, QStringList("tea"));
+    QCOMPARE(host.messages, QStringList());
+}
+
+QTEST_MAIN(tst_coverage)
+#include "tst_coverage.moc"
