@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <Hintreels/HRContext>
-#include <Hintreels/HRInterface>
+#include <Hintreels/HRWidgetsInterface>
 
 #include <QApplication>
 #include <QHBoxLayout>
@@ -21,9 +21,8 @@ int main(int argc, char *argv[])
     }
 
     HRContext settings;
-    settings.set(Hintreels::applicationFilterKey, true); // the library watches the pointer itself
     // Data paths: the look that all packages share, and the packages beside this program.
-    Hintreels::HRInterface hints(settings, { STANDARD_PACKAGES, MY_PACKAGES });
+    Hintreels::HRWidgetsInterface hints(settings, { STANDARD_PACKAGES, MY_PACKAGES });
 
     window.show();
     return application.exec();

@@ -8,35 +8,13 @@
 
 #include <Hintreels/HRContext>
 
-#include <QAbstractScrollArea>
-#include <QAction>
-#include <QMenu>
-#include <QToolButton>
-#include <QUrl>
-
 using namespace Hintreels;
 
 namespace Sketchpad {
 
-namespace {
-
-QString actionName(const QAction *action)
-{
-    return action ? action->objectName() : QString();
-}
-
-// The pointer rests on a scroll area's viewport, which has a name of Qt's own.
-QString scrollAreaName(const QObject *object)
-{
-    const auto *area = qobject_cast<QAbstractScrollArea *>(object->parent());
-    return area && area->viewport() == object ? area->objectName() : QString();
-}
-
-} // namespace
-
 SketchpadHints::SketchpadHints(
     HRContext &context, const QStringList &dataPaths, MainWindow &window, HRIndex *index)
-    : HRInterface(context, dataPaths, index)
+    : HRWidgetsInterface(context, dataPaths, index)
     , m_window(window)
 {
     // The message log shows the look-ups too, not only what went wrong; those of the start-up would
@@ -52,7 +30,6 @@ SketchpadHints::SketchpadHints(
 void SketchpadHints::configure(HRContext &context)
 {
     context.set(applicationNameKey, QStringLiteral("Sketchpad"));
-    context.set(applicationFilterKey, true);
     context.set(allowNamedResourcesKey, true);
     context.set(localeKey, QStringLiteral("en_US"));
     context.set(showAnimationDurationKey, 120);
@@ -64,18 +41,6 @@ QWidget *SketchpadHints::createWindow(HRWindowType)
     auto *window = new QWidget(&m_window, Qt::Tool);
     window->setAttribute(Qt::WA_DeleteOnClose);
     return window;
-}
-
-QString SketchpadHints::keyForObject(QObject *object)
-{
-    QString key;
-    if (const auto *button = qobject_cast<QToolButton *>(object))
-        key = actionName(button->defaultAction());
-    else if (const auto *menu = qobject_cast<QMenu *>(object))
-        key = actionName(menu->activeAction());
-    else
-        key = scrollAreaName(object);
-    return key.isEmpty() ? object->objectName() : key;
 }
 
 bool SketchpadHints::openExternalResource(HRExternalResourceType type, const QString &resource)
@@ -91,14 +56,6 @@ void SketchpadHints::handleMessage(HRMessageType type, const QString &message)
         m_window.messageLog().append(tr("Problem: %1").arg(message));
     else
         m_window.messageLog().append(message);
-}
-
-QString SketchpadHints::shortCutForObject(const QString &key, QObject *, const QString &shortcut)
-{
-    const QAction *action = m_window.action(key);
-    if (!action || action->shortcut().isEmpty())
-        return shortcut;
-    return action->shortcut().toString(QKeySequence::NativeText);
 }
 
 } // namespace Sketchpad

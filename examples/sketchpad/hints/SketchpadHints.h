@@ -3,15 +3,14 @@
 
 #pragma once
 
-#include <Hintreels/HRInterface>
+#include <Hintreels/HRWidgetsInterface>
 
 namespace Sketchpad {
 
 class MainWindow;
 
-/// Connects the hints with the drawing program: which widget has which key, which shortcut an
-/// action has at the moment, where links, messages and detached hints go.
-class SketchpadHints : public Hintreels::HRInterface
+/// Connects the hints with the drawing program: where links, messages and detached hints go.
+class SketchpadHints : public Hintreels::HRWidgetsInterface
 {
     Q_OBJECT
 
@@ -26,12 +25,9 @@ public:
     static void configure(HRContext &context);
 
     QWidget *createWindow(Hintreels::HRWindowType type) override;
-    QString keyForObject(QObject *object) override;
     bool openExternalResource(
         Hintreels::HRExternalResourceType type, const QString &resource) override;
     void handleMessage(Hintreels::HRMessageType type, const QString &message) override;
-    QString shortCutForObject(
-        const QString &key, QObject *object, const QString &shortcut) override;
 
 private:
     MainWindow &m_window;
