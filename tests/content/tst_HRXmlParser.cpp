@@ -47,6 +47,38 @@ public:
     }
 };
 
+/// Tells of whitespace before each element, as readers do that know the type of the document.
+int tellWhitespace(const QString &, const QXmlAttributes &, void *parser)
+{
+    static_cast<HRXmlParser *>(parser)->contentHandler()->ignorableWhitespace(" \n");
+    return 1;
+}
+
+/// Deletes all that was read before "c", as no filter should.
+int deleteTree(const QString &qName, const QXmlAttributes &, void *context)
+{
+    const auto *first = static_cast<QPointer<QObject> *>(context)->data();
+    if (qName == "c" && first)
+        delete first->parent();
+    return 1;
+}
+
+/// The object read last.
+QPointer<QObject> lastMade;
+
+/// Tells of itself, so that a filter can find it.
+class Known : public QObject
+{
+    Q_OBJECT
+
+public:
+    Q_INVOKABLE explicit Known(QObject *parent)
+        : QObject(parent)
+    {
+        lastMade = this;
+    }
+};
+
 } // namespace
 
 class tst_HRXmlParser : public QObject
@@ -74,6 +106,8 @@ private Q_SLOTS:
     void read_trimsTagName();
     void read_keepsAttributes_whenElementTakesThem();
     void read_appendsTextInOrder();
+    void ignorableWhitespace_isText();
+    void read_survives_whenItsFilterDeletesTheTree();
 };
 
 void tst_HRXmlParser::defaultElement_isElement()
@@ -317,6 +351,25 @@ void tst_HRXmlParser::read_appendsTextInOrder()
     const Objects objects(
         parser, "<a> 1&amp;2 <![CDATA[ <3> ]]><!-- no -->&#52;<b>not\nthis</b>\n  5\t</a>");
     QCOMPARE(objects.element()->content(), QString(" 1&2  <3> 4\n  5\t"));
+}
+
+void tst_HRXmlParser::ignorableWhitespace_isText()
+{
+    HRXmlParser parser(tellWhitespace, &parser);
+    const Objects objects(parser, "<a>1<b/>2</a>");
+    QCOMPARE(outline(objects), QString("a'1 \n2'{b}"));
+}
+
+void tst_HRXmlParser::read_survives_whenItsFilterDeletesTheTree()
+{
+    MessageGuard messages;
+    HRXmlParser parser(deleteTree, &lastMade);
+    parser.setDefaultElement(&Known::staticMetaObject);
+    const Objects objects(parser, "<a><c></a>"); // what stays open is the parser's
+    QCOMPARE(objects.size(), 0);
+    QVERIFY(lastMade);
+    QCOMPARE(lastMade->parent(), nullptr);
+    QCOMPARE(messages.takeMessages().size(), 1);
 }
 
 QTEST_GUILESS_MAIN(tst_HRXmlParser)

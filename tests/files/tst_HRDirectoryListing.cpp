@@ -5,6 +5,7 @@
 #include "support/TestPackage.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QtTest>
 
 #include <sys/stat.h>
@@ -32,6 +33,8 @@ class tst_HRDirectoryListing : public QObject
 private Q_SLOTS:
     void holdsWhatQDirFinds();
     void isEmpty_whereThereIsNoDirectory();
+    void namesThatDifferInCaseOnly_haveAnOrder();
+    void stampOfReadable_looksAgain();
     void keepFirst_forgetsTheRest_data();
     void keepFirst_forgetsTheRest();
 };
@@ -64,6 +67,36 @@ void tst_HRDirectoryListing::isEmpty_whereThereIsNoDirectory()
     const QString file = files.write("a.xml", "<hintreels/>");
     QCOMPARE(namesIn(file), QStringList());
     QCOMPARE(namesIn(files.path() + "/none"), QStringList());
+}
+
+void tst_HRDirectoryListing::namesThatDifferInCaseOnly_haveAnOrder()
+{
+    const TestPackages files;
+    for (const char *name : { "b.xml", "c.xml", "B.xml", "B.XML", "a.xml" })
+        files.write(name, "");
+    QCOMPARE(namesIn(files.path()), QStringList({ "a.xml", "B.XML", "B.xml", "b.xml", "c.xml" }));
+}
+
+// Between the listing and the look at a file, others may have changed the directory.
+void tst_HRDirectoryListing::stampOfReadable_looksAgain()
+{
+    const TestPackages files;
+    const QDir directory(files.path());
+    const QString kept = files.write("a.xml", "text");
+    const QString owners = files.write("b.xml", "");
+    const QString locked = files.write("c.xml", "");
+    const QString gone = files.write("d.xml", "");
+    const QString replaced = files.write("e.xml", "");
+    const HRDirectoryListing listing(files.path() + '/', ".xml");
+    QVERIFY(QFile::setPermissions(owners, QFile::ReadOwner));
+    QVERIFY(QFile::setPermissions(locked, {}));
+    QVERIFY(QFile::remove(gone) && QFile::remove(replaced) && directory.mkdir("e.xml"));
+    QVector<bool> readable;
+    for (const HRListedFile &file : listing.files())
+        readable.append(listing.stampOfReadable(file).has_value());
+    const bool opensAll = QFileInfo(locked).isReadable(); // whom permissions do not hold
+    QCOMPARE(readable, (QVector<bool>{ true, true, opensAll, false, false }));
+    QVERIFY(listing.stampOfReadable(listing.files()[0]) == stampOfFile(QFile::encodeName(kept)));
 }
 
 void tst_HRDirectoryListing::keepFirst_forgetsTheRest_data()

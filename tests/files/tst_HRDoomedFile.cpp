@@ -16,6 +16,8 @@ class tst_HRDoomedFile : public QObject
 private Q_SLOTS:
     void remove_deletes_unlessReplaced_data();
     void remove_deletes_unlessReplaced();
+    void remove_deletesNothing_whereTheFileIsGone_data();
+    void remove_deletesNothing_whereTheFileIsGone();
 };
 
 void tst_HRDoomedFile::remove_deletes_unlessReplaced_data()
@@ -44,6 +46,29 @@ void tst_HRDoomedFile::remove_deletes_unlessReplaced()
     QVERIFY(!after || replace());
     file.remove();
     QCOMPARE(QFile::exists(path), before || after);
+}
+
+void tst_HRDoomedFile::remove_deletesNothing_whereTheFileIsGone_data()
+{
+    QTest::addColumn<bool>("before");
+    QTest::newRow("before it is held") << true;
+    QTest::newRow("while it is held") << false;
+}
+
+void tst_HRDoomedFile::remove_deletesNothing_whereTheFileIsGone()
+{
+    QFETCH(bool, before);
+    const TestPackages files;
+    const QString path = files.write("a", "damaged");
+    const auto stamp = stampOfFile(QFile::encodeName(path));
+    QVERIFY(stamp);
+    QVERIFY(!before || QFile::remove(path));
+    HRDoomedFile file(path, *stamp);
+    QVERIFY(before || QFile::remove(path));
+    if (before)
+        files.write("a", "new");
+    file.remove();
+    QCOMPARE(QFile::exists(path), before);
 }
 
 QTEST_APPLESS_MAIN(tst_HRDoomedFile)

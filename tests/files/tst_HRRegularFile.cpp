@@ -3,6 +3,7 @@
 
 #include "files/HRDirectoryListing_p.h"
 #include "files/HRRegularFile_p.h"
+#include "support/Descriptors.h"
 #include "support/TestPackage.h"
 #include "ui/popup/sceneReach_p.h"
 
@@ -25,6 +26,8 @@ private Q_SLOTS:
     void readAll_readsWhatIsThere_data();
     void readAll_readsWhatIsThere();
     void readAll_reads_whatHasGrown();
+    void readAll_refuses_whatNoArrayHolds();
+    void openRegularFile_closesWhatItCannotUse();
     void resources_areFiles();
 };
 
@@ -113,6 +116,32 @@ void tst_HRRegularFile::readAll_reads_whatHasGrown()
     QByteArray bytes;
     QVERIFY(file.readAll(bytes));
     QCOMPARE(bytes, content);
+}
+
+void tst_HRRegularFile::readAll_refuses_whatNoArrayHolds()
+{
+    const TestPackages files;
+    QFile large(files.write("a.xml", "<hintreels/>"));
+    QVERIFY(large.resize(600'000'000)); // of which the disk holds but the first bytes
+    HRRegularFile file(QFile::encodeName(large.fileName()));
+    QVERIFY(file.isOpen());
+    QByteArray bytes("what stood there before");
+    QVERIFY(!file.readAll(bytes));
+    QCOMPARE(bytes, QByteArray("what stood there before"));
+}
+
+void tst_HRRegularFile::openRegularFile_closesWhatItCannotUse()
+{
+    const TestPackages files;
+    const QString path = files.write("a.xml", "text");
+    QFile file(files.write("b.xml", "other"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QStringList descriptors = openDescriptors();
+    QTest::ignoreMessage(
+        QtWarningMsg, qPrintable("QFile::open: File (" + file.fileName() + ") already open"));
+    QVERIFY(!openRegularFile(file, path));
+    QCOMPARE(openDescriptors(), descriptors);
+    QCOMPARE(file.readAll(), QByteArray("other"));
 }
 
 void tst_HRRegularFile::resources_areFiles()

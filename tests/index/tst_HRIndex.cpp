@@ -265,6 +265,10 @@ void tst_HRIndex::indexControlFile_passesOver_data()
                                 << "A.hintreels";
     QTest::newRow("package that is not there") << "C.hintreels/a.xml"
                                                << "C.hintreels";
+    QTest::newRow("resource that is no control file") << ":/hintreels/standard/ui/HintreelUI.qml"
+                                                      << ":/hintreels/standard";
+    QTest::newRow("resource that is not there") << ":/hintreels/standard/ui/none.xml"
+                                                << ":/hintreels/standard";
 }
 
 void tst_HRIndex::indexControlFile_passesOver()
@@ -275,8 +279,8 @@ void tst_HRIndex::indexControlFile_passesOver()
     fixture.packages.writeControl("A", "a.xml", "<hintreel key='pen'/>");
     fixture.packages.write("A.hintreels/Control/other.xml", "<other><hintreel key='pen'/></other>");
     fixture.packages.write("B.hintreels/b.xml", "");
-    const QString base = fixture.packages.path() + '/';
-    fixture.index.indexControlFile(base + file, base + package);
+    const QDir base(fixture.packages.path());
+    fixture.index.indexControlFile(base.filePath(file), base.filePath(package));
     QVERIFY(fixture.index.keys().isEmpty());
     QVERIFY(fixture.index.componentPathsForPackageNamed("A").isEmpty());
 }

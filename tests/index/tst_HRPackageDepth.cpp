@@ -20,6 +20,8 @@ private Q_SLOTS:
     void levels_countFromTheLink_whenItLeadsBackToThePackage();
     void levels_areCounted_whenThePackageIsNamedByALink();
     void levels_areCounted_whenThePackageIsTheRoot();
+    void levels_ofCanonicalPaths_areCounted_data();
+    void levels_ofCanonicalPaths_areCounted();
     void levels_areRemembered_forOneDirectoryAndPackage();
 };
 
@@ -93,6 +95,31 @@ void tst_HRPackageDepth::levels_areCounted_whenThePackageIsTheRoot()
     for (const bool isCanonical : { false, true })
         QCOMPARE(HRPackageDepth().levels(file, "/", isCanonical).value_or(Outside), levels);
     QCOMPARE(HRPackageDepth().levels("/x.xml", "/", true).value_or(Outside), 1);
+}
+
+void tst_HRPackageDepth::levels_ofCanonicalPaths_areCounted_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("package");
+    QTest::addColumn<int>("depth");
+    QTest::newRow("directly in it") << "/A/x.xml"
+                                    << "/A" << 1;
+    QTest::newRow("two levels") << "/A/Control/x.xml"
+                                << "/A" << 2;
+    QTest::newRow("another package") << "/A/x.xml"
+                                     << "/B" << Outside;
+    QTest::newRow("longer name") << "/AB/x.xml"
+                                 << "/A" << Outside;
+    QTest::newRow("no directory") << "x.xml"
+                                  << "/A" << Outside;
+}
+
+// Nobody looks whether they are there.
+void tst_HRPackageDepth::levels_ofCanonicalPaths_areCounted()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, package);
+    QTEST(HRPackageDepth().levels(file, package, true).value_or(Outside), "depth");
 }
 
 void tst_HRPackageDepth::levels_areRemembered_forOneDirectoryAndPackage()

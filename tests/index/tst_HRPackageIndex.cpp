@@ -32,6 +32,9 @@ private Q_SLOTS:
     void initTestCase();
     void init();
     void open_usesTheCacheLocation_byDefault();
+    void open_fails_whereNoDirectoryCanBeMade();
+    void indexControlFile_passesOver_data();
+    void indexControlFile_passesOver();
     void answers_areThoseOfHRIndex();
     void answers_areThoseOfHRIndex_whenFilesAreKept();
     void warmStart_readsOnlyWhatChanged();
@@ -190,6 +193,48 @@ void tst_HRPackageIndex::open_usesTheCacheLocation_byDefault()
     index.remove();
     QVERIFY(!QFileInfo::exists(file));
     QStandardPaths::setTestModeEnabled(false);
+}
+
+void tst_HRPackageIndex::open_fails_whereNoDirectoryCanBeMade()
+{
+    MessageGuard messages;
+    const QByteArray before = qgetenv("XDG_CACHE_HOME");
+    qputenv("XDG_CACHE_HOME", "/dev/null/cache");
+    HRContext context;
+    HRPackageIndex index(&context, {});
+    const bool isOpen = index.open();
+    before.isNull() ? qunsetenv("XDG_CACHE_HOME") : qputenv("XDG_CACHE_HOME", before);
+    QVERIFY(!isOpen);
+    QVERIFY(messages.take("No cache directory. Cannot create index database. Index will be kept in "
+                          "memory"));
+    messages.takeMessages();
+}
+
+void tst_HRPackageIndex::indexControlFile_passesOver_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("package");
+    QTest::newRow("file of another package") << "A.hintreels/Control/a.xml"
+                                             << "B.hintreels";
+    QTest::newRow("missing file") << "A.hintreels/Control/none.xml"
+                                  << "A.hintreels";
+    QTest::newRow("directory") << "A.hintreels/Control"
+                               << "A.hintreels";
+}
+
+void tst_HRPackageIndex::indexControlFile_passesOver()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, package);
+    MessageGuard messages;
+    Run run(m_pair);
+    const QString base = m_pair.path() + '/';
+    run.index.indexControlFile(base + file, base + package);
+    QCOMPARE(run.index.keys(), QStringList());
+    for (int i = 0; i < 2; ++i)
+        run.index.indexControlFile(base + "A.hintreels/Control/a.xml", base + "A.hintreels");
+    QCOMPARE(run.index.keys(), QStringList("a"));
+    messages.takeMessages();
 }
 
 void tst_HRPackageIndex::answers_areThoseOfHRIndex()

@@ -37,6 +37,8 @@ private Q_SLOTS:
     void refusal_isWaitedForOnceASecond_data();
     void refusal_isWaitedForOnceASecond();
     void refusalInATransaction_holdsItsEntries();
+    void refusalOnTheWay_holdsItsEntries_data();
+    void refusalOnTheWay_holdsItsEntries();
     void failedCommit_holdsItsEntries();
     void failedCommit_isTriedAgain_aSecondLater();
     void refusedEntry_isLogged_andTheOthersAreStored();
@@ -341,6 +343,36 @@ void tst_HRSQLiteIndexLocks::refusalInATransaction_holdsItsEntries()
     fixture.index.startUpdate();
     fixture.index.endUpdate();
     QCOMPARE(fixture.rowsOf("pen"), QStringList("/b.xml 1"));
+    fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndexLocks::refusalOnTheWay_holdsItsEntries_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::newRow("known file") << "/a.xml";
+    QTest::newRow("new file") << "/b.xml";
+}
+
+// Where the host itself has ended the update's transaction, another program may come in between.
+void tst_HRSQLiteIndexLocks::refusalOnTheWay_holdsItsEntries()
+{
+    QFETCH(QString, file);
+    LockedFixture fixture;
+    fixture.index.startUpdate();
+    QVERIFY(fixture.store("pen", "/a.xml"));
+    fixture.rows("COMMIT");
+    fixture.lock();
+    QVERIFY(!fixture.store("pen", file));
+    QVERIFY(!fixture.store("line", file));
+    fixture.release();
+    fixture.index.endUpdate();
+    QCOMPARE(fixture.index.keys(), QStringList({ "pen", "line" }));
+    const auto stored = [&] {
+        fixture.index.startUpdate();
+        fixture.index.endUpdate();
+        return fixture.rowsOf("pen") + fixture.rowsOf("line");
+    };
+    QTRY_COMPARE(stored(), QStringList({ file + " 1", file + " 1" }));
     fixture.messages.takeMessages();
 }
 

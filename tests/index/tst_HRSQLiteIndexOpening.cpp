@@ -35,6 +35,7 @@ private Q_SLOTS:
     void open_refusesFilesThatOthersCouldHaveMade();
     void open_refusesForeignSchemas_data();
     void open_refusesForeignSchemas();
+    void open_refusesASchema_thatHidesItsTables();
     void open_makesAPrivateFile();
     void open_makesADamagedDatabaseAnew_data();
     void open_makesADamagedDatabaseAnew();
@@ -224,6 +225,8 @@ void tst_HRSQLiteIndexOpening::open_refusesForeignSchemas_data()
         "CREATE TRIGGER t AFTER INSERT ON packages BEGIN INSERT INTO packages (ppath) VALUES "
         "('x'); END" };
     QTest::newRow("index") << QStringList{ tables, "CREATE INDEX i ON packages (ppath)" };
+    QTest::newRow("virtual table")
+        << QStringList("CREATE VIRTUAL TABLE packages USING fts4(ppath)");
 }
 
 void tst_HRSQLiteIndexOpening::open_refusesForeignSchemas()
@@ -238,6 +241,22 @@ void tst_HRSQLiteIndexOpening::open_refusesForeignSchemas()
     QVERIFY(QFileInfo::exists(fixture.databaseFile()));
     fixture.add("A", "a.xml", "<hintreel key='pen' n='1'/>");
     QCOMPARE(fixture.found("pen"), QString("1"));
+}
+
+void tst_HRSQLiteIndexOpening::open_refusesASchema_thatHidesItsTables()
+{
+    SqliteIndexFixture fixture(false);
+    {
+        OtherConnection other(fixture.databaseFile());
+        for (const char *statement : { "CREATE TABLE songs (title TEXT)",
+                 "PRAGMA writable_schema=ON", "DELETE FROM sqlite_master" })
+            other.execute(statement);
+    }
+    const QByteArray before = contentOf(fixture.databaseFile());
+    QVERIFY(!fixture.index.open());
+    QVERIFY(fixture.index.close());
+    QCOMPARE(contentOf(fixture.databaseFile()), before);
+    fixture.messages.takeMessages();
 }
 
 void tst_HRSQLiteIndexOpening::open_makesAPrivateFile()

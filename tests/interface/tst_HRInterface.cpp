@@ -5,8 +5,12 @@
 #include "manager/HRManager.h"
 #include "support/MessageGuard.h"
 #include "support/TestPackage.h"
+#include "ui/popup/HRWidget.h"
 
 #include <QDesktopServices>
+#include <QFileInfo>
+#include <QMouseEvent>
+#include <QWidget>
 #include <QtTest>
 
 using namespace Hintreels;
@@ -29,6 +33,9 @@ private Q_SLOTS:
     void openExternalResource_opensUrlsOnly();
     void context_isTheManagersCopy();
     void keys_areThoseOfTheIndex();
+    void loadPackage_addsOnePackage();
+    void eventFilters_hideThePopup_andKeepNothingBack();
+    void interpolate_takesValuesOfACaller();
     void setGlobalProperty_reachesInterpolation();
     void translateString_isTheManagers();
     void manager_isGone_whenInterfaceIsDeleted();
@@ -151,6 +158,46 @@ void tst_HRInterface::keys_areThoseOfTheIndex()
     QCOMPARE(interface.hintreelAttribute("pen", "title", "none"), QString("Pen"));
     QCOMPARE(interface.hintreelAttribute("pen", "other", "none"), QString("none"));
     QCOMPARE(interface.hintreelAttribute("ink", "title", "none"), QString("none"));
+}
+
+void tst_HRInterface::loadPackage_addsOnePackage()
+{
+    const TestPackages packages;
+    packages.writeControl("A", "a.xml", "<hintreel key='pen'/>");
+    packages.writeControl("B", "b.xml", "<hintreel key='line'/>");
+    HRContext context;
+    HRInterface interface(context, {});
+    interface.manager()->loadPackage(QFileInfo(packages.path() + "/B.hintreels"));
+    QCOMPARE(interface.keys(), QStringList{ "line" });
+}
+
+void tst_HRInterface::eventFilters_hideThePopup_andKeepNothingBack()
+{
+    const TestPackages packages;
+    packages.writeControl("A", "a.xml", "<hintreel key='pen'/>", "ui='Ui.qml'");
+    packages.write("A.hintreels/Ui.qml", "import QtQuick 2.15\nItem { width: 50; height: 50 }\n");
+    HRContext context;
+    HRInterface interface(context, { packages.path() });
+    QWidget watched;
+    const QPoint faraway(100'000, 100'000);
+    QMouseEvent move(QEvent::MouseMove, QPointF(), faraway, Qt::NoButton, {}, {});
+    QMouseEvent press(QEvent::MouseButtonPress, QPointF(), faraway, Qt::LeftButton, {}, {});
+    QVERIFY(!interface.mouseMoveEventFilter(&watched, &move));
+    QVERIFY(interface.show("pen", QPoint(50, 50), nullptr));
+    QVERIFY(!interface.mouseMoveEventFilter(&watched, &move));
+    QTRY_VERIFY(!interface.manager()->widget()->isVisible());
+    QVERIFY(interface.show("pen", QPoint(50, 50), nullptr));
+    QVERIFY(!interface.mouseButtonEventFilter(&watched, &press));
+    QVERIFY(!interface.manager()->widget()->isVisible());
+}
+
+void tst_HRInterface::interpolate_takesValuesOfACaller()
+{
+    HRContext context;
+    HRInterface interface(context, {});
+    interface.setGlobalProperty("key", "F1");
+    QCOMPARE(interface.manager()->interpolate("%(key)s or %(other)s", { { "other", "F2" } }),
+        QString("%(key)s or F2"));
 }
 
 void tst_HRInterface::setGlobalProperty_reachesInterpolation()

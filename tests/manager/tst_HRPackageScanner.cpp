@@ -52,6 +52,7 @@ private Q_SLOTS:
     void scanDataPaths_indexesControlFilesOnly();
     void scanDataPaths_reportsEachStep();
     void scanDataPaths_passesOverWhatIsNoDirectory();
+    void scanDataPaths_followsSuffixAndControlDirectorySettings_data();
     void scanDataPaths_followsSuffixAndControlDirectorySettings();
     void scanDataPaths_remembersDirectoryOnce_butScansItTwice();
     void scanDataPaths_passesOverLinks();
@@ -104,10 +105,18 @@ void tst_HRPackageScanner::scanDataPaths_passesOverWhatIsNoDirectory()
     QVERIFY(f.scanner.scannedDirectories().isEmpty());
 }
 
+void tst_HRPackageScanner::scanDataPaths_followsSuffixAndControlDirectorySettings_data()
+{
+    QTest::addColumn<QString>("suffix");
+    for (const char *suffix : { "reels", "REELS", "r?els", "re*", "[pr]eels" })
+        QTest::newRow(suffix) << suffix;
+}
+
 void tst_HRPackageScanner::scanDataPaths_followsSuffixAndControlDirectorySettings()
 {
+    QFETCH(QString, suffix);
     Fixture f;
-    f.context.set(packageSuffixKey, "reels");
+    f.context.set(packageSuffixKey, suffix);
     f.context.set(controlDirectoryKey, "Files");
     f.packages.write("A.reels/Files/a.xml", "<hintreels/>");
     f.packages.write("B.hintreels/Control/b.xml", "<hintreels/>");

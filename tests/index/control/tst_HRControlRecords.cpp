@@ -14,6 +14,7 @@ class tst_HRControlRecords : public QObject
 private Q_SLOTS:
     void records_areTriedInOrder();
     void records_areKeptOnce_forPathAndDepth();
+    void records_areKeptApart_howeverMany();
 };
 
 namespace {
@@ -45,6 +46,19 @@ void tst_HRControlRecords::records_areKeptOnce_forPathAndDepth()
     QVERIFY(!records.addLast({ "/a", 1 }));
     QVERIFY(records.addLast({ "/a", 2 }));
     QCOMPARE(described(records), QStringList({ "/a 1", "/a 2" }));
+}
+
+void tst_HRControlRecords::records_areKeptApart_howeverMany()
+{
+    HRControlRecords records;
+    for (const bool isNew : { true, false }) {
+        for (int i = 0; i < 3000; ++i) {
+            const QString name = '/' + QString::number(i % 1000);
+            QCOMPARE(records.addFirst({ "/a" + QString::number(i / 1000) + name, 1 }), isNew);
+        }
+    }
+    QCOMPARE(described(records).size(), 3000);
+    QCOMPARE(described(records).first(), QString("/a2/999 1"));
 }
 
 QTEST_GUILESS_MAIN(tst_HRControlRecords)

@@ -20,6 +20,8 @@ private Q_SLOTS:
     void decoded_tellsEveryDamage();
     void decoded_refusesAnEntry_whosePartsDoNotFillIt_data();
     void decoded_refusesAnEntry_whosePartsDoNotFillIt();
+    void decoded_refusesAnEntry_thatEndsTooSoon_data();
+    void decoded_refusesAnEntry_thatEndsTooSoon();
     void decoded_takesNoEntries();
     void encoded_staysAsItIs_inOneFormat();
     void decoded_ignoresOtherFormats();
@@ -169,6 +171,24 @@ void tst_HRDirectoryDigest::decoded_refusesAnEntry_whosePartsDoNotFillIt()
     snapshot.put(std::string(size_t(nameLength), 'x'), storedFile());
     snapshot.put("b.xml", storedFile());
     QTEST(HRDirectoryDigest::decoded(snapshot.encoded()).has_value(), "isTaken");
+}
+
+void tst_HRDirectoryDigest::decoded_refusesAnEntry_thatEndsTooSoon_data()
+{
+    QTest::addColumn<QByteArray>("checksum");
+    QTest::addColumn<QByteArray>("entry");
+    QTest::newRow("in its head") << QByteArray("1d0c269024330029") << QByteArray(8, '\0').toHex();
+    // It says that it is as long as its head, and a key.
+    QTest::newRow("behind its head")
+        << QByteArray("1723b7a36ed71a1d") << "34" + QByteArray(43, '\0').toHex() + "01000000";
+}
+
+/// Under the right checksum.
+void tst_HRDirectoryDigest::decoded_refusesAnEntry_thatEndsTooSoon()
+{
+    QFETCH(QByteArray, checksum);
+    QFETCH(QByteArray, entry);
+    QVERIFY(!HRDirectoryDigest::decoded(QByteArray::fromHex("01000000" + checksum + entry)));
 }
 
 void tst_HRDirectoryDigest::decoded_takesNoEntries()
