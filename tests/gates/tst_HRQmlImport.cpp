@@ -61,6 +61,10 @@ void tst_HRQmlImport::importsOfQml_findsModules_data()
     QTest::newRow("an object's property")
         << "Item { property var a: 1 }\nimport A 1.0" << QStringList();
     QTest::newRow("endless comment") << "/*" << QStringList();
+    QTest::newRow("endless string") << "import 'a\\" << QStringList();
+    QTest::newRow("underscores") << "import _A_.B_ 1.0" << QStringList{ "_A_.B_ 1" };
+    QTest::newRow("byte order mark")
+        << QChar(QChar::ByteOrderMark) + QString("import A 1.0") << QStringList{ "A 1" };
 }
 
 void tst_HRQmlImport::importsOfQml_findsModules()

@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: MIT
 
 #include "gates/GateFixture.h"
+#include "gates/HRScriptWatch_p.h"
 #include "gates/HRWatchThread_p.h"
 #include "support/Pauses.h"
 
 #include <QElapsedTimer>
+#include <QQmlEngine>
+#include <QSignalSpy>
 #include <QThread>
 
 using namespace Hintreels;
@@ -24,6 +27,7 @@ private Q_SLOTS:
     void script_runsOn_afterAHostThatTakesItsTime();
     void script_runsOn_whenTheHostHasBlockedTheEventLoop();
     void script_runsForEver_whenTheSettingSaysSo();
+    void entry_letsTheSceneRun_whenTheHostHasBlocked();
     void pinnedPopup_closes_whenItsScriptIsStopped();
 };
 
@@ -198,6 +202,24 @@ void tst_HRScriptWatch::script_runsForEver_whenTheSettingSaysSo()
     QVERIFY(f.show());
     QVERIFY(f.view()->rootObject()->property("done").toBool());
     QCOMPARE(f.warnings(), QStringList());
+}
+
+void tst_HRScriptWatch::entry_letsTheSceneRun_whenTheHostHasBlocked()
+{
+    constexpr int longLimit = 2000; // ms; until then the scene runs on, however busy the machine is
+    QQmlEngine engine;
+    const auto watch = std::make_shared<HRScriptWatch>(&engine);
+    QSignalSpy stopped(watch.get(), &HRScriptWatch::stopped);
+    watch->start(longLimit);
+    QVERIFY(lookUntil([&engine] { return engine.isInterrupted(); }));
+    {
+        const HRScriptWatch::Entry entry(watch);
+        QVERIFY(!engine.isInterrupted());
+        QCOMPARE(engine.evaluate("6 * 7").toInt(), 42);
+    }
+    QCoreApplication::processEvents();
+    QVERIFY(stopped.isEmpty());
+    watch->start(0);
 }
 
 void tst_HRScriptWatch::pinnedPopup_closes_whenItsScriptIsStopped()

@@ -68,8 +68,14 @@ private Q_SLOTS:
     void manager_asksNobody_whateverTheOperation_data();
     void manager_asksNobody_whateverTheOperation();
     void manager_readsFilesResourcesAndDataUrls();
+    void manager_tellsWhichFileItRefuses_data();
+    void manager_tellsWhichFileItRefuses();
+    void url_isRemote_data();
+    void url_isRemote();
     void urlGate_refusesEveryKindOfUrl_data();
     void urlGate_refusesEveryKindOfUrl();
+    void urlGate_runsNothingThatHides_data();
+    void urlGate_runsNothingThatHides();
     void links_outOfUrlProperties_goToTheHost();
 
 private:
@@ -208,6 +214,60 @@ void tst_NetworkGate::manager_readsFilesResourcesAndDataUrls()
     }
 }
 
+void tst_NetworkGate::manager_tellsWhichFileItRefuses_data()
+{
+    QTest::addColumn<QByteArray>("verb");
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QByteArray>("read");
+    QTest::newRow("own") << QByteArray("GET") << "Own/a.txt" << QByteArray("text");
+    QTest::newRow("head of an own one")
+        << QByteArray("HEAD") << "Own/a.txt" << QByteArray("text"); // as Qt does for files
+    QTest::newRow("other") << QByteArray("GET") << "b.txt" << QByteArray();
+}
+
+void tst_NetworkGate::manager_tellsWhichFileItRefuses()
+{
+    QFETCH(QByteArray, verb);
+    QFETCH(QString, file);
+    TestPackages files;
+    files.write("Own/a.txt", "text");
+    files.write("b.txt", "text");
+    auto gate = std::make_shared<HRFileGate>();
+    HRReach reach;
+    reach.rules.ownFilesOnly = true;
+    reach.packages = QStringList{ files.path() + "/Own" };
+    gate->setReach(reach);
+    QStringList told;
+    HRNetworkAccessFactory factory(gate,
+        [&told](const QString &kind, const QString &path) { told.append(kind + ' ' + path); });
+    const std::unique_ptr<QNetworkAccessManager> access(factory.create(nullptr));
+    const QNetworkRequest request(QUrl::fromLocalFile(files.path() + '/' + file));
+    const std::unique_ptr<QNetworkReply> reply(
+        verb == "HEAD" ? access->head(request) : access->get(request));
+    QTRY_VERIFY(reply->isFinished());
+    QTEST(reply->readAll(), "read");
+    const bool isOwn = file.startsWith("Own");
+    QCOMPARE(reply->error() == QNetworkReply::NoError, isOwn);
+    QCOMPARE(told, isOwn ? QStringList() : QStringList("url " + files.path() + "/b.txt"));
+}
+
+void tst_NetworkGate::url_isRemote_data()
+{
+    QTest::addColumn<QString>("url");
+    QTest::addColumn<bool>("remote");
+    for (const char *url :
+        { "", "a.png", "/a.png", "file:///a.png", "qrc:/a.png", "data:,a", "image://provider/a" })
+        QTest::newRow(url) << url << false;
+    for (const char *url : { "http://a/", "https://a/", "ftp://a/", "unknown:a" })
+        QTest::newRow(url) << url << true;
+}
+
+void tst_NetworkGate::url_isRemote()
+{
+    QFETCH(QString, url);
+    QTEST(isRemote(QUrl(url)), "remote");
+}
+
 void tst_NetworkGate::urlGate_refusesEveryKindOfUrl_data()
 {
     QTest::addColumn<int>("type");
@@ -234,6 +294,33 @@ void tst_NetworkGate::urlGate_refusesEveryKindOfUrl()
     QCOMPARE(gate.intercept(refused, kind), refused);
     QCOMPARE(withoutRefusal(refused.toString()), far.toString());
     QCOMPARE(told, kind == HRUrlGate::UrlString ? QStringList() : QStringList{ far.toString() });
+}
+
+void tst_NetworkGate::urlGate_runsNothingThatHides_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<bool>("ownFilesOnly");
+    QTest::addColumn<bool>("allowed");
+    QTest::newRow("QML") << int(HRUrlGate::QmlFile) << true << false;
+    QTest::newRow("script") << int(HRUrlGate::JavaScriptFile) << true << false;
+    QTest::newRow("property") << int(HRUrlGate::UrlString) << true << true;
+    QTest::newRow("QML, by default") << int(HRUrlGate::QmlFile) << false << true;
+}
+
+void tst_NetworkGate::urlGate_runsNothingThatHides()
+{
+    QFETCH(int, type);
+    QFETCH(bool, ownFilesOnly);
+    auto files = std::make_shared<HRFileGate>();
+    HRReach reach;
+    reach.rules.ownFilesOnly = ownFilesOnly;
+    files->setReach(reach);
+    HRUrlGate gate(files, [](const QString &, const QString &) {});
+    const auto kind = HRUrlGate::DataType(type);
+    const QUrl hidden("data:,import QtTest 1.0; TestCase {}");
+    QTEST(gate.intercept(hidden, kind) == hidden, "allowed");
+    const QUrl shipped("qrc:/a.qml");
+    QCOMPARE(gate.intercept(shipped, kind), shipped);
 }
 
 void tst_NetworkGate::links_outOfUrlProperties_goToTheHost()

@@ -133,7 +133,11 @@ void tst_Strangers::format_countsByItsBytes()
     QFETCH(bool, isClip);
     QCOMPARE(isFormatForStrangers(file, HRFileUse::any), isPicture || isClip);
     QVERIFY(!isFormatForStrangers(file, HRFileUse::text));
-    QVERIFY(isFormatForStrangers(files.write("a.vtt", "WEBVTT"), HRFileUse::text));
+    for (const QString &text : { files.write("a.vtt", head), files.write("a.qm", head) }) {
+        QVERIFY(isFormatForStrangers(text, HRFileUse::text));
+        QVERIFY(isFormatForStrangers(text, HRFileUse::any));
+    }
+    QVERIFY(!isFormatForStrangers(files.path() + "/none.png", HRFileUse::picture));
 }
 
 void tst_Strangers::reader_takesFewFormats_data()

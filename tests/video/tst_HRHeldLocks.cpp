@@ -18,6 +18,7 @@ private Q_SLOTS:
     void take_allowsALockThatIsHeld();
     void take_refusesAnotherOfTheSameKind();
     void release_letsGoOnce();
+    void release_ofWhatIsNotHeld_letsNothingGo();
     void take_endsWhereItsRoomDoes();
 };
 
@@ -99,6 +100,15 @@ void tst_HRHeldLocks::release_letsGoOnce()
     QVERIFY(!locks.take(second, HRLock::controller));
     locks.release(first);
     QVERIFY(locks.take(second, HRLock::controller));
+}
+
+void tst_HRHeldLocks::release_ofWhatIsNotHeld_letsNothingGo()
+{
+    HRHeldLocks locks;
+    locks.release(first);
+    QVERIFY(locks.take(first, HRLock::queue));
+    locks.release(second);
+    QVERIFY(!locks.take(second, HRLock::controller));
 }
 
 void tst_HRHeldLocks::take_endsWhereItsRoomDoes()

@@ -6,6 +6,8 @@
 #include "support/MetaMembers.h"
 
 #include <QApplication>
+#include <QImage>
+#include <QPainter>
 #include <QScrollBar>
 #include <QtTest>
 
@@ -55,6 +57,7 @@ private Q_SLOTS:
     void updateDimensions_truncatesItemSize_data();
     void updateDimensions_truncatesItemSize();
     void itemChange_reachesBar();
+    void paint_leavesThePictureAlone();
     void bar_outlivesComponent();
     void component_toleratesDeletedBar();
 };
@@ -183,6 +186,18 @@ void tst_HRScrollBarComponent::itemChange_reachesBar()
     f.bar->hide();
 }
 
+void tst_HRScrollBarComponent::paint_leavesThePictureAlone()
+{
+    Fixture f;
+    QImage picture(20, 20, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    const QImage before = picture.copy();
+    QPainter painter(&picture);
+    f.component.paint(&painter);
+    painter.end();
+    QCOMPARE(picture, before);
+}
+
 void tst_HRScrollBarComponent::bar_outlivesComponent()
 {
     auto *component = new HRScrollBarComponent;
@@ -207,6 +222,7 @@ void tst_HRScrollBarComponent::component_toleratesDeletedBar()
     QCOMPARE(f.component.end(), 0.0F);
     QCOMPARE(f.component.position(), 0.0F);
     QCOMPARE(f.component.scrollBarWidth(), 0.0F);
+    QVERIFY(!f.component.orientHorizontal());
 }
 
 QTEST_MAIN(tst_HRScrollBarComponent)

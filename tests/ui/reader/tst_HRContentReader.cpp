@@ -7,6 +7,8 @@
 
 #include <QBuffer>
 #include <QImage>
+#include <QJSEngine>
+#include <QSignalSpy>
 #include <QtTest>
 
 #include <memory>
@@ -69,11 +71,15 @@ private Q_SLOTS:
     void read_leavesOut_whatShowsNothing();
     void read_keepsTagAndText_whenAttributesHaveTheirNames();
     void read_takesDirectChildrenOnly();
+    void read_showsWhatTheUiSays_data();
+    void read_showsWhatTheUiSays();
     void read_tellsTheDirectionOfWriting_data();
     void read_tellsTheDirectionOfWriting();
     void picture_answersPicturesOnly_data();
     void picture_answersPicturesOnly();
     void clip_tellsTheSizeInItsHeader();
+    void measured_changes_whenAnAnswerComesLate();
+    void returnMemory_forgetsNothing();
     void captions_areMapsInTheirOrder();
     void captions_areCut_whereNobodyCouldReadThem();
     void captionFiles_followTheReadersLocales();
@@ -212,6 +218,33 @@ void tst_HRContentReader::read_takesDirectChildrenOnly()
     QVERIFY(hint["summary"].toString().isEmpty());
 }
 
+void tst_HRContentReader::read_showsWhatTheUiSays_data()
+{
+    QTest::addColumn<QString>("function");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("another text") << "(function (text) { return text + '!' })"
+                                  << "The Pen!";
+    QTest::newRow("nothing") << "(function () {})"
+                             << "The Pen";
+    QTest::newRow("a number") << "(function () { return 7 })"
+                              << "The Pen";
+    QTest::newRow("an error") << "(function () { throw new Error('no') })"
+                              << "The Pen";
+    QTest::newRow("no function") << "'other'"
+                                 << "The Pen";
+}
+
+void tst_HRContentReader::read_showsWhatTheUiSays()
+{
+    QFETCH(QString, function);
+    HRXmlElement element;
+    element.setAttribute("title", "The Pen");
+    QJSEngine engine;
+    const QVariantMap hint = germanReader().read(&element, engine.evaluate(function));
+    QTEST(hint["title"].toString(), "shown");
+    QCOMPARE(hint["summary"].toString(), QString()); // nothing is not said
+}
+
 void tst_HRContentReader::read_tellsTheDirectionOfWriting_data()
 {
     QTest::addColumn<QString>("contentLocale");
@@ -279,6 +312,36 @@ void tst_HRContentReader::clip_tellsTheSizeInItsHeader()
     QTRY_COMPARE(reader.clip(TestClip().write(files.path() + "/clip.mp4")),
         (QVariantMap{ { "width", 64 }, { "height", 48 } }));
     QVERIFY(reader.clip(files.write("text.mp4", "not a clip")).isEmpty());
+}
+
+void tst_HRContentReader::measured_changes_whenAnAnswerComesLate()
+{
+    TestPackages files;
+    TestClip().write(files.path() + "/clip.mp4");
+    const HRContentReader reader = germanReader();
+    QSignalSpy spy(&reader, &HRContentReader::measuredChanged);
+
+    // Each answer takes some of the little time that is waited for all those of a hint.
+    QString path = files.path() + "/clip.mp4";
+    for (int asked = 0; asked < 1000 && !reader.clip(path).isEmpty(); ++asked)
+        path.insert(files.path().size(), "/.");
+
+    QTRY_VERIFY(!spy.isEmpty());
+    QVERIFY(reader.measured() > 0);
+    QCOMPARE(reader.clip(path), (QVariantMap{ { "width", 64 }, { "height", 48 } }));
+}
+
+void tst_HRContentReader::returnMemory_forgetsNothing()
+{
+    TestPackages files;
+    const QString path = files.write("picture.png", png({ 20, 10 }));
+    const HRContentReader reader = germanReader();
+    QTRY_COMPARE(reader.picture(path)["width"].toInt(), 20);
+    QVERIFY(QFile::remove(path));
+
+    reader.returnMemory();
+
+    QCOMPARE(reader.picture(path)["width"].toInt(), 20);
 }
 
 void tst_HRContentReader::captions_areMapsInTheirOrder()

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void readableColor_isReadable();
     void readableColor_keepsTheColor_whenItIsReadable();
     void readableColor_keepsTheHue_whenItMustChange();
+    void readableColor_givesTheColorUp_whereNoMixtureIsReadable();
 };
 
 void tst_readableColor::contrastRatio_followsTheGuidelines_data()
@@ -52,7 +53,7 @@ void tst_readableColor::readableColor_isReadable_data()
 
     const QStringList wanted{ "#2e9e5b", "#d98a00", "#308cc6", "#ffff00", "#777777", "#000000",
         "#ffffff" };
-    const QStringList backgrounds{ "#ffffff", "#efefef", "#dde7df", "#808080", "#2b2d30",
+    const QStringList backgrounds{ "#ffffff", "#efefef", "#dde7df", "#808080", "#777777", "#2b2d30",
         "#000000" };
     for (const QString &color : wanted) {
         for (const QString &background : backgrounds)
@@ -83,6 +84,12 @@ void tst_readableColor::readableColor_keepsTheHue_whenItMustChange()
     QVERIFY(darker.lightness() < wanted.lightness());
     QVERIFY(qAbs(darker.hslHue() - wanted.hslHue()) <= 2);
     QVERIFY(contrastRatio(darker, QColor("#efefef")) < 6);
+}
+
+void tst_readableColor::readableColor_givesTheColorUp_whereNoMixtureIsReadable()
+{
+    QCOMPARE(readableColor(QColor("#ffffff"), QColor("#777777")), QColor(Qt::black));
+    QCOMPARE(readableColor(QColor("#000000"), QColor("#747474")), QColor(Qt::white));
 }
 
 QTEST_APPLESS_MAIN(tst_readableColor)
