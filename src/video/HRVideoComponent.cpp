@@ -5,21 +5,11 @@
 
 #include "video/HRClipFinder_p.h"
 #include "video/retiredSources_p.h"
-#include "video/upright_p.h"
 
 #include <QPainter>
 #include <QUrl>
 
 namespace Hintreels {
-
-namespace {
-
-constexpr QLatin1String timedByRate("constant");
-constexpr QLatin1String timedByFile("file");
-constexpr QLatin1String colorsByScaler("described");
-constexpr QLatin1String colorsByFile("file");
-
-} // namespace
 
 HRVideoComponent::HRVideoComponent(QQuickItem *parent)
     : QQuickPaintedItem(parent)
@@ -40,6 +30,7 @@ HRVideoComponent::HRVideoComponent(QQuickItem *parent)
     connect(d->videoSource, &HRVideoSource::sourceChanged, this, [this] { d->sourceTaken(); });
     // Behind the controller's own slot, which may pause.
     connect(d->videoSource, &HRVideoSource::streamEnded, this, [this] { d->decodingEnded(); });
+    connect(d->videoSource, &HRVideoSourceFFMPEG::clipFailed, this, [this] { d->clipFailed(); });
     followWindow(window()); // the base has put the item there before it was one of this class
     d->followVisibility(window());
     d->controller->start(QThread::InheritPriority);
@@ -165,63 +156,14 @@ double HRVideoComponent::pictureTime() const
     return d->picture.pts();
 }
 
-double HRVideoComponent::length() const
-{
-    return d->awaitedSources > 0 ? 0.0 : d->videoSource->clipLength();
-}
-
-qint64 HRVideoComponent::positionAt(double seconds) const
-{
-    return qint64(d->videoSource->indexAt(seconds));
-}
-
-QString HRVideoComponent::timing() const
-{
-    return d->videoSource->isTimedByFile() ? timedByFile : timedByRate;
-}
-
-void HRVideoComponent::setTiming(const QString &timing)
-{
-    if (timing == this->timing() || (timing != timedByFile && timing != timedByRate))
-        return;
-    d->videoSource->setTimedByFile(timing == timedByFile);
-    Q_EMIT timingChanged();
-    d->tellLength();
-    d->controller->setNeedFrame(true); // with its new time
-}
-
-QString HRVideoComponent::colors() const
-{
-    return d->videoSource->areColorsByFile() ? colorsByFile : colorsByScaler;
-}
-
-void HRVideoComponent::setColors(const QString &colors)
-{
-    if (colors == this->colors() || (colors != colorsByFile && colors != colorsByScaler))
-        return;
-    d->videoSource->setColorsByFile(colors == colorsByFile);
-    Q_EMIT colorsChanged();
-}
-
-bool HRVideoComponent::isUpright() const
-{
-    return d->upright;
-}
-
-void HRVideoComponent::setUpright(bool upright)
-{
-    if (upright == d->upright)
-        return;
-    d->upright = upright;
-    Q_EMIT uprightChanged();
-    if (!d->picture.isNull())
-        placePicture();
-    update();
-}
-
 bool HRVideoComponent::isDecoded() const
 {
     return d->clip.isDecoded();
+}
+
+bool HRVideoComponent::hasFailed() const
+{
+    return d->failed;
 }
 
 bool HRVideoComponent::hasEnded() const
@@ -338,13 +280,6 @@ void HRVideoComponent::followWindow(QQuickWindow *window)
 {
     const HRClipFinder *finder = HRClipFinder::of(window);
     setDecodingPaused(finder && finder->isDecodingPaused());
-}
-
-void HRVideoComponent::placePicture()
-{
-    d->toUpright = d->upright ? d->videoSource->upright() : QTransform();
-    const QSize size = uprightSize(d->picture.size(), d->toUpright);
-    setImplicitSize(size.width(), size.height());
 }
 
 } // namespace Hintreels

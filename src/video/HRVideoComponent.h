@@ -45,6 +45,7 @@ class HINTREELS_EXPORT HRVideoComponent : public QQuickPaintedItem
     Q_PROPERTY(QString timing READ timing WRITE setTiming NOTIFY timingChanged)
     Q_PROPERTY(QString colors READ colors WRITE setColors NOTIFY colorsChanged)
     Q_PROPERTY(bool upright READ isUpright WRITE setUpright NOTIFY uprightChanged)
+    Q_PROPERTY(bool failed READ hasFailed NOTIFY failedChanged)
 
     ///@}
 public:
@@ -131,6 +132,8 @@ public:
 
     /// Whether all pictures of the clip are there.
     bool isDecoded() const;
+    /// Whether the clip that was set last cannot be opened, or has no picture that can be decoded.
+    bool hasFailed() const;
     /// Whether the clip rests where playing has come to its end. No longer once it is played, moved
     /// or set again.
     bool hasEnded() const;
@@ -178,6 +181,7 @@ Q_SIGNALS:
     void timingChanged(); ///< it was set to another value
     void colorsChanged(); ///< it was set to another value
     void uprightChanged(); ///< it was set to another value
+    void failedChanged(); ///< the clip has failed, or another one was set
 
 public Q_SLOTS:
     /// Fetches the picture that is due.

@@ -38,8 +38,10 @@ void HRVideoComponentPrivate::lookForEnd()
 void HRVideoComponentPrivate::open(const QUrl &url)
 {
     const bool isAnother = controller->setSource(url);
-    if (isAnother)
+    if (isAnother) {
         ++awaitedSources;
+        setFailed(false);
+    }
     apply(isAnother ? HRClipEvent::opened : HRClipEvent::rewound);
 }
 
@@ -56,6 +58,20 @@ void HRVideoComponentPrivate::decodingEnded()
     tellLength();
     apply(HRClipEvent::decoded);
     lookForEnd();
+}
+
+void HRVideoComponentPrivate::clipFailed()
+{
+    if (awaitedSources == 0) // else it is the clip before
+        setFailed(true);
+}
+
+void HRVideoComponentPrivate::setFailed(bool hasFailed)
+{
+    if (failed == hasFailed)
+        return;
+    failed = hasFailed;
+    Q_EMIT q->failedChanged();
 }
 
 void HRVideoComponentPrivate::dropPicture()

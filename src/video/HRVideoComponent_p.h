@@ -22,6 +22,8 @@ struct HRVideoComponentPrivate
     void open(const QUrl &url);
     void sourceTaken();
     void decodingEnded();
+    void clipFailed();
+    void setFailed(bool hasFailed);
     void dropPicture();
     void followVisibility(QQuickWindow *window);
 
@@ -36,6 +38,7 @@ struct HRVideoComponentPrivate
     HRVideoFrame picture;
     QTransform toUpright; // of that picture; none where it is not wanted
     bool upright = false;
+    bool failed = false;
     double contentHeightSeen = 0.0;
     double progressSeen = 0.0;
     double lengthSeen = 0.0;

@@ -220,6 +220,8 @@ bool HRVideoSourceFFMPEG::loadSource()
     setupSource();
     if (!openMedia()) {
         setAction(idleAction);
+        if (!shouldQuit())
+            Q_EMIT clipFailed();
         return false;
     }
     const bool loaded = HRVideoSource::loadSource();
@@ -300,10 +302,13 @@ bool HRVideoSourceFFMPEG::decodeNextPicture()
 
 void HRVideoSourceFFMPEG::reportEnd(const QString &failure, const QString &path)
 {
+    const bool isEmpty = loadedFrameCount() == 0;
     if (!failure.isNull())
         tell(failure, path);
-    else if (loadedFrameCount() == 0)
+    else if (isEmpty)
         tell(QStringLiteral("Could not decode any picture in media at: %1"), path);
+    if (isEmpty)
+        Q_EMIT clipFailed();
 }
 
 // Whoever finds nothing to decode asks for it, and so does the loop; actionChanged() tells of each.

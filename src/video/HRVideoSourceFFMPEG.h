@@ -70,6 +70,10 @@ public:
 
     void dropClip() override;
 
+Q_SIGNALS:
+    /// The clip that was loaded last cannot be opened, or has ended without a picture.
+    void clipFailed();
+
 protected:
     /// Carries out what is asked for, until it is to end.
     void run() override;

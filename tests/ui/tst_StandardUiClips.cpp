@@ -71,6 +71,9 @@ struct FarClipFixture : StandardUiFixture
     qreal time() const { return item("clip")->property("time").toReal(); }
 };
 
+const QByteArray gifWithoutAPicture
+    = QByteArray::fromHex("47494638396101000100800000000000ffffff2c0000000001000100000f024401003b");
+
 TestClip longClip()
 {
     TestClip clip;
@@ -109,6 +112,7 @@ private Q_SLOTS:
     void video_staysPaused_whenItComesBackIntoSight();
     void video_hasAButtonThatLeavesItInSight_data();
     void video_hasAButtonThatLeavesItInSight();
+    void video_goes_whenItHasNoPicture();
     void video_keepsItsAspect_whenItIsWide();
     void video_showsTheCaptionOfItsPicture();
     void video_keepsToTheTimesOfItsFile();
@@ -341,6 +345,23 @@ void tst_StandardUiClips::video_hasAButtonThatLeavesItInSight()
     QVERIFY(whole.contains(place));
     QCOMPARE(place.contains(whole.center()), inTheMiddle);
     QVERIFY(place.width() * place.height() < whole.width() * whole.height() / 8);
+}
+
+/// A header may promise pictures that never come.
+void tst_StandardUiClips::video_goes_whenItHasNoPicture()
+{
+    StandardUiFixture fixture("<hintreel key=\"key\" title=\"Pen\"><video source=\"clip.gif\">"
+                              "Caption</video><text>Text</text></hintreel>"
+                              "<hintreel key=\"plain\" title=\"Pen\"><text>Text</text></hintreel>");
+    fixture.packages.write("Test.hintreels/Resources/clip.gif", gifWithoutAPicture);
+    fixture.show("plain");
+    const int height = fixture.view()->height();
+    fixture.show();
+    QStringList told;
+    QTRY_VERIFY((told += fixture.guard.takeMessages()).join(' ').contains("Could not decode any"));
+
+    QTRY_COMPARE(fixture.view()->height(), height);
+    QVERIFY(!fixture.hasItem("clip"));
 }
 
 void tst_StandardUiClips::video_keepsItsAspect_whenItIsWide()

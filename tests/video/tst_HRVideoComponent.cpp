@@ -39,6 +39,7 @@ private Q_SLOTS:
     void paint_drawsThePictureAtItsOwnSize();
     void pictures_takeTheMemoryOfTheOneBefore();
     void destruction_isQuick_atAnyMoment();
+    void failed_isToldOfEachClip();
     void metaObject_keepsItsOrder();
 
 private:
@@ -316,6 +317,39 @@ void tst_HRVideoComponent::destruction_isQuick_atAnyMoment()
     QVERIFY2(longest < 1000, qPrintable(QString("%1 ms").arg(longest)));
 }
 
+void tst_HRVideoComponent::failed_isToldOfEachClip()
+{
+    MessageGuard messages;
+    const QString noClip = m_clips.filePath("no clip.mp4");
+    const QString noPicture = m_clips.filePath("no picture.gif");
+    const QByteArray gif = QByteArray::fromHex(
+        "47494638396101000100800000000000ffffff2c0000000001000100000f024401003b");
+    for (const auto &[path, content] :
+        { std::pair(noClip, QByteArray("text")), { noPicture, gif } }) {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+    ItemStage stage;
+    SignalCounter failed(stage.item, &HRVideoComponent::failedChanged);
+    const QString good = m_clips.write("good.mp4", 0, 4);
+    for (const QString &path : { noClip, noPicture }) {
+        stage.setFile(path);
+        QTRY_VERIFY(stage.item->hasFailed());
+        stage.setFile(good);
+        QVERIFY(!stage.item->hasFailed());
+        QTRY_VERIFY(stage.isDecoded());
+        QVERIFY(!stage.item->hasFailed());
+    }
+    QCOMPARE(failed.count(), 4);
+    // Of clips that are set one after the other, the last counts.
+    for (const QString &path : { noClip, m_clips.write("last.mp4", 0, 4) })
+        stage.setFile(path);
+    QTRY_VERIFY(stage.item->isDecoded());
+    QCOMPARE(failed.count(), 4);
+    QCOMPARE(messages.takeMessages().size(), 3);
+}
+
 void tst_HRVideoComponent::metaObject_keepsItsOrder()
 {
     const QMetaObject &meta = HRVideoComponent::staticMetaObject;
@@ -325,16 +359,16 @@ void tst_HRVideoComponent::metaObject_keepsItsOrder()
             "contentHeightChanged()", "contentWidthChanged()", "loadProgressChanged()",
             "timeChanged()", "decodedChanged()", "endedChanged()", "keepPlayingChanged()",
             "loopChanged()", "finished()", "lengthChanged()", "timingChanged()", "colorsChanged()",
-            "uprightChanged()", "frameReady()", "play()", "pause()", "sourceChangedState()",
-            "rewindToStart()", "controllerPositionChanged()", "pictureTime()",
-            "positionAt(double)" }));
+            "uprightChanged()", "failedChanged()", "frameReady()", "play()", "pause()",
+            "sourceChangedState()", "rewindToStart()", "controllerPositionChanged()",
+            "pictureTime()", "positionAt(double)" }));
     QStringList properties;
     for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i)
         properties += meta.property(i).name();
     QCOMPARE(properties,
         (QStringList{ "source", "state", "position", "progress", "searchPath", "scrubbing",
             "contentHeight", "contentWidth", "loadProgress", "time", "decoded", "ended",
-            "keepPlaying", "loop", "length", "timing", "colors", "upright" }));
+            "keepPlaying", "loop", "length", "timing", "colors", "upright", "failed" }));
 }
 
 QTEST_MAIN(tst_HRVideoComponent)

@@ -69,7 +69,6 @@ Column {
             hint: list.hint
             sightTop: list.sightTop - y
             sightHeight: list.sightHeight
-            popupShown: list.onScreen
             awake: list.awake
             width: list.width
             onInSightChanged: Qt.callLater(see)

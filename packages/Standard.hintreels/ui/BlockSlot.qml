@@ -15,7 +15,6 @@ Loader {
     // What the reader sees of the block: from here, so far.
     property real sightTop: 0
     property real sightHeight: 0
-    property bool popupShown: false
     // Until a while after the popup has hidden: readers come back to where they just were.
     property bool awake: false
 

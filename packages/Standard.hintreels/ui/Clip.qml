@@ -17,6 +17,7 @@ Item {
     property bool watched: true
     property bool scrubbing: false
     readonly property alias ended: video.ended
+    readonly property alias failed: video.failed
     readonly property alias time: video.time
     readonly property bool shown: video.implicitWidth > 0
     // Where the reader has gone by hand, until another picture is shown; below 0 where nowhere.

@@ -11,7 +11,7 @@ Item {
     property Hint hint
     property var block
     property bool watched: true
-    readonly property alias shown: player.shown
+    readonly property alias failed: player.failed
 
     Clip {
         id: player

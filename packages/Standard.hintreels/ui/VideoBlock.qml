@@ -16,7 +16,9 @@ Column {
     readonly property HRContentReader reader: slot.hint.reader
     readonly property string path: slot.hint.view.findResource(slot.block.source)
     readonly property var header: reader.measured, reader.clip(path)
-    readonly property bool shown: header.width !== undefined && !patience.over
+    // A header may promise pictures that never come.
+    property bool failed: false
+    readonly property bool shown: header.width !== undefined && !failed
 
     visible: shown
     height: shown ? implicitHeight : 0
@@ -61,15 +63,8 @@ Column {
         text: figure.slot.block.text
     }
 
-    // A header may promise pictures that never come.
-    Timer {
-        id: patience
-
-        property bool over: false
-        readonly property ClipStage awaited: stage.item
-
-        interval: 3000
-        running: awaited !== null && figure.slot.popupShown
-        onTriggered: over = !awaited.shown
+    Connections {
+        target: stage.item
+        function onFailedChanged() { figure.failed = true }
     }
 }

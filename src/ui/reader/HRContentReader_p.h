@@ -68,8 +68,8 @@ public:
     /// picture that can be shown, or not measured yet: see Hintreels::pictureSize().
     Q_INVOKABLE QVariantMap picture(const QString &path) const;
 
-    /// The "width" and "height" of a clip in pixels, upright, an empty map where it cannot be opened or its
-    /// header does not tell, or where it is not measured yet.
+    /// The "width" and "height" of a clip in pixels, upright, an empty map where it cannot be
+    /// opened or its header does not tell, or where it is not measured yet.
     Q_INVOKABLE QVariantMap clip(const QString &path) const;
 
     /// Changes when picture() and clip() have new answers: files are measured in a thread, and
