@@ -92,6 +92,7 @@ void tst_HRInterface::keyForObject_isObjectName()
     HRContext context;
     HRInterface interface(context, {});
     QObject object;
+    QCOMPARE(interface.keyForObject(nullptr), QString());
     QCOMPARE(interface.keyForObject(&object), QString());
     object.setObjectName("pen");
     QCOMPARE(interface.keyForObject(&object), QString("pen"));

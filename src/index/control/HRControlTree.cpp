@@ -84,9 +84,10 @@ QMap<QString, QString> keyDataAttributes(const QString &filePath, const QString 
 {
     QString wanted = key;
     const HRControlTree tree(filePath, generateKeyDataElement, &wanted);
-    if (!tree.first() || tree.first()->children().isEmpty())
+    if (!tree.first())
         return {};
-    const auto *element = qobject_cast<const HRXmlElement *>(tree.first()->children().constFirst());
+    const auto *element
+        = tree.first()->findChild<const HRXmlElement *>(QString(), Qt::FindDirectChildrenOnly);
     if (!element)
         return {};
     QMap<QString, QString> attributes = attributesOf(*element);

@@ -109,8 +109,10 @@ void tst_HRPopupClips::decoding_pauses_whileThePopupIsHidden()
 void tst_HRPopupClips::decoding_pauses_forAClipThatIsSetWhileHidden()
 {
     Popup popup(m_clip);
+    QVERIFY(!popup.view->isDecodingPaused());
     popup.widget.show();
     popup.widget.hide();
+    QVERIFY(popup.view->isDecodingPaused());
     auto *late = new HRVideoComponent(popup.view->contentItem());
     late->setSource("clip");
     popup.item->setSource("clip");
@@ -119,6 +121,7 @@ void tst_HRPopupClips::decoding_pauses_forAClipThatIsSetWhileHidden()
     QCOMPARE(late->loadProgress(), 0.0);
 
     popup.widget.show();
+    QVERIFY(!popup.view->isDecodingPaused());
     QTRY_COMPARE(popup.count(), pictures);
     QTRY_COMPARE(late->loadProgress(), 1.0);
 }

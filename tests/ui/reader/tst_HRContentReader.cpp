@@ -8,7 +8,11 @@
 #include <QBuffer>
 #include <QImage>
 #include <QJSEngine>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickTextDocument>
 #include <QSignalSpy>
+#include <QTextDocument>
 #include <QtTest>
 
 #include <memory>
@@ -87,6 +91,8 @@ private Q_SLOTS:
     void shownTarget_isOneShortLine();
     void reducedMotion_isAskedAnew();
     void showMarkdown_findsNothing_whenDocumentIsNull();
+    void showMarkdown_asksForPictures_data();
+    void showMarkdown_asksForPictures();
 };
 
 void tst_HRContentReader::read_returnsNothing_whenElementIsNull()
@@ -413,6 +419,41 @@ void tst_HRContentReader::reducedMotion_isAskedAnew()
 void tst_HRContentReader::showMarkdown_findsNothing_whenDocumentIsNull()
 {
     QVERIFY(germanReader().showMarkdown(nullptr, "[a](b)", {}).isEmpty());
+}
+
+void tst_HRContentReader::showMarkdown_asksForPictures_data()
+{
+    QTest::addColumn<QString>("function");
+    QTest::addColumn<int>("width"); // of the picture's place, 0 where its alternative text stands
+    QTest::newRow("found") << "(function (path) { return '%1/' + path })" << 20;
+    QTest::newRow("not found") << "(function () {})" << 0;
+    QTest::newRow("no string") << "(function () { return 7 })" << 0;
+    QTest::newRow("an error") << "(function () { throw new Error('no') })" << 0;
+    QTest::newRow("no function") << "undefined" << 0;
+}
+
+void tst_HRContentReader::showMarkdown_asksForPictures()
+{
+    QFETCH(QString, function);
+    QFETCH(int, width);
+    TestPackages files;
+    const QString path = files.write("a.png", png({ 20, 10 }));
+    QQmlEngine engine;
+    QQmlComponent component(&engine);
+    component.setData("import QtQuick 2.15\nTextEdit { textFormat: TextEdit.RichText }", {});
+    const std::unique_ptr<QObject> edit(component.create());
+    auto *document = edit->property("textDocument").value<QQuickTextDocument *>();
+    const HRContentReader reader = germanReader();
+    QTRY_VERIFY(!reader.picture(path).isEmpty());
+
+    const QVariantMap shown = reader.showMarkdown(document, "One ![two](a.png)",
+        { { "room", QSizeF(100, 100) }, { "links", 10 } },
+        engine.evaluate(function.replace("%1", files.path())));
+
+    const QVariantList pictures = shown["pictures"].toList();
+    QCOMPARE(pictures.size(), width > 0 ? 1 : 0);
+    QCOMPARE(pictures.value(0).toMap()["width"].toInt(), width);
+    QCOMPARE(document->textDocument()->toPlainText() == "One two", width == 0);
 }
 
 QTEST_MAIN(tst_HRContentReader)

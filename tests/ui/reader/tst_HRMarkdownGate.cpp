@@ -77,6 +77,7 @@ private Q_SLOTS:
     void fill_asksForPicturesOfThePackageOnly();
     void fill_makesAPlace_forEachPicture();
     void fill_showsTheAlternativeText_whereThereIsNoPicture();
+    void fill_showsTheAlternativeText_whereNobodyFindsPictures();
     void fill_endsBeforeOneLinkMore_data();
     void fill_endsBeforeOneLinkMore();
     void fill_endsBeforeTooManyStyles();
@@ -262,6 +263,13 @@ void tst_HRMarkdownGate::fill_showsTheAlternativeText_whereThereIsNoPicture()
 
     QCOMPARE(gate.text(), QString("One two three four "));
     QVERIFY(!gate.formatOf("two").isImageFormat());
+}
+
+void tst_HRMarkdownGate::fill_showsTheAlternativeText_whereNobodyFindsPictures()
+{
+    QTextDocument document;
+    HRMarkdownGate(nullptr, 100).fill(&document, "One ![two](a.png) three");
+    QCOMPARE(document.toPlainText(), QString("One two three"));
 }
 
 void tst_HRMarkdownGate::fill_endsBeforeOneLinkMore_data()

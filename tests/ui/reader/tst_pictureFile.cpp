@@ -81,6 +81,8 @@ void tst_pictureFile::pictureSize_isThatOfAPicture_data()
     const QByteArray type = "<!DOCTYPE svg PUBLIC \"-//W3C//DTD SVG 1.1//EN\" "
                             "\"http://www.w3.org/Graphics/SVG/1.1/DTD/svg11.dtd\">";
     QTest::newRow("picture") << "a.png" << png({ 20, 10 }) << true;
+    QTest::newRow("more pixels than are shown")
+        << "a.ppm" << QByteArray("P6\n10000 10000\n255\n") << false;
     QTest::newRow("drawing") << "a.svg" << svg(line) << true;
     QTest::newRow("packed drawing") << "a.svgz" << packed(svg(line)) << true;
     QTest::newRow("drawing of a document type") << "a.svg" << svg(line, type) << true;
