@@ -29,8 +29,9 @@ struct HRWidgetsInterfacePrivate;
 /// without a title has that of the action or the widget. docs/embedding.md has the whole list.
 ///
 /// These settings are on where the host has not set them: applicationFilterKey, ownFilesOnlyKey,
-/// placementKey (placementBeside), popupPressesKey, nativeDismissalKey, hostToolTipsKey and
-/// hostColorsKey.
+/// placementKey (placementBeside), popupPressesKey, nativeDismissalKey, hostToolTipsKey,
+/// hostColorsKey, reportBrokenFilesKey and requireUiKey.
+///
 /// All virtual operations may be overridden. GUI thread only; widgets, actions and the interface
 /// itself may be deleted at any time.
 class HINTREELS_EXPORT HRWidgetsInterface : public HRInterface

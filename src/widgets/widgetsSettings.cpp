@@ -9,7 +9,7 @@ namespace Hintreels {
 
 namespace {
 
-/// What is on, unless the host says otherwise. A setting of its own line for each.
+/// What is on, unless the host says otherwise. A line for each setting.
 const QPair<contextKey, QVariant> defaults[] = {
     { applicationFilterKey, true },
     { ownFilesOnlyKey, true },
@@ -18,6 +18,8 @@ const QPair<contextKey, QVariant> defaults[] = {
     { nativeDismissalKey, true },
     { hostToolTipsKey, true },
     { hostColorsKey, true },
+    { reportBrokenFilesKey, true },
+    { requireUiKey, true },
 };
 
 } // namespace

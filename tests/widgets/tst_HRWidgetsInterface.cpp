@@ -251,7 +251,8 @@ void tst_HRWidgetsInterface::settings_areOn_unlessHostSetsThem()
     QVERIFY(all.context().get(ownFilesOnlyKey, false).toBool());
     QVERIFY(all.context().get(applicationFilterKey, false).toBool());
     QCOMPARE(all.context().get(placementKey, 0).toInt(), int(placementBeside));
-    for (const int key : { popupPressesKey, nativeDismissalKey, hostToolTipsKey, hostColorsKey })
+    for (const int key : { popupPressesKey, nativeDismissalKey, hostToolTipsKey, hostColorsKey,
+             reportBrokenFilesKey, requireUiKey })
         QVERIFY(all.context().get(key, false).toBool());
     QVERIFY(context.keys().isEmpty());
     context.set(ownFilesOnlyKey, false);
