@@ -5,6 +5,7 @@
 
 #include "x11/RealInput.h"
 
+#include <QLoggingCategory>
 #include <QScreen>
 #include <QtTest>
 
@@ -17,9 +18,11 @@ constexpr QSize markSize(8, 8);
 WestonHost::WestonHost(const std::function<void(HRContext &)> &configure)
     : HintHost(configure)
 {
-    m_mark.resize(markSize);
-    m_mark.setAutoFillBackground(true);
-    m_mark.show();
+    // Qt warns when it gives the focus to a widget whose window has not become active yet.
+    QLoggingCategory::setFilterRules("qt.qpa.wayland.warning=false");
+    m_mark->resize(markSize);
+    m_mark->setAutoFillBackground(true);
+    m_mark->show();
     if (!find())
         qFatal("the host's window does not appear");
 }
@@ -29,15 +32,21 @@ bool WestonHost::find()
     // Another colour each time: what shows it stands where the window stands now.
     static int count = 0;
     const QColor color(255, ++count % 256, 254);
-    m_mark.setPalette(color);
+    m_mark->setPalette(color);
     QRect mark;
     const bool found = eventually([&] {
         const QRect before = mark;
         mark = RealInput::boundsOf(color);
         return mark.size() == markSize * outputScale() && mark == before;
     });
-    RealInput::setPlace({ window.mapToGlobal(QPoint(0, 0)), mark.topLeft(), outputScale() });
+    RealInput::setPlace({ m_mark->mapToGlobal(QPoint(0, 0)), mark.topLeft(), outputScale() });
     return found;
+}
+
+void WestonHost::moveMarkTo(QWidget &other)
+{
+    m_mark->setParent(&other);
+    m_mark->show();
 }
 
 int outputScale()

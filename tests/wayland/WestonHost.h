@@ -19,8 +19,11 @@ public:
     /// Finds the window on the screen, once it is there and rests.
     bool find();
 
+    /// Has another window found from now on.
+    void moveMarkTo(QWidget &other);
+
 private:
-    QWidget m_mark{ &window };
+    QPointer<QWidget> m_mark = new QWidget(&window);
 };
 
 /// Pixels of the screen for one of the application.

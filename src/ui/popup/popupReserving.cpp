@@ -5,6 +5,7 @@
 
 #include "ui/popup/HRView.h"
 #include "ui/popup/HRWidget.h"
+#include "ui/popup/wayland_p.h"
 
 #include <QVBoxLayout>
 
@@ -39,7 +40,11 @@ void moveIntoWindow(HRWidget &popup, QWidget *window)
 void moveIntoOwnWindow(HRWidget &popup)
 {
     const QPoint position = popup.pos();
-    const QWidget *reference = popup.referenceWidget();
+    QWidget *reference = popup.referenceWidget();
+    // Some compositors leave the keyboard to a window that belongs to another, whose tooltips would
+    // not come any more.
+    if (reference && isOnWayland())
+        reference->window()->setAttribute(Qt::WA_AlwaysShowToolTips);
     popup.setAttribute(Qt::WA_DeleteOnClose);
     popup.setParent(reference ? reference->window() : nullptr,
         Qt::Tool | Qt::WindowTitleHint | Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint);
