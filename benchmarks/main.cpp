@@ -5,6 +5,7 @@
 #include "FigureTable.h"
 #include "Figures.h"
 #include "Measuring.h"
+#include "popup/FilterFigures.h"
 #include "popup/PopupFigures.h"
 #include "video/VideoFigures.h"
 
@@ -27,6 +28,7 @@ void addFigures(FigureRuns &runs)
     addTextFigures(runs);
     addVideoFigures(runs);
     addPopupFigures(runs);
+    addFilterFigures(runs);
 }
 
 void dropWhatWasMeasured()
