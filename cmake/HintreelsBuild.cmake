@@ -53,5 +53,6 @@ endfunction()
 
 # Links the Qt headers that nearly every source includes into one precompiled header.
 function(hintreels_precompile_qt target)
-    target_precompile_headers(${target} PRIVATE <QtCore> <QtGui> <QtWidgets> <QtQuick> <QtXml>)
+    target_precompile_headers(${target} PRIVATE <QtCore> <QtGui> <QtWidgets> <QtQuick>
+        <${HINTREELS_QT_XML_HEADERS}>)
 endfunction()

@@ -31,6 +31,8 @@ install(FILES
 # Found from where the file lies, so that a moved tree works.
 file(RELATIVE_PATH HINTREELS_PREFIX_FROM_PKGCONFIG
     /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+list(TRANSFORM HINTREELS_QT_COMPONENTS PREPEND Qt${HINTREELS_QT} OUTPUT_VARIABLE HINTREELS_PKGCONFIG_QT)
+list(JOIN HINTREELS_PKGCONFIG_QT " " HINTREELS_PKGCONFIG_QT)
 configure_file(${PROJECT_SOURCE_DIR}/cmake/hintreels.pc.in hintreels.pc @ONLY)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/hintreels.pc
     DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)

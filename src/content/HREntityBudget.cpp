@@ -31,12 +31,12 @@ HREntityBudget::HREntityBudget(int documentSize)
 
 bool HREntityBudget::declare(const QString &name, const QString &value)
 {
-    m_entities.insert(name, { value.size(), referencesIn(QStringRef(&value)), false, qInf() });
+    m_entities.insert(name, { int(value.size()), referencesIn(value), false, qInf() });
     m_declared += value.size();
     return m_entities.size() <= maximumEntities && m_entities.size() * m_declared <= m_searchLimit;
 }
 
-bool HREntityBudget::covers(const QStringRef &text)
+bool HREntityBudget::covers(QStringView text)
 {
     const References references = referencesIn(text);
     for (auto reference = references.cbegin(); reference != references.cend(); ++reference)
@@ -52,11 +52,11 @@ bool HREntityBudget::spend(const QString &name)
     return m_spent <= m_limit;
 }
 
-HREntityBudget::References HREntityBudget::referencesIn(const QStringRef &text)
+HREntityBudget::References HREntityBudget::referencesIn(QStringView text)
 {
     References references;
-    for (int start = text.indexOf(u'&'); start >= 0; start = text.indexOf(u'&', start)) {
-        const int nameStart = ++start;
+    for (auto start = text.indexOf(u'&'); start >= 0; start = text.indexOf(u'&', start)) {
+        const auto nameStart = ++start;
         while (start < text.size() && text.at(start) != u';' && text.at(start) != u'&')
             ++start;
         if (start < text.size() && text.at(start) == u';')

@@ -26,7 +26,7 @@ public:
 
     /// Whether all that this text refers to, once expanded, is within the budget. To be asked when
     /// all entities are declared. Entities that contain themselves never are within it.
-    bool covers(const QStringRef &text);
+    bool covers(QStringView text);
 
     /// Spends the entity's own value, which is about to be read; false where the budget is used up.
     /// This also sees references that become complete in reading only, as covers() cannot.
@@ -43,7 +43,7 @@ private:
         double expandedSize; // floating, since it may exceed any integer
     };
 
-    static References referencesIn(const QStringRef &text);
+    static References referencesIn(QStringView text);
 
     void measure(const QString &name);
     double expandedSize(const References &references) const;

@@ -30,7 +30,7 @@ public:
     QChar next() override { return m_next != m_pieceEnd ? *m_next++ : nextPiece(); }
 
     /// What the reader has not taken yet.
-    QStringRef unread() const { return m_text.midRef(int(m_next - m_text.cbegin())); }
+    QStringView unread() const { return QStringView(m_next, m_text.cend()); }
 
     /// Called from a handler at a tag: nobody asks for the text that follows, up to the next tag.
     void skipText();

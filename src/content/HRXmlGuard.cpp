@@ -51,7 +51,7 @@ bool HRXmlGuard::allowsExpansion(const QString &name)
     return refuseUnless(m_entities.spend(name), expansionReason);
 }
 
-bool HRXmlGuard::allowsBody(const QStringRef &body)
+bool HRXmlGuard::allowsBody(QStringView body)
 {
     return refuseUnless(m_entities.covers(body), expansionReason);
 }

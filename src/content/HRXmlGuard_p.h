@@ -40,7 +40,7 @@ public:
     bool allowsExpansion(const QString &name);
 
     /// Whether the text after the document type definition may be read with all its references.
-    bool allowsBody(const QStringRef &body);
+    bool allowsBody(QStringView body);
 
     /// Why the reading had to end, in words for a log; empty unless something was refused.
     QString refusal() const { return m_refusal; }

@@ -152,7 +152,7 @@ void HRDirectoryListing::list(const QByteArray &suffix)
 
 void HRDirectoryListing::add(const QString &name, const char *nativeName)
 {
-    m_files.push_back({ name, m_nativeNames.size() });
+    m_files.push_back({ name, int(m_nativeNames.size()) });
     m_nativeNames.append(nativeName).append('\0');
 }
 

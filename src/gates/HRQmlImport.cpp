@@ -112,7 +112,7 @@ private:
 
     bool startsWith(const char *mark) const
     {
-        return m_text.midRef(m_at).startsWith(QLatin1String(mark));
+        return QStringView(m_text).mid(m_at).startsWith(QLatin1String(mark));
     }
 
     void skipPast(const char *mark)

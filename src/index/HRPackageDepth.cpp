@@ -6,6 +6,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace Hintreels {
 
 namespace {
@@ -19,9 +21,9 @@ std::optional<int> levelsOfCanonical(const QString &filePath, const QString &pac
 {
     // The root's path is the only one that ends in a slash.
     const int length = packagePath.size() - (packagePath.endsWith(u'/') ? 1 : 0);
-    if (!filePath.startsWith(packagePath) || filePath.midRef(length, 1) != QLatin1String("/"))
+    if (!filePath.startsWith(packagePath) || filePath.mid(length, 1) != QLatin1String("/"))
         return std::nullopt;
-    return filePath.midRef(length).count(u'/');
+    return int(std::count(filePath.cbegin() + length, filePath.cend(), u'/'));
 }
 
 } // namespace
@@ -49,7 +51,7 @@ std::optional<int> levelsBelowPackage(const QString &filePath, const QString &pa
 std::optional<int> HRPackageDepth::levels(
     const QString &filePath, const QString &packagePath, bool isCanonical)
 {
-    const QStringRef directory = filePath.leftRef(filePath.lastIndexOf(u'/') + 1);
+    const QStringView directory = QStringView(filePath).left(filePath.lastIndexOf(u'/') + 1);
     if (!directory.isEmpty() && directory == m_directory && packagePath == m_package)
         return m_levels;
     const std::optional<int> levels = isCanonical ? levelsOfCanonical(filePath, packagePath)

@@ -4,7 +4,7 @@
 #include "index/HRPackageMap_p.h"
 
 #include <QFileInfo>
-#include <QRegExp>
+#include <QRegularExpression>
 
 namespace Hintreels {
 
@@ -33,7 +33,9 @@ QStringList HRPackageMap::pathsOfSearchList(const QString &search) const
 {
     // An empty part between separators is a name like any other; it matches packages without one.
     QStringList paths;
-    const QStringList names = search.split(QRegExp(QStringLiteral("[,;\\s]+")));
+    static const QRegularExpression separators(
+        QStringLiteral("[,;\\s]+"), QRegularExpression::UseUnicodePropertiesOption);
+    const QStringList names = search.split(separators);
     for (const QString &name : names)
         paths += m_paths.value(name);
     return paths;

@@ -27,8 +27,9 @@ HRContent putInto(HRView &view, HRContent content)
 // Any numbers may be set and asked for.
 int coordinateSum(qint64 a, qint64 b)
 {
-    using Limits = std::numeric_limits<int>;
-    return int(qBound<qint64>(Limits::min(), a + b, Limits::max()));
+    constexpr qint64 least = std::numeric_limits<int>::min();
+    constexpr qint64 most = std::numeric_limits<int>::max();
+    return int(qBound(least, a + b, most));
 }
 
 } // namespace

@@ -39,7 +39,7 @@ public:
 
     void skip(int count)
     {
-        const int inserted = std::min(count, m_inserted.size());
+        const int inserted = std::min(count, int(m_inserted.size()));
         m_inserted.chop(inserted);
         m_position += count - inserted;
     }
@@ -60,7 +60,7 @@ public:
         }
         const int found = m_text.indexOf(u'%', m_position + 1);
         const int end = found < 0 ? m_text.size() : found;
-        result.append(m_text.midRef(m_position, end - m_position));
+        result.append(m_text.constData() + m_position, end - m_position);
         m_position = end;
     }
 

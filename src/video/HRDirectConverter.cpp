@@ -73,7 +73,7 @@ bool HRDirectConverter::convertBand(const AVFrame *picture, int top, HRVideoFram
     const uint8_t *planes[4]
         = { rows(picture, 0, top), rows(picture, 1, top), rows(picture, 2, top) };
     uint8_t *result[4] = { target->scanLine(top) };
-    const int stride[4] = { target->bytesPerLine() };
+    const int stride[4] = { int(target->bytesPerLine()) };
     return sws_scale(m_scaler.get(), planes, picture->linesize, 0, m_band.height(), result, stride)
         > 0;
 }

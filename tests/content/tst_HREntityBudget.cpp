@@ -13,7 +13,7 @@ const int limit = 8 * 1024 * 1024;
 
 bool covers(HREntityBudget &budget, const QString &text)
 {
-    return budget.covers(QStringRef(&text));
+    return budget.covers(text);
 }
 
 } // namespace

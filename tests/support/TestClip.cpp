@@ -47,7 +47,7 @@ public:
         check(av_frame_make_writable(m_frame.get()));
         const QImage image = picture.convertToFormat(QImage::Format_RGB32);
         const uint8_t *const planes[4] = { image.constBits() };
-        const int strides[4] = { image.bytesPerLine() };
+        const int strides[4] = { int(image.bytesPerLine()) };
         sws_scale(
             m_scaler.get(), planes, strides, 0, image.height(), m_frame->data, m_frame->linesize);
         m_frame->pts = time;

@@ -43,7 +43,7 @@ Flickable {
 
     Keys.onUpPressed: scrollTo(contentY - 10 * look.step)
     Keys.onDownPressed: scrollTo(contentY + 10 * look.step)
-    Keys.onPressed: {
+    Keys.onPressed: event => {
         const targets = {
             [Qt.Key_Home]: 0,
             [Qt.Key_End]: lowest,

@@ -11,8 +11,9 @@ Item {
     property Hint hint
     property TextEdit text
     property var place
-    readonly property rect first: text.positionToRectangle(place.start, text.width)
-    readonly property rect last: text.positionToRectangle(place.end, text.width)
+    // Again for each width that the text is laid out in.
+    readonly property rect first: text.width, text.positionToRectangle(place.start)
+    readonly property rect last: text.width, text.positionToRectangle(place.end)
     readonly property bool oneLine: first.y === last.y
 
     function open() {

@@ -39,7 +39,7 @@ bool chooseQuickRenderer(const HRContext *settings)
     // Once, since after a window of the host's own it is too late, and Qt warns each time.
     static bool isTold = false;
     if (!std::exchange(isTold, true))
-        QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
+        QQuickWindow::setSceneGraphBackend(QStringLiteral("software"));
     return true;
 }
 

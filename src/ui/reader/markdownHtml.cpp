@@ -40,7 +40,7 @@ QString withMarks(const QString &markdown)
 {
     QString marked;
     for (int i = 0; i < markdown.size(); ++i) {
-        const QStringRef rest = markdown.midRef(i);
+        const QStringView rest = QStringView(markdown).mid(i);
         const bool escape = rest.startsWith(u'\\');
         const bool named = rest.startsWith(QLatin1String("&lt;"));
         if (named || rest.startsWith(QLatin1String("\\<")))
@@ -93,7 +93,7 @@ QVector<Piece> htmlIn(const QTextBlock &block)
     const QString prose = proseOf(block);
     for (auto it = htmlPattern().globalMatch(prose); it.hasNext();) {
         const QRegularExpressionMatch html = it.next();
-        pieces.append({ block.position() + html.capturedStart(), html.capturedLength() });
+        pieces.append({ block.position() + int(html.capturedStart()), int(html.capturedLength()) });
     }
     return pieces;
 }

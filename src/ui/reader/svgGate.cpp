@@ -115,7 +115,7 @@ bool SvgWalk::open(const QXmlStreamReader &svg)
     const bool isSheet
         = svg.name() == QLatin1String("style") || (!m_open.isEmpty() && m_open.last().isSheet);
     m_open.append({ attributes.value(QStringLiteral("id")).toString(), 1, copies, isSheet });
-    m_levels = std::max(m_levels, m_open.size());
+    m_levels = std::max(m_levels, int(m_open.size()));
     return m_open.size() <= deepest && ++m_steps <= mostSteps
         && svg.name() != QLatin1String("image");
 }
