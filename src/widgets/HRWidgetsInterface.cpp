@@ -5,6 +5,7 @@
 
 #include "context/setting_p.h"
 #include "manager/HRManager.h"
+#include "ui/popup/HRPinnedWindow_p.h"
 #include "ui/popup/HRWidget.h"
 #include "widgets/HRWidgetsInterfacePrivate_p.h"
 #include "widgets/coverage_p.h"
@@ -61,6 +62,13 @@ QString HRWidgetsInterface::keyForObject(QObject *object)
         return {};
     const QString key = keyOf(object);
     return key.isEmpty() ? nameOf(object) : key;
+}
+
+QWidget *HRWidgetsInterface::createWindow(HRWindowType type)
+{
+    HRWidget *popup = type == reservedPopupWindow ? manager()->widget() : nullptr;
+    const bool isShown = popup && popup->view();
+    return isShown ? new HRPinnedWindow(*popup, windowFor(*popup)) : nullptr;
 }
 
 QString HRWidgetsInterface::shortCutForObject(

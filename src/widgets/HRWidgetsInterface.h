@@ -54,6 +54,11 @@ public:
     /// all of the object, and its parts are not asked.
     QString keyForObject(QObject *object) override;
 
+    /// For a hint that its reader pins: a window with the hint's title, as large as its content,
+    /// that Escape and Ctrl+W close. It belongs to the window of the part and is deleted when
+    /// closed.
+    QWidget *createWindow(HRWindowType type) override;
+
     /// The shortcut of the action that the part or the object stands for, as it is now; else the
     /// content's.
     QString shortCutForObject(

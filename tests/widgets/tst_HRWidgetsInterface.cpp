@@ -129,6 +129,7 @@ private Q_SLOTS:
     void position_isTheEvents();
     void fallback_isShown_forWhatHasNoName();
     void settings_areOn_unlessHostSetsThem();
+    void pinnedHint_getsAWindowOfItsName();
     void filter_isOff_whereHostSaysSo();
     void managerFilter_isReplaced();
     void hostsKey_wins();
@@ -258,6 +259,19 @@ void tst_HRWidgetsInterface::settings_areOn_unlessHostSetsThem()
     context.set(ownFilesOnlyKey, false);
     Host some(context, {});
     QVERIFY(!some.context().get(ownFilesOnlyKey, true).toBool());
+}
+
+void tst_HRWidgetsInterface::pinnedHint_getsAWindowOfItsName()
+{
+    Fixture f("<hintreel key='size' title='Size'/>");
+    QVERIFY(f.hover(f.window->ui.size));
+    const QPointer<HRWidget> popup = f.host->manager()->widget();
+    popup->view()->setReserved(true);
+    QVERIFY(popup && popup->parentWidget());
+    QCOMPARE(popup->window()->windowTitle(), QString("Size"));
+    QCOMPARE(popup->window()->parentWidget(), f.window.get());
+    QVERIFY(popup->window()->close());
+    QTRY_VERIFY(!popup);
 }
 
 void tst_HRWidgetsInterface::filter_isOff_whereHostSaysSo()

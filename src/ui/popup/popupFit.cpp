@@ -29,7 +29,7 @@ QSize sizeOf(const QQuickItem *root)
 /// With the seam, by which the popup is larger than its content.
 QSize sizeAround(const QSize &content)
 {
-    return content + QSize(1, 1);
+    return content + seamSize;
 }
 
 void freeSize(QWidget &widget)

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QRect>
+#include <QSize>
 
 class QWidget;
 
@@ -13,6 +14,9 @@ class HRWidget;
 
 // How a popup takes the size and the colour of its content. All of it does nothing while the popup
 // has no QML root item.
+
+/// By how much a popup is larger than its content.
+constexpr QSize seamSize(1, 1); // px
 
 /// Gives a popup the size around its content before it is shown, with the seam.
 ///
