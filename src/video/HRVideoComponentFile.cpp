@@ -11,10 +11,10 @@ namespace Hintreels {
 
 namespace {
 
-constexpr QLatin1String timedByRate("constant");
-constexpr QLatin1String timedByFile("file");
-constexpr QLatin1String colorsByScaler("described");
-constexpr QLatin1String colorsByFile("file");
+const QLatin1String timedByRate("constant");
+const QLatin1String timedByFile("file");
+const QLatin1String colorsByScaler("described");
+const QLatin1String colorsByFile("file");
 
 } // namespace
 

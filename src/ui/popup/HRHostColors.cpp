@@ -95,8 +95,8 @@ QVariantMap HRHostColors::colorsFor(QWidget &widget)
     const std::optional<QPalette> named = paletteOfHost(widget);
     widget.ensurePolished();
     const QPalette palette = named ? *named : widget.palette();
-    const QColor window = palette.color(QPalette::Active, QPalette::Window);
-    const QColor text = palette.color(QPalette::Active, QPalette::WindowText);
+    const QColor &window = palette.color(QPalette::Active, QPalette::Window);
+    const QColor &text = palette.color(QPalette::Active, QPalette::WindowText);
     const QColor shown = named ? QColor() : backgroundOf(*widget.window());
     if (!shown.isValid() || areAlike(shown, window))
         return asMap(palette, window, readableColor(text, window));

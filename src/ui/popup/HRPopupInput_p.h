@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <QtGlobal>
+
 QT_BEGIN_NAMESPACE
 class QEvent;
 class QMouseEvent;
