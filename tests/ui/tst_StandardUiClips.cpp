@@ -416,16 +416,17 @@ void tst_StandardUiClips::video_keepsToTheTimesOfItsFile()
     fixture.show();
     QTRY_VERIFY(fixture.isDecoded());
     QTRY_VERIFY(fixture.clip()->property("shown").toBool());
-    QCOMPARE(fixture.text("clipCaption"), QString("First"));
+    QTRY_VERIFY(fixture.painted()->property("length").toDouble() > 3.05);
+    QTRY_COMPARE(fixture.text("clipCaption"), QString("First"));
 
     fixture.click(fixture.item("progressLine")); // in the middle
 
     QTRY_COMPARE(qRound(100 * fixture.time()), 305);
-    QCOMPARE(fixture.text("clipCaption"), QString("Third"));
+    QTRY_COMPARE(fixture.text("clipCaption"), QString("Third"));
 
     fixture.painted()->setProperty("position", 1);
     QTRY_COMPARE(qRound(100 * fixture.time()), 300);
-    QVERIFY(qAbs(fixture.progress() - 0.3) < 0.05);
+    QTRY_VERIFY(qAbs(fixture.progress() - 0.3) < 0.05);
 }
 
 void tst_StandardUiClips::video_isReachedByKeyboard_whenDetached()
