@@ -82,8 +82,8 @@ bool HRPopupPresenter::take(const HRHover &hover, const QString &key, HRFoundCon
         return keepOrHide(hover);
     if (!canPresent())
         return false;
-    if (isPopupVisible() && m_popup->view()->content() == found.content.entry()) {
-        putInto(*m_popup->view(), std::move(found.content));
+    if (isPopupVisible() && popup()->view()->content() == found.content.entry()) {
+        putInto(*popup()->view(), std::move(found.content));
         return true;
     }
     return present(hover, key, std::move(found)) || (canPresent() && isPopupVisible());
@@ -92,10 +92,10 @@ bool HRPopupPresenter::take(const HRHover &hover, const QString &key, HRFoundCon
 // A popup that is fading out stays after all when its widget is hovered again.
 bool HRPopupPresenter::keepsShowing(const QString &key, const HRHover::Accepts &accepts)
 {
-    const HRXmlElement *shown = isPopupVisible() ? shownContent(m_popup, key) : nullptr;
+    const HRXmlElement *shown = isPopupVisible() ? shownContent(popup(), key) : nullptr;
     if (!shown || (accepts && !accepts(key, *shown)))
         return false;
-    m_popup->cancelHiding();
+    popup()->cancelHiding();
     return true;
 }
 
@@ -107,9 +107,9 @@ bool HRPopupPresenter::keepOrHide(const HRHover &hover)
         return false;
     const QWidget *target = qobject_cast<QWidget *>(hover.object);
     const bool hasOwnToolTip = target && !target->toolTip().isEmpty();
-    if (m_popup->isSafe(hover.globalPos) && !hasOwnToolTip)
+    if (popup()->isSafe(hover.globalPos) && !hasOwnToolTip)
         return true;
-    m_popup->hideAnimated();
+    popup()->hideAnimated();
     return false;
 }
 
@@ -119,38 +119,38 @@ std::optional<HRFoundContent> HRPopupPresenter::find(const HRHover &hover, const
     if (!found || !hover.accepts || hover.accepts(key, *found->content.entry()))
         return found;
     // An index may have given what the popup shows once more: that stays.
-    if (m_popup && m_popup->view() && m_popup->view()->content() == found->content.entry())
+    if (popup() && popup()->view() && popup()->view()->content() == found->content.entry())
         found->content.release();
     return std::nullopt;
 }
 
 bool HRPopupPresenter::canPresent() const
 {
-    return m_interface && m_popup && m_popup->view();
+    return m_interface && popup() && popup()->view();
 }
 
 bool HRPopupPresenter::present(const HRHover &hover, const QString &key, HRFoundContent found)
 {
-    const QPointer<HRWidget> popup = m_popup;
+    const QPointer<HRWidget> target = popup();
     const QPointer<HRXmlElement> element = found.content.entry();
     if (hover.completes)
         hover.completes(key, *element);
     // Before the host is asked for the shortcut: an offset that it sets then is for the next hint.
     const QPoint corner = position(hover.globalPos);
     // Freed only at the end, or the scene's bindings would see null on the way.
-    HRContent previous = putInto(*popup->view(), std::move(found.content));
+    HRContent previous = putInto(*target->view(), std::move(found.content));
     nameShortcut(hover, key, element);
     const bool isWanted
-        = canPresent() && popup == m_popup && element && popup->view()->content() == element;
+        = canPresent() && target == popup() && element && target->view()->content() == element;
     const bool mayShow = isWanted
-        && HRWidgetPrivate::of(*popup).showWithContent(
+        && HRWidgetPrivate::of(*target).showWithContent(
             hover.object, hover.area, corner, element, found.packageDirectory());
     // Without its view, Qt's container of it crashes when raised.
-    if (mayShow && popup && popup->view())
-        popup->raise();
-    if (popup && popup->view())
-        HRViewPrivate::of(*popup->view()).freeContent(std::move(previous));
-    return mayShow && popup;
+    if (mayShow && target && target->view())
+        target->raise();
+    if (target && target->view())
+        HRViewPrivate::of(*target->view()).freeContent(std::move(previous));
+    return mayShow && target;
 }
 
 // The host names the shortcut of what the pointer rests on, also where the content shown is that of

@@ -54,9 +54,9 @@ public:
         const HRContext &context, HRInterface *interface, const HRContentLookup &lookup);
 
     /// The popup for hovers; null before the first is set.
-    HRWidget *popup() const { return m_popup; }
+    HRWidget *popup() const { return qobject_cast<HRWidget *>(m_popup.data()); }
     void setPopup(HRWidget *popup) { m_popup = popup; }
-    bool isPopupVisible() const { return m_popup && m_popup->isVisible(); }
+    bool isPopupVisible() const { return popup() && popup()->isVisible(); }
 
     /// Shows the content for a hover; needs a popup.
     /// @return true while a popup for the hover is on screen
@@ -78,7 +78,8 @@ private:
     const HRContext &m_context;
     QPointer<HRInterface> m_interface;
     const HRContentLookup &m_lookup;
-    QPointer<HRWidget> m_popup;
+    // A popup that is being destroyed still sends events, when it is no HRWidget any more.
+    QPointer<QObject> m_popup;
 };
 
 } // namespace Hintreels
