@@ -56,6 +56,7 @@ private Q_SLOTS:
     void ui_showsTheNextHint_inTheSameScene();
     void ui_takesBackStayOpen_whenTheNextHintComes();
     void ui_translatesThenInterpolates();
+    void ui_speaksTheReadersLanguage();
     void ui_keepsItsWords_whenDetached();
     void ui_offersDocumentation_data();
     void ui_offersDocumentation();
@@ -160,6 +161,23 @@ void tst_StandardUi::ui_translatesThenInterpolates()
     QVERIFY(itemWithText(fixture, "Macht es."));
     QVERIFY(fixture.host->requested.contains("Content:Does it."));
     QVERIFY(fixture.host->requested.contains("StandardUI:Tip"));
+}
+
+void tst_StandardUi::ui_speaksTheReadersLanguage()
+{
+    StandardUiFixture fixture(hint("", "title=\"Pen\" shortcut=\"Ctrl+Shift+L\""), "de_AT");
+    fixture.show();
+    QCOMPARE(
+        fixture.item("pin")->property("name").toString(), QString("In einem Fenster offen halten"));
+    QVERIFY(itemWithText(fixture, "Strg"));
+    QVERIFY(itemWithText(fixture, "Umschalt"));
+    QVERIFY(itemWithText(fixture, "L"));
+    fixture.popup->hide();
+
+    fixture.host->translations = { { "Keep open in a window", "Anheften" } };
+    fixture.show();
+
+    QCOMPARE(fixture.item("pin")->property("name").toString(), QString("Anheften"));
 }
 
 void tst_StandardUi::ui_keepsItsWords_whenDetached()

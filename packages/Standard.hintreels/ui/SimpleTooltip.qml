@@ -40,6 +40,6 @@ Rectangle {
         element: hintreel
         view: hintreelView
         reader: hintreelReader
-        words: Words { view: hintreelView; values: hint.values }
+        words: Words { view: hintreelView; reader: hintreelReader; values: hint.values }
     }
 }

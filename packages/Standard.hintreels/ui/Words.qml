@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
-// Every text passes here: first translated, then interpolated.
+// Every text passes here: first translated, then interpolated. Where the host and its packages have
+// no translation of the UI's own words, the library's own is taken.
 //
 // A text is asked for once per hint. Translations come from the package of the newest popup's hint,
 // so a detached one could no longer find its own.
@@ -10,6 +11,7 @@ import com.zentora.hintreels.qml 1.1
 
 QtObject {
     property HRView view
+    property HRContentReader reader
     // Of the hint, which the UI's own words follow.
     property var values
     readonly property string documentation: own("Documentation")
@@ -27,10 +29,13 @@ QtObject {
     }
 
     function own(text) {
-        return values ? said(text, "StandardUI") : ""
+        return values ? said(text, "StandardUI", reader.word(text)) : ""
     }
 
-    function said(text, context) {
-        return text ? view.interpolate(view.translate(text, context) || text) : ""
+    function said(text, context, otherwise) {
+        if (!text)
+            return ""
+        const translated = view.translate(text, context)
+        return view.interpolate(translated && translated !== text ? translated : otherwise || text)
     }
 }

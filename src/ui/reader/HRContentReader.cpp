@@ -5,6 +5,7 @@
 
 #include "context/printable_p.h"
 #include "ui/reader/HRMeasuring_p.h"
+#include "ui/reader/HRUiWords_p.h"
 #include "ui/reader/heapTrim_p.h"
 #include "ui/reader/hintReading_p.h"
 #include "ui/reader/keyCaps_p.h"
@@ -61,12 +62,15 @@ HRContentReader::HRContentReader(SettingsSource settings, QObject *parent, FileG
     : QObject(parent)
     , m_settings(std::move(settings))
     , m_gate(std::move(gate))
+    , m_words(std::make_unique<HRUiWords>())
     , m_pictures(new HRMeasuring([](const QString &path, auto) { return pictureSize(path); }, this))
     , m_clips(new HRMeasuring(&clipSize, this))
 {
     connect(m_pictures, &HRMeasuring::measured, this, &HRContentReader::tellMeasured);
     connect(m_clips, &HRMeasuring::measured, this, &HRContentReader::tellMeasured);
 }
+
+HRContentReader::~HRContentReader() = default;
 
 void HRContentReader::setHostColors(const QVariantMap &colors)
 {
@@ -88,12 +92,21 @@ QVariantMap HRContentReader::read(HRXmlElement *element, const QJSValue &say) co
     return hint;
 }
 
+QString HRContentReader::word(const QString &text) const
+{
+    return m_words->word(m_settings().locales.first(), text);
+}
+
 QVariantList HRContentReader::keyCaps(const QString &shortcut) const
 {
     QVariantList strokes;
-    const QVector<QStringList> caps = keyCapsOf(shortcut);
-    for (const QStringList &keys : caps)
+    QVector<QStringList> caps = keyCapsOf(shortcut);
+    const QLocale locale = m_settings().locales.first();
+    for (QStringList &keys : caps) {
+        for (QString &key : keys)
+            key = m_words->key(locale, key);
         strokes.append(QVariant(keys));
+    }
     return strokes;
 }
 

@@ -14,6 +14,7 @@
 #include <QVariantMap>
 
 #include <functional>
+#include <memory>
 
 QT_BEGIN_NAMESPACE
 class QQuickTextDocument;
@@ -23,6 +24,7 @@ QT_END_NAMESPACE
 namespace Hintreels {
 
 class HRMeasuring;
+class HRUiWords;
 
 /// What the standard UI asks of C++: content as plain values, and decisions on colour and text.
 ///
@@ -45,6 +47,7 @@ public:
     /// @param gate asked for each file that is looked at; without one, all are
     explicit HRContentReader(
         SettingsSource settings, QObject *parent = nullptr, FileGate gate = FileGate());
+    ~HRContentReader() override;
 
     /// Everything that is shown of a hint reel, an empty map for a null element.
     ///
@@ -61,7 +64,11 @@ public:
     Q_INVOKABLE QVariantMap read(
         Hintreels::HRXmlElement *element, const QJSValue &say = QJSValue()) const;
 
-    /// The strokes of a shortcut or gesture, each a list of keys: see Hintreels::keyCapsOf().
+    /// One of the standard UI's own words in the reader's language: see HRUiWords.
+    Q_INVOKABLE QString word(const QString &text) const;
+
+    /// The strokes of a shortcut or gesture, each a list of keys: see Hintreels::keyCapsOf(). Keys
+    /// are named in the reader's language.
     Q_INVOKABLE QVariantList keyCaps(const QString &shortcut) const;
 
     /// The "url", "width" and "height" of a picture file in pixels, an empty map where it is not a
@@ -133,6 +140,7 @@ private:
 
     SettingsSource m_settings;
     FileGate m_gate;
+    std::unique_ptr<HRUiWords> m_words;
     HRMeasuring *m_pictures;
     HRMeasuring *m_clips;
     int m_measured = 0;

@@ -1,0 +1,108 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<!-- SPDX-FileCopyrightText: 2026 The Hintreels authors -->
+<!-- SPDX-License-Identifier: MIT -->
+<TS version="2.1" language="es">
+<context>
+    <name>StandardUI</name>
+    <message>
+        <source>Documentation</source>
+        <translation>Documentación</translation>
+    </message>
+    <message>
+        <source>Keep open in a window</source>
+        <translation>Mantener abierto en una ventana</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Reproducir</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausar</translation>
+    </message>
+    <message>
+        <source>Play again</source>
+        <translation>Reproducir de nuevo</translation>
+    </message>
+    <message>
+        <source>Position in the clip</source>
+        <translation>Posición en el clip</translation>
+    </message>
+    <message>
+        <source>Tip</source>
+        <translation>Consejo</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Advertencia</translation>
+    </message>
+</context>
+<context>
+    <name>KeyCaps</name>
+    <message>
+        <source>Backspace</source>
+        <translation>Retroceso</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Supr</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Abajo</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Intro</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Izquierda</translation>
+    </message>
+    <message>
+        <source>PgDown</source>
+        <translation>Av Pág</translation>
+    </message>
+    <message>
+        <source>PgUp</source>
+        <translation>Re Pág</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Impr Pant</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Intro</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Derecha</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Mayús</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Espacio</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Arriba</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,68 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<!-- SPDX-FileCopyrightText: 2026 The Hintreels authors -->
+<!-- SPDX-License-Identifier: MIT -->
+<TS version="2.1" language="zh_TW">
+<context>
+    <name>StandardUI</name>
+    <message>
+        <source>Documentation</source>
+        <translation>說明文件</translation>
+    </message>
+    <message>
+        <source>Keep open in a window</source>
+        <translation>在視窗中保持開啟</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>暫停</translation>
+    </message>
+    <message>
+        <source>Play again</source>
+        <translation>再次播放</translation>
+    </message>
+    <message>
+        <source>Position in the clip</source>
+        <translation>片段中的位置</translation>
+    </message>
+    <message>
+        <source>Tip</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>注意</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+</context>
+<context>
+    <name>KeyCaps</name>
+    <message>
+        <source>Down</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>空白鍵</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>上</translation>
+    </message>
+</context>
+</TS>
