@@ -174,7 +174,7 @@ void tst_StandardUi::ui_speaksTheReadersLanguage()
     QVERIFY(itemWithText(fixture, "L"));
     fixture.popup->hide();
 
-    fixture.host->translations = { { "Keep open in a window", "Anheften" } };
+    fixture.translations = { { "Keep open in a window", "Anheften" } };
     fixture.show();
 
     QCOMPARE(fixture.item("pin")->property("name").toString(), QString("Anheften"));

@@ -6,22 +6,15 @@
 #include "content/HRXmlElement.h"
 #include "context/setting_p.h"
 #include "index/HRIndex.h"
+#include "ui/reader/standardUiResource_p.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QQmlEngine>
 
-// Q_INIT_RESOURCE wants to stand outside of any namespace.
-static void registerStandardUi()
-{
-    Q_INIT_RESOURCE(hintreels_standard_ui);
-}
-
 namespace Hintreels {
 
 namespace {
-
-const QString builtInDirectory = QStringLiteral(":/hintreels/standard/ui/");
 
 constexpr int usualScriptLimit = 2000; // ms
 
@@ -75,16 +68,16 @@ bool mayBecomeScene(const QUrl &source, const HRReach &reach)
     if (!reach.rules.ownFilesOnly || source.isEmpty())
         return true;
     if (reach.rules.fromStrangers)
-        return source.toString().startsWith(QLatin1String("qrc") + builtInDirectory);
+        return source.toString().startsWith(
+            QLatin1String("qrc") + standardUiResource(QStringLiteral("ui/")));
     return source.scheme() == QLatin1String("qrc")
         || isInside(source.toLocalFile(), reach.packages);
 }
 
 QString builtInUi(bool simple)
 {
-    registerStandardUi(); // a program that links the library statically would leave it out
-    return builtInDirectory
-        + (simple ? QStringLiteral("SimpleTooltip.qml") : QStringLiteral("HintreelUI.qml"));
+    return standardUiResource(
+        simple ? QStringLiteral("ui/SimpleTooltip.qml") : QStringLiteral("ui/HintreelUI.qml"));
 }
 
 QUrl urlOfFile(const QString &path)

@@ -3,6 +3,8 @@
 
 #include "ui/reader/HRUiWords_p.h"
 
+#include "ui/reader/standardUiResource_p.h"
+
 #include <QHash>
 
 namespace Hintreels {
@@ -62,7 +64,7 @@ void HRUiWords::load(const QString &language)
     // Nynorsk is read by those who read Bokmål.
     const QString file = language == QLatin1String("nn") ? QStringLiteral("nb") : language;
     [[maybe_unused]] const bool isThere
-        = m_translator.load(QStringLiteral(":/hintreels/standard/l10n/StandardUI_%1.qm").arg(file));
+        = m_translator.load(standardUiResource(QStringLiteral("l10n/StandardUI_%1.qm").arg(file)));
 }
 
 } // namespace Hintreels

@@ -3,6 +3,8 @@
 
 #include "ui/reader/HRUiWords_p.h"
 
+#include "ui/reader/standardUiResource_p.h"
+
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
@@ -27,12 +29,10 @@ private Q_SLOTS:
 
 namespace {
 
-const QString translations(":/hintreels/standard/l10n");
-
 /// What the UI asks for: see Words.qml.
 QStringList wordsOfTheUi()
 {
-    QFile file(":/hintreels/standard/ui/Words.qml");
+    QFile file(standardUiResource("ui/Words.qml"));
     if (!file.open(QIODevice::ReadOnly))
         qFatal("no Words.qml");
     const QString qml = QString::fromUtf8(file.readAll());
@@ -47,7 +47,7 @@ QStringList wordsOfTheUi()
 void tst_HRUiWords::languages_haveEveryWordOfTheUi_data()
 {
     QTest::addColumn<QString>("file");
-    const QStringList files = QDir(translations).entryList({ "*.qm" });
+    const QStringList files = QDir(standardUiResource("l10n")).entryList({ "*.qm" });
     QVERIFY(files.size() >= 24);
     for (const QString &file : files)
         QTest::newRow(qPrintable(file)) << file;
@@ -57,7 +57,7 @@ void tst_HRUiWords::languages_haveEveryWordOfTheUi()
 {
     QFETCH(QString, file);
     QTranslator translator;
-    QVERIFY(translator.load(translations + '/' + file));
+    QVERIFY(translator.load(standardUiResource("l10n/" + file)));
     const QStringList words = wordsOfTheUi();
     QVERIFY(words.size() >= 9);
     for (const QString &word : words)
