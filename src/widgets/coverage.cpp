@@ -135,7 +135,8 @@ HRCoverage coverageOf(const QVector<HRWalkedPart> &parts, const QStringList &key
             [&](const QString &key) { return known.contains(key); });
         if (hit != candidates.end())
             asked.insert(*hit);
-        for (const QString &key : keysAround(walked.part))
+        const QStringList around = keysAround(walked.part);
+        for (const QString &key : around)
             asked.insert(key);
         if (!walked.isInteractive)
             continue;

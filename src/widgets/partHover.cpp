@@ -58,7 +58,8 @@ HRHover hoverOf(const HRPart &part, const QPoint &position)
 {
     const QStringList keys = keysOf(part);
     HRHover hover{ keys, position, part.widget.data(), part.area };
-    for (const QString &key : keysAround(part)) {
+    const QStringList around = keysAround(part);
+    for (const QString &key : around) {
         if (!keys.contains(key))
             hover.keys.append(key);
     }

@@ -79,7 +79,8 @@ QStringList keysOf(const HRPart &part)
 QStringList keysAround(const HRPart &part)
 {
     QStringList keys;
-    for (QWidget *place : placesAround(part.widget)) {
+    const auto places = placesAround(part.widget);
+    for (QWidget *place : places) {
         HRPart around(place);
         around.goesBy(place);
         addOnce(&keys, keysOf(around));
