@@ -7,6 +7,7 @@
 #include "ui/popup/wayland_p.h"
 
 #include <QApplication>
+#include <QToolBar>
 
 namespace Hintreels {
 
@@ -24,6 +25,12 @@ QRect openMenus()
     return around;
 }
 
+bool isInColumn(const QWidget *widget)
+{
+    const auto *toolBar = qobject_cast<const QToolBar *>(widget ? widget->parentWidget() : nullptr);
+    return toolBar && toolBar->orientation() == Qt::Vertical;
+}
+
 } // namespace
 
 void HRBesidePlacement::start(QWidget *reference, const QRect &part, const QPoint &pointer)
@@ -37,8 +44,9 @@ void HRBesidePlacement::start(QWidget *reference, const QRect &part, const QPoin
 QPoint HRBesidePlacement::topLeftFor(const QSize &popup, const QSize &offset)
 {
     const bool mirrored = m_reference && m_reference->isRightToLeft();
-    const HRPlaced placed = placedBeside(
-        { m_part, openMenus(), m_pointer, offset, screen(), mirrored, m_side }, popup);
+    const HRPlaced placed = placedBeside({ m_part, openMenus(), m_pointer, offset, screen(),
+                                             mirrored, m_side, isInColumn(m_reference) },
+        popup);
     m_side = placed.side;
     return placed.topLeft;
 }

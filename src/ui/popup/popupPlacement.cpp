@@ -39,13 +39,13 @@ int slid(int start, int length, int first, int last)
     return qMax(first, qMin(start, last - length + 1));
 }
 
-/// Beside what the popup stands in a line goes the popup; else above or below it.
-Sides sidesOf(const HRPlace &place, bool isMenu)
+/// A popup goes beside a column, which it would cover above or below the part; else below or above.
+Sides sidesOf(const HRPlace &place, bool isColumn)
 {
     const HRSide next = place.mirrored ? HRSide::left : HRSide::right;
     const HRSide last = place.mirrored ? HRSide::right : HRSide::left;
-    Sides sides = isMenu ? Sides{ next, last, HRSide::below, HRSide::above }
-                         : Sides{ HRSide::below, HRSide::above, next, last };
+    Sides sides = isColumn ? Sides{ next, last, HRSide::below, HRSide::above }
+                           : Sides{ HRSide::below, HRSide::above, next, last };
     if (place.side) {
         sides.removeOne(*place.side);
         sides.prepend(*place.side);
@@ -132,7 +132,7 @@ HRPlaced placedBeside(const HRPlace &place, const QSize &popup)
         const bool isMenu = place.menus.contains(place.part);
         const QRect part = withPointer(place);
         const Anchor whole{ isMenu ? place.menus | part : part, place.part, gap };
-        const Sides sides = sidesOf(place, isMenu);
+        const Sides sides = sidesOf(place, isMenu || place.inColumn);
         if (const auto room
             = findRoom(whole, sides, place, { place.part, place.menus, pointer }, popup))
             return *room;

@@ -30,6 +30,7 @@ struct HRPlace
     QRect screen;
     bool mirrored = false; ///< for a layout from right to left
     std::optional<HRSide> side = {}; ///< on which the popup stands already
+    bool inColumn = false; ///< whether the part's neighbours are above and below it
 };
 
 /// A place that was found.
@@ -42,7 +43,8 @@ struct HRPlaced
 /// Finds the place for a popup of a size: beside the part on a side that has room for it, covering
 /// neither part nor menus nor pointer.
 ///
-/// The hint of a menu's entry stands beside the menu as a whole. Where no side of the part has
+/// The hint of a menu's entry stands beside the menu as a whole, and that of a part in a column
+/// beside the column. Where no side of the part has
 /// room, the popup stands beside the pointer; where that has no room either it sticks out of the
 /// screen, on the side where least of it does. A side on which it stands already is tried first.
 HRPlaced placedBeside(const HRPlace &place, const QSize &popup);

@@ -4,6 +4,7 @@
 #include "ui/popup/HRBesidePlacement_p.h"
 
 #include <QMenu>
+#include <QToolBar>
 #include <QtTest>
 
 using namespace Hintreels;
@@ -29,6 +30,7 @@ private Q_SLOTS:
     void topLeftFor_keepsOpenMenusClear();
     void topLeftFor_staysOnItsSide_untilAnotherHintStarts();
     void topLeftFor_followsDirectionOfWidget();
+    void topLeftFor_leavesAColumnOfToolsClear();
     void isOverPart_andLeadsTo_knowTheWay();
     void everything_survives_theWidget();
 
@@ -100,6 +102,26 @@ void tst_HRBesidePlacement::topLeftFor_followsDirectionOfWidget()
     child->setLayoutDirection(Qt::RightToLeft);
     placement.start(child, QRect(250, 125, 50, 10), nowhere);
     QCOMPARE(areaFor(size).right(), 299);
+}
+
+void tst_HRBesidePlacement::topLeftFor_leavesAColumnOfToolsClear()
+{
+    QToolBar tools;
+    tools.setWindowFlag(Qt::FramelessWindowHint);
+    tools.setOrientation(Qt::Vertical);
+    QWidget *tool = tools.widgetForAction(tools.addAction("one"));
+    tools.addAction("two");
+    tools.move(100, 100);
+    tools.show();
+    const QRect area(tool->mapToGlobal(QPoint()), tool->size());
+    placement.start(tool, QRect(), area.center());
+    const QPoint beside = areaFor(size).topLeft();
+    QVERIFY(beside.x() > area.right());
+    QCOMPARE(beside.y(), area.top());
+
+    tools.setOrientation(Qt::Horizontal);
+    placement.start(tool, QRect(), area.center());
+    QVERIFY(areaFor(size).top() > area.bottom());
 }
 
 void tst_HRBesidePlacement::isOverPart_andLeadsTo_knowTheWay()

@@ -62,6 +62,12 @@ HRPlace withOffset(const QSize &other, HRPlace place)
     return place;
 }
 
+HRPlace inColumn(HRPlace place)
+{
+    place.inColumn = true;
+    return place;
+}
+
 } // namespace
 
 class tst_popupPlacement : public QObject
@@ -105,6 +111,13 @@ void tst_popupPlacement::placedBeside_findsRoom_data()
         << placeOf(QRect(900, 0, 380, 800)) << popup << QPoint(900 - gap - 200, 0) << HRSide::left;
     QTest::newRow("as high as the screen, from right to left")
         << mirrored(placeOf(QRect(500, 0, 300, 800))) << popup << QPoint(500 - gap - 200, 0)
+        << HRSide::left;
+    QTest::newRow("in a column") << inColumn(placeOf(button)) << popup << QPoint(480 + gap, 300)
+                                 << HRSide::right;
+    QTest::newRow("in a column, from right to left")
+        << inColumn(mirrored(placeOf(button))) << popup << QPoint(200 - gap, 300) << HRSide::left;
+    QTest::newRow("in a column at the right edge")
+        << inColumn(placeOf(QRect(1200, 300, 80, 30))) << popup << QPoint(1000 - gap, 300)
         << HRSide::left;
     QTest::newRow("stays above") << standing(HRSide::above, placeOf(button)) << popup
                                  << QPoint(400, 300 - gap - 120) << HRSide::above;
