@@ -7,7 +7,7 @@
 #include "ui/popup/HRWidget.h"
 #include "ui/popup/popupParts_p.h"
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QMouseEvent>
 #include <QWheelEvent>
 
@@ -22,7 +22,7 @@ HRPopupInput::HRPopupInput(const HRWidget &popup)
 
 bool HRPopupInput::take(const QObject &watched, const QEvent &event)
 {
-    if (!QApplication::activePopupWidget() || !m_popup.view() || !isOfHost(m_popup, watched))
+    if (!m_popup.view() || !isOfHost(m_popup, watched))
         return false;
     switch (event.type()) {
     case QEvent::MouseButtonPress:

@@ -26,8 +26,8 @@ public:
     /// @param popup must outlive it
     explicit HRPopupInput(const HRWidget &popup);
 
-    /// Hands an event that somebody gets on to the view, where it happens inside the popup, or
-    /// began there. The host may delete the popup then, and this.
+    /// For events while a menu is open. Hands one that somebody gets on to the view, where it
+    /// happens inside the popup, or began there. The host may delete the popup then, and this.
     /// @return true where nobody else may see the event
     bool take(const QObject &watched, const QEvent &event);
 

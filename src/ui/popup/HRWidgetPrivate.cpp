@@ -14,6 +14,7 @@
 #include "ui/popup/sceneContext_p.h"
 #include "ui/popup/wayland_p.h"
 
+#include <QApplication>
 #include <QFileInfo>
 #include <QQuickItem>
 #include <QTimer>
@@ -71,8 +72,13 @@ bool HRWidgetPrivate::showWithContent(QObject *object, const QRect &part, const 
 
 bool HRWidgetPrivate::takeEvent(QObject &watched, QEvent &event)
 {
-    if (setting(settings(), popupPressesKey, false) && input.take(watched, event))
+    // The host may delete the popup when its scene hears of the pointer.
+    const QPointer<HRWidget> guarded = q;
+    const bool isMenuOpen = QApplication::activePopupWidget();
+    if (isMenuOpen && setting(settings(), popupPressesKey, false) && input.take(watched, event))
         return true;
+    if (!guarded)
+        return false;
     if (event.type() == QEvent::Show && isHostToolTip(watched))
         giveWayTo(static_cast<QWidget &>(watched));
     else if (takesAway(*q, watched, event))
