@@ -153,8 +153,9 @@ QVector<HRPart> cells(QWidget *widget)
     const QAbstractItemModel *model = view->model();
     if (!model || !model->hasChildren(view->rootIndex()))
         return parts;
+    const QString anyKey = QStringLiteral(".");
     const QModelIndexList keyed = model->match(model->index(0, 0, view->rootIndex()), partKeyRole,
-        QStringLiteral("*"), mostKeyedItems, Qt::MatchWildcard | Qt::MatchRecursive);
+        anyKey, mostKeyedItems, Qt::MatchRegularExpression | Qt::MatchRecursive);
     for (const QModelIndex &index : keyed)
         parts.append(cell(view, index));
     return parts;
