@@ -5,6 +5,7 @@
 
 #include <QAbstractEventDispatcher>
 #include <QCursor>
+#include <QWindow>
 #include <QtTest>
 
 using namespace Hintreels;
@@ -35,6 +36,8 @@ private Q_SLOTS:
     void watch_isSilent_whilePointerRests();
     void watch_isSilent_whenStopped();
     void watch_hasNoTimerObject();
+    void pointer_isNowhere_afterItLeftAWindow();
+    void pointer_isTold_whereItIsWatched();
 };
 
 void tst_HRPointerWatch::watch_tellsOnce_whenPointerMoved()
@@ -79,6 +82,39 @@ void tst_HRPointerWatch::watch_hasNoTimerObject()
     HRPointerWatch watch([](const auto &) {});
     watch.start();
     QVERIFY(watch.children().isEmpty());
+}
+
+// As on Wayland, where the application's events come by.
+void tst_HRPointerWatch::pointer_isNowhere_afterItLeftAWindow()
+{
+    QVector<HRPointerWatch::Position> moves;
+    HRPointerWatch watch([&](const auto &position) { moves.append(position); });
+    watch.start();
+    QWindow window;
+    QEvent left(QEvent::Leave);
+    QEvent entered(QEvent::Enter);
+    QVERIFY(!watch.eventFilter(&window, &left));
+    QVERIFY(!watch.position());
+    QVERIFY(!watch.eventFilter(&window, &left));
+    QVERIFY(!watch.eventFilter(&window, &entered));
+    QCOMPARE(watch.position(), HRPointerWatch::Position(QPoint(10, 10)));
+    QCOMPARE(moves, QVector<HRPointerWatch::Position>({ std::nullopt, QPoint(10, 10) }));
+}
+
+void tst_HRPointerWatch::pointer_isTold_whereItIsWatched()
+{
+    int moves = 0;
+    HRPointerWatch watch([&](const auto &) { ++moves; });
+    QWindow window;
+    QObject object;
+    QEvent left(QEvent::Leave);
+    QEvent other(QEvent::MouseMove);
+    watch.eventFilter(&window, &left);
+    QVERIFY(!watch.position());
+    watch.start();
+    watch.eventFilter(&object, &left);
+    watch.eventFilter(&window, &other);
+    QCOMPARE(moves, 0);
 }
 
 QTEST_MAIN(tst_HRPointerWatch)
