@@ -4,7 +4,7 @@
 # Installs the library, and what hosts find it by: a CMake package and a file for pkg-config.
 #
 # Components: runtime (library and standard packages), development (headers and what finds them),
-# qml (type descriptions for editors and qmllint), documents.
+# tools (the command hintreels), qml (type descriptions for editors and qmllint), documents.
 
 include(CMakePackageConfigHelpers)
 
