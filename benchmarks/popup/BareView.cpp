@@ -3,7 +3,7 @@
 
 #include "popup/BareView.h"
 
-#include "ui/reader/HRReaderSettings_p.h"
+#include "ui/reader/HRSceneSettings_p.h"
 
 #include <QQmlContext>
 #include <QQmlEngine>
@@ -31,7 +31,7 @@ StandInView::StandInView()
 }
 
 StandInReader::StandInReader()
-    : HRContentReader([] { return HRReaderSettings(); })
+    : HRContentReader([] { return HRSceneSettings(); })
 {
 }
 

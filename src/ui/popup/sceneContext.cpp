@@ -17,7 +17,7 @@ void setLastingProperties(QQmlContext &context, HRView *view, const QPointer<HRM
 {
     context.setContextProperty(QStringLiteral("hintreelView"), view);
     const auto settings = [m = manager] {
-        return m ? readerSettings(m->context(), m->currentLocale()) : readerSettings();
+        return m ? sceneSettings(m->context(), m->currentLocale()) : sceneSettings();
     };
     const auto admits = [v = QPointer<HRView>(view)](const QString &path, HRFileUse use) {
         return v && HRViewPrivate::of(*v).mayOpen(QStringLiteral("source"), path, use);

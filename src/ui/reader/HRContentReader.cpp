@@ -32,7 +32,7 @@ constexpr int longestCaption = 500;
 constexpr int longestTarget = 200;
 constexpr int mostCaptions = 1'000; // nobody writes as many for a clip of some seconds
 
-QLocale localeOf(const HRXmlElement &element, const HRReaderSettings &settings)
+QLocale localeOf(const HRXmlElement &element, const HRSceneSettings &settings)
 {
     const auto *root = qobject_cast<const HRXmlElement *>(element.parent());
     const QString name = root ? root->attribute(QStringLiteral("locale")) : QString();

@@ -6,7 +6,7 @@
 #include "content/HRXmlElement.h"
 #include "gates/HRFileUse_p.h"
 #include "ui/reader/HRMarkdownGate_p.h"
-#include "ui/reader/HRReaderSettings_p.h"
+#include "ui/reader/HRSceneSettings_p.h"
 
 #include <QColor>
 #include <QJSValue>
@@ -38,7 +38,7 @@ class HRContentReader : public QObject
     Q_PROPERTY(QVariantMap hostColors READ hostColors NOTIFY hostColorsChanged)
 
 public:
-    using SettingsSource = std::function<HRReaderSettings()>;
+    using SettingsSource = std::function<HRSceneSettings()>;
 
     /// Whether a file may be used so.
     using FileGate = std::function<bool(const QString &path, HRFileUse use)>;

@@ -24,7 +24,7 @@ namespace {
 HRContentReader germanReader()
 {
     return HRContentReader([] {
-        return HRReaderSettings{ { QLocale("de_DE"), QLocale("en_US") }, false };
+        return HRSceneSettings{ { QLocale("de_DE"), QLocale("en_US") }, false };
     });
 }
 
@@ -276,7 +276,7 @@ void tst_HRContentReader::read_tellsTheDirectionOfWriting()
     root.setAttribute("locale", contentLocale);
     HRXmlElement *element = addChild(&root, "hintreel");
     const HRContentReader reader([currentLocale] {
-        return HRReaderSettings{ { QLocale(currentLocale) }, false };
+        return HRSceneSettings{ { QLocale(currentLocale) }, false };
     });
 
     QCOMPARE(reader.read(element)["rightToLeft"].toBool(), rightToLeft);
@@ -398,7 +398,7 @@ void tst_HRContentReader::shownTarget_isOneShortLine()
 {
     QFETCH(QString, target);
     const HRContentReader reader([] {
-        return HRReaderSettings{ { QLocale("en_US") }, false, true };
+        return HRSceneSettings{ { QLocale("en_US") }, false, true };
     });
     QTEST(reader.shownTarget(target, "text"), "shown");
 }
@@ -407,7 +407,7 @@ void tst_HRContentReader::reducedMotion_isAskedAnew()
 {
     bool reduced = false;
     const HRContentReader reader([&reduced] {
-        return HRReaderSettings{ { QLocale("en_US") }, reduced };
+        return HRSceneSettings{ { QLocale("en_US") }, reduced };
     });
     QVERIFY(!reader.reducedMotion());
 

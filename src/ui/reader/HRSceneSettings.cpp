@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
-#include "ui/reader/HRReaderSettings_p.h"
+#include "ui/reader/HRSceneSettings_p.h"
 
 #include "context/setting_p.h"
 #include "gates/HRPackageRules_p.h"
@@ -21,12 +21,12 @@ bool desktopReducesMotion()
 
 } // namespace
 
-HRReaderSettings readerSettings()
+HRSceneSettings sceneSettings()
 {
     return { { QLocale::system() }, desktopReducesMotion() };
 }
 
-HRReaderSettings readerSettings(const HRContext &context, const QLocale &locale)
+HRSceneSettings sceneSettings(const HRContext &context, const QLocale &locale)
 {
     const QLocale fallback(setting(context, fallbackLocaleKey, QStringLiteral("en_US")));
     return { { locale, fallback }, setting(context, reducedMotionKey, desktopReducesMotion()),

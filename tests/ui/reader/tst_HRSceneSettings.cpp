@@ -3,7 +3,7 @@
 
 #include "context/HRContext.h"
 #include "support/MessageGuard.h"
-#include "ui/reader/HRReaderSettings_p.h"
+#include "ui/reader/HRSceneSettings_p.h"
 
 #include <QProxyStyle>
 #include <QtTest>
@@ -35,7 +35,7 @@ private:
 
 } // namespace
 
-class tst_HRReaderSettings : public QObject
+class tst_HRSceneSettings : public QObject
 {
     Q_OBJECT
 
@@ -46,25 +46,25 @@ private Q_SLOTS:
     void reducedMotion_followsSettingThenDesktop();
 };
 
-void tst_HRReaderSettings::locales_beginWithTheCurrentOne()
+void tst_HRSceneSettings::locales_beginWithTheCurrentOne()
 {
     HRContext context;
     const QLocale german("de_DE");
 
     QCOMPARE(
-        readerSettings(context, german).locales, (QVector<QLocale>{ german, QLocale("en_US") }));
+        sceneSettings(context, german).locales, (QVector<QLocale>{ german, QLocale("en_US") }));
 
     context.set(fallbackLocaleKey, "fr_FR");
     QCOMPARE(
-        readerSettings(context, german).locales, (QVector<QLocale>{ german, QLocale("fr_FR") }));
+        sceneSettings(context, german).locales, (QVector<QLocale>{ german, QLocale("fr_FR") }));
 }
 
-void tst_HRReaderSettings::locales_areThoseOfTheSystem_withoutSettings()
+void tst_HRSceneSettings::locales_areThoseOfTheSystem_withoutSettings()
 {
-    QCOMPARE(readerSettings().locales, QVector<QLocale>{ QLocale::system() });
+    QCOMPARE(sceneSettings().locales, QVector<QLocale>{ QLocale::system() });
 }
 
-void tst_HRReaderSettings::reducedMotion_followsSettingThenDesktop_data()
+void tst_HRSceneSettings::reducedMotion_followsSettingThenDesktop_data()
 {
     QTest::addColumn<bool>("desktopMoves");
     QTest::addColumn<QVariant>("setting");
@@ -76,7 +76,7 @@ void tst_HRReaderSettings::reducedMotion_followsSettingThenDesktop_data()
     QTest::newRow("setting over a still desktop") << false << QVariant(false) << false;
 }
 
-void tst_HRReaderSettings::reducedMotion_followsSettingThenDesktop()
+void tst_HRSceneSettings::reducedMotion_followsSettingThenDesktop()
 {
     QFETCH(bool, desktopMoves);
     QFETCH(QVariant, setting);
@@ -86,9 +86,9 @@ void tst_HRReaderSettings::reducedMotion_followsSettingThenDesktop()
     if (setting.isValid())
         context.set(reducedMotionKey, setting);
 
-    QCOMPARE(readerSettings(context, QLocale()).reducedMotion, reduced);
-    QCOMPARE(readerSettings().reducedMotion, !desktopMoves);
+    QCOMPARE(sceneSettings(context, QLocale()).reducedMotion, reduced);
+    QCOMPARE(sceneSettings().reducedMotion, !desktopMoves);
 }
 
-QTEST_MAIN(tst_HRReaderSettings)
-#include "tst_HRReaderSettings.moc"
+QTEST_MAIN(tst_HRSceneSettings)
+#include "tst_HRSceneSettings.moc"

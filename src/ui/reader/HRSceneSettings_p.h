@@ -10,8 +10,8 @@ class HRContext;
 
 namespace Hintreels {
 
-/// What the reader of a popup prefers.
-struct HRReaderSettings
+/// What the scene of a popup goes by.
+struct HRSceneSettings
 {
     QVector<QLocale> locales; ///< the best first; never empty
     bool reducedMotion; ///< nothing is to move unless the reader asks for it
@@ -20,9 +20,9 @@ struct HRReaderSettings
 
 /// The settings as they are now.
 /// @param locale that of translations
-HRReaderSettings readerSettings(const HRContext &context, const QLocale &locale);
+HRSceneSettings sceneSettings(const HRContext &context, const QLocale &locale);
 
 /// Those of the desktop.
-HRReaderSettings readerSettings();
+HRSceneSettings sceneSettings();
 
 } // namespace Hintreels
