@@ -83,8 +83,10 @@ enum contextKey : int
                            ///< its hint belongs to, and of its window
     reportBrokenFilesKey = 10012, ///< bool, false: tell of each control file that is not XML, with
                                   ///< the line, when a look-up reads it
-    requireUiKey = 10013 ///< bool, false: a hint whose QML root file is missing or broken is no
-                         ///< hint
+    requireUiKey = 10013, ///< bool, false: a hint whose QML root file is missing or broken is no
+                          ///< hint
+    readerSettingsKey = 10030 ///< QPointer<HRReaderSettings>, null: what the reader decides is
+                              ///< followed, in popups that are made from then on
 };
 
 /// Values of placementKey.

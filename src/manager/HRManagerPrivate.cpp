@@ -6,6 +6,7 @@
 #include "context/setting_p.h"
 #include "index/HRIndex.h"
 #include "manager/popupFactory_p.h"
+#include "reader/readerSettings_p.h"
 #include "ui/popup/HRWidgetPrivate_p.h"
 #include "ui/popup/quickRenderer_p.h"
 
@@ -91,7 +92,9 @@ bool HRManagerPrivate::mayShow() const
 {
     const int modifiers = setting(context, modifierKey, 0);
     const bool areHeld = modifiers == 0 || int(QGuiApplication::keyboardModifiers()) == modifiers;
-    return areHeld && !setting(context, disabledKey, false);
+    const HRReaderSettings *reader = readerSettings(&context);
+    const bool isWanted = !reader || reader->areHintsShown();
+    return areHeld && isWanted && !setting(context, disabledKey, false);
 }
 
 /// Whether a popup can be painted; says once why not.

@@ -39,6 +39,8 @@ HRWidgetsInterface::HRWidgetsInterface(
     : HRInterface(*std::make_unique<HRContext>(widgetsSettings(context)), dataPaths, index)
     , d(std::make_shared<HRWidgetsInterfacePrivate>(this))
 {
+    if (!this->context().contains(readerSettingsKey))
+        this->context().set(readerSettingsKey, d->makeReaderSettings());
     if (!qApp || !setting(this->context(), applicationFilterKey, false))
         return;
     qApp->removeEventFilter(manager());
@@ -76,6 +78,11 @@ QString HRWidgetsInterface::shortCutForObject(
 {
     const QString live = d->shortcut(key, object);
     return live.isEmpty() ? shortcut : live;
+}
+
+HRReaderSettings *HRWidgetsInterface::readerSettings()
+{
+    return setting(context(), readerSettingsKey, QPointer<HRReaderSettings>());
 }
 
 HRCoverage HRWidgetsInterface::coverage()

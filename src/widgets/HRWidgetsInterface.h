@@ -5,6 +5,7 @@
 
 #include "context/HRExport.h"
 #include "interface/HRInterface.h"
+#include "reader/HRReaderSettings.h"
 #include "widgets/HRCoverage.h"
 
 #include <memory>
@@ -30,7 +31,7 @@ struct HRWidgetsInterfacePrivate;
 ///
 /// These settings are on where the host has not set them: applicationFilterKey, ownFilesOnlyKey,
 /// placementKey (placementBeside), popupPressesKey, nativeDismissalKey, hostToolTipsKey,
-/// hostColorsKey, reportBrokenFilesKey and requireUiKey.
+/// hostColorsKey, reportBrokenFilesKey and requireUiKey; readerSettingsKey has readerSettings().
 ///
 /// All virtual operations may be overridden. GUI thread only; widgets, actions and the interface
 /// itself may be deleted at any time.
@@ -63,6 +64,10 @@ public:
     /// content's.
     QString shortCutForObject(
         const QString &key, QObject *object, const QString &shortcut) override;
+
+    /// What the reader decides: the host's, which it has set under readerSettingsKey, else an
+    /// object of the interface's own with the host's QSettings. Null where the host has set null.
+    HRReaderSettings *readerSettings();
 
     /// Goes through the open windows, with their menus and all of their pages, and tells what has
     /// no hint, shares one or cannot have one, and which content nobody asks for.

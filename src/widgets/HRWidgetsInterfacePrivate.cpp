@@ -3,6 +3,7 @@
 
 #include "widgets/HRWidgetsInterfacePrivate_p.h"
 
+#include "context/setting_p.h"
 #include "manager/HRManagerPrivate_p.h"
 #include "widgets/partHover_p.h"
 #include "widgets/parts/partAt_p.h"
@@ -32,18 +33,40 @@ const QAction *actionNamed(const QString &name)
 
 HRWidgetsInterfacePrivate::HRWidgetsInterfacePrivate(HRWidgetsInterface *interface)
     : q(interface)
+    , m_rest([this] {
+        const HRReaderSettings *reader = q->readerSettings();
+        return reader ? reader->delay() : HRRestWatch::desktopsDelay;
+    })
 {
+}
+
+QVariant HRWidgetsInterfacePrivate::makeReaderSettings()
+{
+    return QVariant::fromValue(QPointer<HRReaderSettings>(new HRReaderSettings(this)));
 }
 
 bool HRWidgetsInterfacePrivate::eventFilter(QObject *watched, QEvent *event)
 {
     auto *widget = event->type() == QEvent::ToolTip ? qobject_cast<QWidget *>(watched) : nullptr;
+    if (m_rest.holdsBack(watched, *event))
+        return true;
     if (!widget)
         return q->manager()->eventFilter(watched, event);
     const auto &toolTip = static_cast<const QHelpEvent &>(*event);
     // What a widget has not taken comes to those around it, which do not answer for it.
     const bool isOfChild = widget->childAt(toolTip.pos());
-    return !isOfChild && showToolTip(widget, toolTip.globalPos());
+    return !isOfChild && showsOnHover() && showToolTip(widget, toolTip.globalPos());
+}
+
+/// Where the host requires modifiers, these are what has to be held.
+bool HRWidgetsInterfacePrivate::showsOnHover() const
+{
+    const HRReaderSettings *reader = q->readerSettings();
+    const auto occasion = reader ? reader->occasion() : HRReaderSettings::occasionHover;
+    const bool isHeld = QGuiApplication::keyboardModifiers() & Qt::ControlModifier
+        || setting(q->context(), modifierKey, 0) != 0;
+    return occasion == HRReaderSettings::occasionHover
+        || (occasion == HRReaderSettings::occasionModifier && isHeld);
 }
 
 bool HRWidgetsInterfacePrivate::showToolTip(QWidget *widget, const QPoint &position)

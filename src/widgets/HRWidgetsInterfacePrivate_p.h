@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "widgets/HRRestWatch_p.h"
 #include "widgets/HRWidgetsInterface.h"
 #include "widgets/parts/HRPart_p.h"
 
@@ -20,6 +21,9 @@ struct HRWidgetsInterfacePrivate : public QObject
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+    /// Makes an object of the interface's own, as the value of readerSettingsKey.
+    QVariant makeReaderSettings();
+
     /// The shortcut of what an object, or the hovered part of it, does; empty where the key is not
     /// that of the part.
     QString shortcut(const QString &key, QObject *object) const;
@@ -29,7 +33,10 @@ private:
     HRPart partOf(QWidget *widget, const QPoint &position) const;
     bool isHostsOwn(const QString &key, QObject *object) const;
 
+    bool showsOnHover() const;
+
     HRWidgetsInterface *q;
+    HRRestWatch m_rest;
     std::optional<HRPart> m_hovered; // while its hint is looked for
 };
 

@@ -59,7 +59,10 @@ Column {
                 height > 0 && sightTop + sightHeight > 0 && height > sightTop
 
             // Where the blocks above have only now got their heights, this one is still too high up.
+            // What is called later may be gone by then, and with it what it knows.
             function see() {
+                if (!list)
+                    return
                 list.forceLayout()
                 seen = seen || inSight
             }

@@ -18,8 +18,8 @@ Item {
         objectName: "clip"
         anchors.fill: parent
         source: stage.block.source
-        loop: stage.block.loop === "true" && !stage.hint.reader.reducedMotion()
-        wanted: !stage.hint.reader.reducedMotion()
+        loop: stage.block.loop === "true" && stage.hint.reader.repeatsClips
+        wanted: stage.hint.reader.playsClips
         watched: stage.watched
     }
 
@@ -39,7 +39,7 @@ Item {
         objectName: "clipCaption"
         source: stage.block.source
         time: player.time
-        shown: player.shown
+        shown: player.shown && stage.hint.reader.showsCaptions
     }
 
     ClipButton {

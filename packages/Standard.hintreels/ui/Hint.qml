@@ -8,15 +8,19 @@ import QtQml 2.15
 import com.zentora.hintreels.qml 1.1
 
 QtObject {
+    id: hint
+
     property HRXmlElement element
     property HRView view
     property HRContentReader reader
     property Words words
     property var values: ({})
     property var blocks: []
+    // Title, shortcut and summary are all that the reader wants to see now.
+    property bool small: false
     readonly property bool rightToLeft: values.rightToLeft === true
     readonly property string documentation:
-        view.documentationAvailable && values.documentation || ""
+        !small && view.documentationAvailable && values.documentation || ""
 
     // All that binds to the values has them by now.
     signal taken
@@ -28,12 +32,22 @@ QtObject {
         if (view.stayOpen)
             view.stayOpen = false
         values = reader.read(element, words.content)
+        show()
+    }
+
+    function show() {
+        small = reader.isSmall()
         // An equal list would leave all blocks as they are: a clip at its end, texts in the
         // language of before.
         blocks = []
-        blocks = values.blocks
+        blocks = reader.shownBlocks(values.blocks)
         taken()
     }
 
     onElementChanged: take()
+
+    readonly property Connections decisions: Connections {
+        target: hint.reader
+        function onDetailChanged() { hint.show() }
+    }
 }

@@ -22,7 +22,8 @@ Rectangle {
         column.forceLayout()
     }
 
-    implicitWidth: look.width
+    implicitWidth: hint.small
+        ? Math.min(look.width, title.naturalWidth + 2 * look.padding) : look.width
     implicitHeight: Math.min(Math.ceil(page.contentHeight), tallest)
     color: look.background
 
@@ -43,7 +44,7 @@ Rectangle {
             id: column
             x: look.padding
             y: look.padding
-            width: look.width - 2 * look.padding
+            width: root.width - 2 * look.padding
             spacing: 3 * look.step
 
             Title {

@@ -40,7 +40,8 @@ QtObject {
     readonly property int width: scaled(hostFontSize * 28)
     readonly property int highestPicture: 2 * width
 
-    readonly property real hostFontSize: Math.max(12, probe.fontInfo.pixelSize)
+    readonly property real hostFontSize:
+        Math.max(12, probe.fontInfo.pixelSize) * reader.textScale
     readonly property Text probe: Text {}
     readonly property HostPalette palette: HostPalette { reader: look.reader }
 

@@ -16,6 +16,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QQuickItem>
 #include <QTimer>
 #include <QWindow>
@@ -34,6 +35,7 @@ HRWidgetPrivate::HRWidgetPrivate(HRWidget *widget, HRManager *hrManager, QWidget
     , clock(timer)
     , hideTimer(clock, [this] { return hideDelay(); })
     , watch([this](const auto &position) { hideTimer.follow(isSafe(position)); })
+    , smallStart([this] { return isSafe(watch.position()); }, [this] { grow(); })
 {
 }
 
@@ -66,6 +68,7 @@ bool HRWidgetPrivate::showWithContent(QObject *object, const QRect &part, const 
         return false;
     }
     takeInContent();
+    beginSmall();
     q->showAnimated();
     return true;
 }
@@ -79,6 +82,8 @@ bool HRWidgetPrivate::takeEvent(QObject &watched, QEvent &event)
         return true;
     if (!guarded)
         return false;
+    if (event.type() == QEvent::KeyPress)
+        smallStart.followKey(static_cast<const QKeyEvent &>(event));
     if (event.type() == QEvent::Show && isHostToolTip(watched))
         giveWayTo(static_cast<QWidget &>(watched));
     else if (takesAway(*q, watched, event))
@@ -144,12 +149,6 @@ void HRWidgetPrivate::makeRoom()
 bool HRWidgetPrivate::stays() const
 {
     return reserved || (view && view->stayOpen());
-}
-
-/// 0 for a popup that is to stay.
-double HRWidgetPrivate::hideDelay() const
-{
-    return stays() ? 0.0 : double(setting(settings(), hideDelayKey, 3000.0F));
 }
 
 void HRWidgetPrivate::takeReference(QObject *object, const QRect &part)
@@ -227,12 +226,15 @@ void HRWidgetPrivate::stopHiding()
     fade.stop();
     hideTimer.stop();
     watch.stop();
+    smallStart.stop();
+    QObject::disconnect(readerDecided);
 }
 
 /// From now on the popup is used like any window, with the keyboard too, and hides for nothing.
 void HRWidgetPrivate::becomeOrdinaryWindow()
 {
     reserved = true;
+    smallStart.end();
     stopHiding();
     QObject::disconnect(goingWithWindow);
     q->setWindowOpacity(1.0);
@@ -323,6 +325,7 @@ void HRWidgetPrivate::dismissNatively()
 void HRWidgetPrivate::beginToShow()
 {
     watch.start();
+    awaitDecisions();
     if (setting(settings(), hostToolTipsKey, false))
         hideHostToolTips();
 }

@@ -10,6 +10,7 @@
 #include "ui/popup/HRPointerWatch_p.h"
 #include "ui/popup/HRPopupFade_p.h"
 #include "ui/popup/HRPopupInput_p.h"
+#include "ui/popup/HRSmallStart_p.h"
 #include "ui/popup/HRView.h"
 #include "ui/popup/HRViewEmbedding_p.h"
 #include "ui/popup/HRWidget.h"
@@ -73,6 +74,10 @@ struct HRWidgetPrivate
     void beginToShow();
     void takeColors();
     void giveWayTo(QWidget &toolTip);
+    void awaitDecisions();
+    void takeDecision();
+    void beginSmall();
+    void grow();
 
     HRWidget *q;
     QPointer<HRManager> manager;
@@ -91,6 +96,8 @@ struct HRWidgetPrivate
     HRHideTimer hideTimer;
     HRPointerWatch watch;
     HRViewEmbedding embedding;
+    HRSmallStart smallStart;
+    QMetaObject::Connection readerDecided;
     QMetaObject::Connection goingWithWindow;
     bool reserved = false; // by its reader, and a window of its own ever since
     bool placedByReader = false;

@@ -3,6 +3,7 @@
 
 #include "ui/popup/sceneContext_p.h"
 
+#include "reader/readerSettings_p.h"
 #include "ui/popup/HRViewPrivate_p.h"
 #include "ui/reader/HRContentReader_p.h"
 
@@ -11,6 +12,16 @@
 namespace Hintreels {
 
 namespace {
+
+/// Bindings follow at once.
+void tellReader(HRView &view, void (HRContentReader::*told)())
+{
+    const HRSceneLoader::Work work(&HRViewPrivate::of(view).loader);
+    const HRScriptWatch::Entry entry(HRViewPrivate::of(view).watch);
+    const QVariant reader = view.rootContext()->contextProperty(QStringLiteral("hintreelReader"));
+    if (auto *contentReader = reader.value<HRContentReader *>())
+        (contentReader->*told)();
+}
 
 /// The context keeps a connection for every object that it is given, so these are given once.
 void setLastingProperties(QQmlContext &context, HRView *view, const QPointer<HRManager> &manager)
@@ -22,8 +33,11 @@ void setLastingProperties(QQmlContext &context, HRView *view, const QPointer<HRM
     const auto admits = [v = QPointer<HRView>(view)](const QString &path, HRFileUse use) {
         return v && HRViewPrivate::of(*v).mayOpen(QStringLiteral("source"), path, use);
     };
-    context.setContextProperty(
-        QStringLiteral("hintreelReader"), new HRContentReader(settings, view, admits));
+    auto *reader = new HRContentReader(settings, view, admits);
+    context.setContextProperty(QStringLiteral("hintreelReader"), reader);
+    if (const HRReaderSettings *decisions = manager ? readerSettings(&manager->context()) : nullptr)
+        QObject::connect(decisions, &HRReaderSettings::changed, reader,
+            [view] { tellReader(*view, &HRContentReader::follow); });
 }
 
 } // namespace
@@ -47,6 +61,11 @@ void setSceneColors(HRView &view, const QVariantMap &colors)
     const QVariant reader = view.rootContext()->contextProperty(QStringLiteral("hintreelReader"));
     if (auto *contentReader = reader.value<HRContentReader *>())
         contentReader->setHostColors(colors);
+}
+
+void growScene(HRView &view)
+{
+    tellReader(view, &HRContentReader::grow);
 }
 
 } // namespace Hintreels

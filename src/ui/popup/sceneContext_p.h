@@ -27,4 +27,7 @@ void setSceneContext(HRView &view, HRXmlElement *content, const QString &package
 /// Gives the scene's reader the colours of what the hint belongs to; see HRHostColors.
 void setSceneColors(HRView &view, const QVariantMap &colors);
 
+/// Lets a hint that has begun small show all that its reader wants.
+void growScene(HRView &view);
+
 } // namespace Hintreels

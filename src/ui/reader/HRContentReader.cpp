@@ -48,6 +48,12 @@ QString said(QJSValue say, const QString &text)
     return answer.isString() ? answer.toString() : text;
 }
 
+bool isText(const QVariantMap &block)
+{
+    const QString kind = block.value(QStringLiteral("block")).toString();
+    return kind != QLatin1String("picture") && kind != QLatin1String("video");
+}
+
 QVariantMap sizeMap(const QSize &size)
 {
     if (size.isEmpty())
@@ -86,10 +92,44 @@ QVariantMap HRContentReader::read(HRXmlElement *element, const QJSValue &say) co
         return {};
     m_pictures->forget();
     m_clips->forget();
+    m_beginsSmall = m_settings().startsSmall;
+    m_told = detail();
     QVariantMap hint = readHint(*element, [&say](const QString &text) { return said(say, text); });
     const QLocale locale = localeOf(*element, m_settings());
     hint.insert(QStringLiteral("rightToLeft"), locale.textDirection() == Qt::RightToLeft);
     return hint;
+}
+
+HRReaderSettings::Detail HRContentReader::detail() const
+{
+    return m_beginsSmall ? HRReaderSettings::summaryDetail : m_settings().detail;
+}
+
+QVariantList HRContentReader::shownBlocks(const QVariantList &blocks) const
+{
+    if (detail() == HRReaderSettings::fullDetail)
+        return blocks;
+    QVariantList shown;
+    for (const QVariant &block : blocks) {
+        if (!isSmall() && isText(block.toMap()))
+            shown.append(block);
+    }
+    return shown;
+}
+
+void HRContentReader::grow()
+{
+    m_beginsSmall = false;
+    follow();
+}
+
+void HRContentReader::follow()
+{
+    Q_EMIT decided();
+    if (m_told == detail())
+        return;
+    m_told = detail();
+    Q_EMIT detailChanged();
 }
 
 QString HRContentReader::word(const QString &text) const
@@ -112,7 +152,7 @@ QVariantList HRContentReader::keyCaps(const QString &shortcut) const
 
 QVariantMap HRContentReader::picture(const QString &path) const
 {
-    if (!mayUse(path, HRFileUse::picture))
+    if (detail() != HRReaderSettings::fullDetail || !mayUse(path, HRFileUse::picture))
         return {};
     QVariantMap picture = sizeMap(m_pictures->size(path));
     if (!picture.isEmpty())

@@ -36,6 +36,10 @@ class HRContentReader : public QObject
     Q_OBJECT
     Q_PROPERTY(int measured READ measured NOTIFY measuredChanged)
     Q_PROPERTY(QVariantMap hostColors READ hostColors NOTIFY hostColorsChanged)
+    Q_PROPERTY(bool playsClips READ playsClips NOTIFY decided)
+    Q_PROPERTY(bool repeatsClips READ repeatsClips NOTIFY decided)
+    Q_PROPERTY(bool showsCaptions READ showsCaptions NOTIFY decided)
+    Q_PROPERTY(double textScale READ textScale NOTIFY decided)
 
 public:
     using SettingsSource = std::function<HRSceneSettings()>;
@@ -88,6 +92,26 @@ public:
     QVariantMap hostColors() const { return m_hostColors; }
     void setHostColors(const QVariantMap &colors);
 
+    /// Whether only title, shortcut and summary are shown: each hint may begin so, until grow().
+    Q_INVOKABLE bool isSmall() const { return detail() == HRReaderSettings::summaryDetail; }
+
+    /// Of the blocks that read() has found those that the reader wants to see now.
+    Q_INVOKABLE QVariantList shownBlocks(const QVariantList &blocks) const;
+
+    /// Ends the small beginning of the hint on show.
+    void grow();
+
+    /// Tells the scene that the reader may have decided otherwise.
+    void follow();
+
+    ///@{
+    /// See HRSceneSettings.
+    bool playsClips() const { return m_settings().playsClips; }
+    bool repeatsClips() const { return m_settings().repeatsClips; }
+    bool showsCaptions() const { return m_settings().showsCaptions; }
+    double textScale() const { return m_settings().textScale; }
+    ///@}
+
     /// Names of the files in which a clip's captions may lie, the best for the reader first.
     Q_INVOKABLE QStringList captionFiles(const QString &clip) const;
 
@@ -129,8 +153,13 @@ public:
 Q_SIGNALS:
     void measuredChanged();
     void hostColorsChanged();
+    /// The reader may have decided otherwise.
+    void decided();
+    /// isSmall() and shownBlocks() have other answers than when the hint was read.
+    void detailChanged();
 
 private:
+    HRReaderSettings::Detail detail() const;
     void tellMeasured();
     void tellTargets(QTextDocument &text) const;
     HRTextPicture pictureInText(
@@ -145,6 +174,8 @@ private:
     HRMeasuring *m_clips;
     int m_measured = 0;
     QVariantMap m_hostColors;
+    mutable bool m_beginsSmall = false; // the hint on show
+    mutable HRReaderSettings::Detail m_told = HRReaderSettings::fullDetail; // to the scene
 };
 
 } // namespace Hintreels

@@ -5,6 +5,7 @@
 
 #include "context/setting_p.h"
 #include "gates/HRPackageRules_p.h"
+#include "reader/readerSettings_p.h"
 
 #include <QApplication>
 #include <QStyle>
@@ -19,18 +20,42 @@ bool desktopReducesMotion()
     return QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration) == 0;
 }
 
+void takeDecisions(HRSceneSettings &settings, const HRReaderSettings &reader)
+{
+    settings.detail = reader.detail();
+    settings.startsSmall = reader.startsSmall();
+    settings.playsClips = reader.clips() != HRReaderSettings::clipsOnRequest;
+    settings.repeatsClips = reader.clips() == HRReaderSettings::clipsByThemselves;
+    settings.showsCaptions = reader.areCaptionsShown();
+    settings.textScale = reader.textSize() / 100.0;
+}
+
+/// No clip moves by itself where nothing is to.
+void keepStill(HRSceneSettings &settings)
+{
+    settings.playsClips = settings.playsClips && !settings.reducedMotion;
+    settings.repeatsClips = settings.repeatsClips && !settings.reducedMotion;
+}
+
 } // namespace
 
 HRSceneSettings sceneSettings()
 {
-    return { { QLocale::system() }, desktopReducesMotion() };
+    HRSceneSettings settings{ { QLocale::system() }, desktopReducesMotion() };
+    keepStill(settings);
+    return settings;
 }
 
 HRSceneSettings sceneSettings(const HRContext &context, const QLocale &locale)
 {
     const QLocale fallback(setting(context, fallbackLocaleKey, QStringLiteral("en_US")));
-    return { { locale, fallback }, setting(context, reducedMotionKey, desktopReducesMotion()),
+    HRSceneSettings settings{ { locale, fallback },
+        setting(context, reducedMotionKey, desktopReducesMotion()),
         packageRules(context).fromStrangers };
+    if (const HRReaderSettings *reader = readerSettings(&context))
+        takeDecisions(settings, *reader);
+    keepStill(settings);
+    return settings;
 }
 
 } // namespace Hintreels

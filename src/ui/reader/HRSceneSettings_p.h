@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "reader/HRReaderSettings.h"
+
 #include <QLocale>
 #include <QVector>
 
@@ -16,6 +18,12 @@ struct HRSceneSettings
     QVector<QLocale> locales; ///< the best first; never empty
     bool reducedMotion; ///< nothing is to move unless the reader asks for it
     bool showsTargets = false; ///< links tell where they lead: strangers have written them
+    HRReaderSettings::Detail detail = HRReaderSettings::fullDetail;
+    bool startsSmall = false; ///< a hint begins with its summary
+    bool playsClips = true; ///< by themselves
+    bool repeatsClips = true; ///< where their hint says so
+    bool showsCaptions = true;
+    double textScale = 1.0;
 };
 
 /// The settings as they are now.

@@ -3,6 +3,7 @@
 
 #include "context/HRContext.h"
 #include "support/MessageGuard.h"
+#include "support/TestReader.h"
 #include "ui/reader/HRSceneSettings_p.h"
 
 #include <QProxyStyle>
@@ -44,6 +45,9 @@ private Q_SLOTS:
     void locales_areThoseOfTheSystem_withoutSettings();
     void reducedMotion_followsSettingThenDesktop_data();
     void reducedMotion_followsSettingThenDesktop();
+    void decisions_areTheReaders();
+    void clips_followReaderAndMotion_data();
+    void clips_followReaderAndMotion();
 };
 
 void tst_HRSceneSettings::locales_beginWithTheCurrentOne()
@@ -88,6 +92,53 @@ void tst_HRSceneSettings::reducedMotion_followsSettingThenDesktop()
 
     QCOMPARE(sceneSettings(context, QLocale()).reducedMotion, reduced);
     QCOMPARE(sceneSettings().reducedMotion, !desktopMoves);
+}
+
+void tst_HRSceneSettings::decisions_areTheReaders()
+{
+    TestReader reader;
+    HRContext context;
+    reader.settings.setDetail(HRReaderSettings::textDetail);
+    reader.settings.setStartsSmall(true);
+    reader.settings.setCaptionsShown(false);
+    reader.settings.setTextSize(150);
+    QCOMPARE(sceneSettings(context, QLocale()).detail, HRReaderSettings::fullDetail);
+
+    context.set(readerSettingsKey, reader.asValue());
+
+    const HRSceneSettings settings = sceneSettings(context, QLocale());
+    QCOMPARE(settings.detail, HRReaderSettings::textDetail);
+    QVERIFY(settings.startsSmall);
+    QVERIFY(!settings.showsCaptions);
+    QCOMPARE(settings.textScale, 1.5);
+}
+
+void tst_HRSceneSettings::clips_followReaderAndMotion_data()
+{
+    QTest::addColumn<int>("clips");
+    QTest::addColumn<bool>("reducedMotion");
+    QTest::addColumn<bool>("plays");
+    QTest::addColumn<bool>("repeats");
+    QTest::newRow("by themselves")
+        << int(HRReaderSettings::clipsByThemselves) << false << true << true;
+    QTest::newRow("once") << int(HRReaderSettings::clipsOnce) << false << true << false;
+    QTest::newRow("on request") << int(HRReaderSettings::clipsOnRequest) << false << false << false;
+    QTest::newRow("by themselves, without motion")
+        << int(HRReaderSettings::clipsByThemselves) << true << false << false;
+}
+
+void tst_HRSceneSettings::clips_followReaderAndMotion()
+{
+    QFETCH(int, clips);
+    QFETCH(bool, reducedMotion);
+    TestReader reader;
+    reader.settings.setClips(HRReaderSettings::Clips(clips));
+    HRContext context;
+    context.set(readerSettingsKey, reader.asValue());
+    context.set(reducedMotionKey, reducedMotion);
+    const HRSceneSettings settings = sceneSettings(context, QLocale());
+    QTEST(settings.playsClips, "plays");
+    QTEST(settings.repeatsClips, "repeats");
 }
 
 QTEST_MAIN(tst_HRSceneSettings)

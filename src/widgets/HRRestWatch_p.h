@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QBasicTimer>
+#include <QObject>
+#include <QPoint>
+#include <QPointer>
+#include <QWidget>
+
+#include <functional>
+
+QT_BEGIN_NAMESPACE
+class QMouseEvent;
+QT_END_NAMESPACE
+
+namespace Hintreels {
+
+/// Lets tooltip events come after as long a rest of the pointer as the reader wants, whatever the
+/// application's style says.
+///
+/// GUI thread only.
+class HRRestWatch : public QObject
+{
+public:
+    /// Milliseconds; desktopsDelay leaves the events alone.
+    using Delay = std::function<int()>;
+    static constexpr int desktopsDelay = -1;
+
+    explicit HRRestWatch(Delay delay);
+
+    /// Follows an event that somebody gets.
+    /// @return true for a tooltip event that comes too early: nobody may see it, since another one
+    ///     follows
+    bool holdsBack(QObject *watched, const QEvent &event);
+
+protected:
+    void timerEvent(QTimerEvent *event) override;
+
+private:
+    void rest(QWidget &widget, const QMouseEvent &event);
+    void tell();
+
+    Delay m_delay;
+    QBasicTimer m_timer;
+    QPointer<QWidget> m_widget; // that the pointer is over
+    QPoint m_position; // in the widget
+};
+
+} // namespace Hintreels

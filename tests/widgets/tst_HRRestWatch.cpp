@@ -1,0 +1,150 @@
+// SPDX-FileCopyrightText: 2026 The Hintreels authors
+// SPDX-License-Identifier: MIT
+
+#include "widgets/HRRestWatch_p.h"
+
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QtTest>
+
+#include <memory>
+
+using namespace Hintreels;
+
+namespace {
+
+constexpr int farOff = 100'000; // ms
+
+/// A window that may have tooltips, and notes where it was told to show one.
+class Window : public QWidget
+{
+public:
+    Window()
+    {
+        setAttribute(Qt::WA_AlwaysShowToolTips);
+        inner.setGeometry(10, 10, 50, 50);
+    }
+
+    QWidget inner{ this };
+    QVector<QPoint> told;
+
+protected:
+    bool event(QEvent *event) override
+    {
+        if (event->type() == QEvent::ToolTip)
+            told.append(static_cast<QHelpEvent *>(event)->pos());
+        return QWidget::event(event);
+    }
+};
+
+struct Fixture
+{
+    bool move(QWidget &widget, const QPoint &position, Qt::MouseButtons buttons = {})
+    {
+        const QMouseEvent event(QEvent::MouseMove, position, Qt::NoButton, buttons, {});
+        return watch.holdsBack(&widget, event);
+    }
+    /// What the desktop says.
+    bool holdsToolTipBack()
+    {
+        const QHelpEvent event(QEvent::ToolTip, QPoint(), QPoint());
+        return watch.holdsBack(&window, event);
+    }
+
+    int delay = farOff;
+    Window window;
+    HRRestWatch watch{ [this] { return delay; } };
+};
+
+} // namespace
+
+class tst_HRRestWatch : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void toolTip_comesAfterTheDelay();
+    void toolTip_waits_whileThePointerHasNotRestedLongEnough();
+    void toolTip_isTheDesktops_withoutADelay();
+    void rest_isWhereThePointerIs();
+    void rest_ends_data();
+    void rest_ends();
+    void window_mayGoMeanwhile();
+};
+
+void tst_HRRestWatch::toolTip_comesAfterTheDelay()
+{
+    Fixture f;
+    f.delay = 1;
+    QVERIFY(!f.move(f.window, QPoint(5, 5)));
+    QTRY_COMPARE(f.window.told, QVector<QPoint>{ QPoint(5, 5) });
+    QVERIFY(!f.holdsToolTipBack());
+}
+
+void tst_HRRestWatch::toolTip_waits_whileThePointerHasNotRestedLongEnough()
+{
+    Fixture f;
+    QVERIFY(!f.holdsToolTipBack());
+    f.move(f.window, QPoint(5, 5));
+    QVERIFY(f.holdsToolTipBack());
+}
+
+void tst_HRRestWatch::toolTip_isTheDesktops_withoutADelay()
+{
+    Fixture f;
+    f.delay = HRRestWatch::desktopsDelay;
+    f.move(f.window, QPoint(5, 5));
+    QVERIFY(!f.holdsToolTipBack());
+}
+
+// A move comes to the innermost widget first, then to those around it.
+void tst_HRRestWatch::rest_isWhereThePointerIs()
+{
+    Fixture f;
+    f.delay = 1;
+    f.move(f.window, QPoint(5, 5));
+    f.move(f.window, QPoint(7, 7));
+    f.move(f.window.inner, QPoint(2, 3));
+    f.move(f.window, QPoint(12, 13));
+    QTRY_COMPARE(f.window.told, QVector<QPoint>{ QPoint(12, 13) }); // handed on by the inner one
+}
+
+void tst_HRRestWatch::rest_ends_data()
+{
+    QTest::addColumn<QEvent::Type>("type");
+    QTest::newRow("leaves") << QEvent::Leave;
+    QTest::newRow("presses") << QEvent::MouseButtonPress;
+    QTest::newRow("scrolls") << QEvent::Wheel;
+    QTest::newRow("types") << QEvent::KeyPress;
+    QTest::newRow("goes elsewhere") << QEvent::FocusOut;
+}
+
+void tst_HRRestWatch::rest_ends()
+{
+    QFETCH(QEvent::Type, type);
+    Fixture f;
+    f.move(f.window, QPoint(5, 5));
+    QVERIFY(!f.watch.holdsBack(&f.window, QEvent(type)));
+    QVERIFY(!f.holdsToolTipBack());
+
+    f.move(f.window, QPoint(5, 5));
+    f.move(f.window, QPoint(6, 6), Qt::LeftButton);
+    QVERIFY(!f.holdsToolTipBack());
+}
+
+void tst_HRRestWatch::window_mayGoMeanwhile()
+{
+    int delay = 1;
+    HRRestWatch watch([&delay] { return delay; });
+    auto gone = std::make_unique<Window>();
+    Window stays;
+    const QMouseEvent move(QEvent::MouseMove, QPoint(5, 5), Qt::NoButton, {}, {});
+    watch.holdsBack(gone.get(), move);
+    gone.reset();
+    const QHelpEvent toolTip(QEvent::ToolTip, QPoint(), QPoint());
+    QTRY_VERIFY(!watch.holdsBack(&stays, toolTip));
+    QVERIFY(stays.told.isEmpty());
+}
+
+QTEST_MAIN(tst_HRRestWatch)
+#include "tst_HRRestWatch.moc"
