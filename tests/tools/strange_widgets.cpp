@@ -14,15 +14,27 @@
 
 namespace {
 
-/// The popup that shows, without knowing of the library; null where none does.
-QWidget *popup()
+/// The popups of the library, which the program does not know.
+QWidgetList popups()
 {
+    QWidgetList popups;
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget *window : windows) {
-        if (window->isVisible() && window->inherits("Hintreels::HRWidget"))
-            return window;
+        if (window->inherits("Hintreels::HRWidget"))
+            popups.append(window);
     }
-    return nullptr;
+    return popups;
+}
+
+bool isPopupShown()
+{
+    return !popups().isEmpty() && popups().constFirst()->isVisible();
+}
+
+/// The last that happens in the application: routines that are added later come before.
+void tellAtEnd()
+{
+    std::printf("popups at the end %d\n", int(popups().size()));
 }
 
 /// Asks for the button's tooltip as Qt does, and prints how wide the popup is that comes of it, in
@@ -32,8 +44,8 @@ void rest(QWidget &button)
     const QPoint middle = button.rect().center();
     QHelpEvent event(QEvent::ToolTip, middle, button.mapToGlobal(middle));
     QCoreApplication::sendEvent(&button, &event);
-    const bool isShown = QTest::qWaitFor([] { return popup() != nullptr; });
-    std::printf("popup %d\n", isShown ? popup()->width() / 10 * 10 : 0);
+    const bool isShown = QTest::qWaitFor(isPopupShown);
+    std::printf("popup %d\n", isShown ? popups().constFirst()->width() / 10 * 10 : 0);
 }
 
 } // namespace
@@ -43,6 +55,7 @@ int main(int argc, char *argv[])
 {
     auto application = std::make_unique<QApplication>(argc, argv);
     const QString way = QString::fromLocal8Bit(argv[1]);
+    qAddPostRoutine(&tellAtEnd);
     {
         QPushButton button(QStringLiteral("Brew"));
         button.setObjectName(QStringLiteral("brew"));
@@ -57,6 +70,7 @@ int main(int argc, char *argv[])
             isOwnLoop ? loop.quit() : QCoreApplication::quit();
         });
         isOwnLoop ? loop.exec() : QCoreApplication::exec();
+        std::printf("popups after the loop %d\n", int(popups().size()));
     }
     if (way == QLatin1String("no end"))
         static_cast<void>(application.release());

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
-#include "CommandRun.h"
 #include "support/TestPackage.h"
+#include "tools/CommandRun.h"
 
 #include <QtTest>
 
@@ -71,9 +71,13 @@ void tst_AttachPlugin::hint_shows_data()
     QTest::addColumn<QString>("way");
     QTest::addColumn<QByteArray>("end");
 
-    QTest::newRow("application's loop") << "usual" << QByteArray("done\n");
-    QTest::newRow("loop of its own") << "own loop" << QByteArray("done\n");
-    QTest::newRow("application that is never deleted") << "no end" << QByteArray("done\n");
+    // The hints go before the application, with its loop where they can.
+    QTest::newRow("application's loop")
+        << "usual" << QByteArray("popups after the loop 0\npopups at the end 0\ndone\n");
+    QTest::newRow("loop of its own")
+        << "own loop" << QByteArray("popups after the loop 1\npopups at the end 0\ndone\n");
+    QTest::newRow("application that is never deleted")
+        << "no end" << QByteArray("popups after the loop 0\ndone\n");
     QTest::newRow("end in the midst of its loop") << "exit" << QByteArray();
 }
 

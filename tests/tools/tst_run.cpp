@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
-#include "CommandRun.h"
 #include "support/TestPackage.h"
+#include "tools/CommandRun.h"
 
 #include <QtTest>
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include <Hintreels/HRContext>
+#include <Hintreels/HRManager>
+#include <Hintreels/HRWidget>
 #include <Hintreels/HRWidgetsInterface>
 
 #include <QApplication>
@@ -9,6 +11,7 @@
 #include <QFileInfo>
 #include <QGenericPlugin>
 #include <QLocale>
+#include <QPointer>
 
 #include <cstdio>
 #include <utility>
@@ -38,7 +41,12 @@ AttachedHints *hints = nullptr; // there is one application at a time
 
 void stop()
 {
+    if (!hints)
+        return;
+    // The interface leaves its popup to the event loop, and there may be none any more.
+    const QPointer<QWidget> popup = hints->manager()->widget();
     delete std::exchange(hints, nullptr);
+    delete popup.data();
 }
 
 void start()
