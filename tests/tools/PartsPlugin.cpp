@@ -23,8 +23,9 @@ constexpr int pause = 200; // ms between two looks
 QRect areaOf(const HRCoveredPart &part)
 {
     const QWidget *widget = part.widget;
-    if (!widget || !widget->isVisible() || !part.area.isNull()
-        || qobject_cast<const QMenu *>(widget))
+    if (!widget || widget->visibleRegion().isEmpty())
+        return {};
+    if (!part.area.isNull() || qobject_cast<const QMenu *>(widget))
         return part.area;
     return { widget->mapToGlobal(QPoint()), widget->size() };
 }

@@ -106,9 +106,12 @@ QRect StrangeProgram::hover(const QString &key) const
 bool StrangeProgram::click(const QString &key) const
 {
     const QRect area = areaOf(key);
-    if (!area.isNull())
-        RealInput::click(area.center());
-    return !area.isNull();
+    if (area.isNull())
+        return false;
+    // What it opens is told of anew.
+    QFile::remove(m_home.filePath("parts"));
+    RealInput::click(area.center());
+    return true;
 }
 
 QRect StrangeProgram::areaOf(const QString &key) const
