@@ -41,6 +41,30 @@
         <source>Warning</source>
         <translation>تحذير</translation>
     </message>
+    <message>
+        <source>plus</source>
+        <translation>زائد</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>مقطع</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 ث</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>قيد التشغيل</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>متوقف مؤقتًا</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>انتهى</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

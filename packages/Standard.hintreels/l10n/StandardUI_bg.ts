@@ -41,6 +41,30 @@
         <source>Warning</source>
         <translation>Предупреждение</translation>
     </message>
+    <message>
+        <source>plus</source>
+        <translation>плюс</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>Клип</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 с</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>Възпроизвежда се</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>На пауза</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Завърши</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

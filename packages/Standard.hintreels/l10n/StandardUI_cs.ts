@@ -41,6 +41,30 @@
         <source>Warning</source>
         <translation>Varování</translation>
     </message>
+    <message>
+        <source>plus</source>
+        <translation>plus</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>Klip</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>Přehrává se</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Pozastaveno</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Na konci</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

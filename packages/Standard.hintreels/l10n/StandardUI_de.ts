@@ -41,6 +41,30 @@
         <source>Warning</source>
         <translation>Warnung</translation>
     </message>
+    <message>
+        <source>plus</source>
+        <translation>plus</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>Clip</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>Läuft</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Angehalten</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Zu Ende</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>
@@ -111,6 +135,25 @@
     <message>
         <source>Up</source>
         <translation>Auf</translation>
+    </message>
+</context>
+<context>
+    <name>SpokenKeys</name>
+    <message>
+        <source>Control</source>
+        <translation>Steuerung</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Position 1</translation>
     </message>
 </context>
 </TS>

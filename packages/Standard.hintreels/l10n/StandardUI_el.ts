@@ -41,6 +41,30 @@
         <source>Warning</source>
         <translation>Προειδοποίηση</translation>
     </message>
+    <message>
+        <source>plus</source>
+        <translation>συν</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>Κλιπ</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 δ</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>Αναπαράγεται</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Σε παύση</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Τέλος</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

@@ -41,6 +41,30 @@
         <source>Warning</source>
         <translation>Advertencia</translation>
     </message>
+    <message>
+        <source>plus</source>
+        <translation>más</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>Clip</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>Reproduciendo</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>En pausa</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Terminado</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>
@@ -103,6 +127,29 @@
     <message>
         <source>Up</source>
         <translation>Arriba</translation>
+    </message>
+</context>
+<context>
+    <name>SpokenKeys</name>
+    <message>
+        <source>Control</source>
+        <translation>Control</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Suprimir</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation>Insertar</translation>
+    </message>
+    <message>
+        <source>Page Up</source>
+        <translation>Retroceder página</translation>
+    </message>
+    <message>
+        <source>Page Down</source>
+        <translation>Avanzar página</translation>
     </message>
 </context>
 </TS>

@@ -41,6 +41,30 @@
         <source>Warning</source>
         <translation>Varoitus</translation>
     </message>
+    <message>
+        <source>plus</source>
+        <translation>plus</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>Leike</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>Toistetaan</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Tauolla</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Lopussa</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

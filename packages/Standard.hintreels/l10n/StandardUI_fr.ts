@@ -41,6 +41,30 @@
         <source>Warning</source>
         <translation>Avertissement</translation>
     </message>
+    <message>
+        <source>plus</source>
+        <translation>plus</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>Clip</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>En lecture</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>En pause</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Terminé</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>
@@ -111,6 +135,41 @@
     <message>
         <source>Up</source>
         <translation>Haut</translation>
+    </message>
+</context>
+<context>
+    <name>SpokenKeys</name>
+    <message>
+        <source>Control</source>
+        <translation>Contrôle</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Suppression</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation>Insertion</translation>
+    </message>
+    <message>
+        <source>Escape</source>
+        <translation>Échappement</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Majuscule</translation>
+    </message>
+    <message>
+        <source>Page Up</source>
+        <translation>Page précédente</translation>
+    </message>
+    <message>
+        <source>Page Down</source>
+        <translation>Page suivante</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Impression d’écran</translation>
     </message>
 </context>
 </TS>

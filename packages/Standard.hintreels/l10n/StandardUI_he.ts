@@ -41,6 +41,30 @@
         <source>Warning</source>
         <translation>אזהרה</translation>
     </message>
+    <message>
+        <source>plus</source>
+        <translation>פלוס</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>קטע</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 שנ׳</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>מתנגן</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>מושהה</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>הסתיים</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

@@ -41,6 +41,30 @@
         <source>Warning</source>
         <translation>Figyelmeztetés</translation>
     </message>
+    <message>
+        <source>plus</source>
+        <translation>plusz</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>Klip</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 mp</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>Lejátszás alatt</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Szüneteltetve</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Véget ért</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

@@ -41,6 +41,30 @@
         <source>Warning</source>
         <translation>Peringatan</translation>
     </message>
+    <message>
+        <source>plus</source>
+        <translation>plus</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>Klip</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 dtk</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>Diputar</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Dijeda</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Selesai</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

@@ -41,6 +41,30 @@
         <source>Warning</source>
         <translation>Avviso</translation>
     </message>
+    <message>
+        <source>plus</source>
+        <translation>più</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>Clip</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>In riproduzione</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>In pausa</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Terminato</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

@@ -41,6 +41,30 @@
         <source>Warning</source>
         <translation>警告</translation>
     </message>
+    <message>
+        <source>plus</source>
+        <translation>プラス</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>クリップ</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>再生中</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>一時停止中</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>終了</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

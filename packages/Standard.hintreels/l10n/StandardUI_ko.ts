@@ -41,6 +41,30 @@
         <source>Warning</source>
         <translation>경고</translation>
     </message>
+    <message>
+        <source>plus</source>
+        <translation>플러스</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>클립</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1초</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>재생 중</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>일시 정지됨</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>끝남</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

@@ -41,6 +41,30 @@
         <source>Warning</source>
         <translation>Advarsel</translation>
     </message>
+    <message>
+        <source>plus</source>
+        <translation>pluss</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>Klipp</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>Spilles av</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>På pause</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Ferdig</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

@@ -41,6 +41,30 @@
         <source>Warning</source>
         <translation>Waarschuwing</translation>
     </message>
+    <message>
+        <source>plus</source>
+        <translation>plus</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>Clip</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>Speelt af</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Gepauzeerd</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Afgelopen</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

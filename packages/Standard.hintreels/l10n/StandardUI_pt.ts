@@ -41,6 +41,30 @@
         <source>Warning</source>
         <translation>Aviso</translation>
     </message>
+    <message>
+        <source>plus</source>
+        <translation>mais</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>Clipe</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>Em reprodução</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Em pausa</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Terminado</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

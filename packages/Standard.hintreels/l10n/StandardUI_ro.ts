@@ -41,6 +41,30 @@
         <source>Warning</source>
         <translation>Avertisment</translation>
     </message>
+    <message>
+        <source>plus</source>
+        <translation>plus</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>Clip</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>Se redă</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>În pauză</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Încheiat</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

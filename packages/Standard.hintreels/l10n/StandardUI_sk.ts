@@ -41,6 +41,30 @@
         <source>Warning</source>
         <translation>Varovanie</translation>
     </message>
+    <message>
+        <source>plus</source>
+        <translation>plus</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>Klip</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>Prehráva sa</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Pozastavené</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Na konci</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

@@ -41,6 +41,30 @@
         <source>Warning</source>
         <translation>Varning</translation>
     </message>
+    <message>
+        <source>plus</source>
+        <translation>plus</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>Klipp</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>Spelas upp</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Pausad</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Slut</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

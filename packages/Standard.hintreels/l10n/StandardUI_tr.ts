@@ -41,6 +41,30 @@
         <source>Warning</source>
         <translation>Uyarı</translation>
     </message>
+    <message>
+        <source>plus</source>
+        <translation>artı</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>Klip</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 sn</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>Oynatılıyor</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Duraklatıldı</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Bitti</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

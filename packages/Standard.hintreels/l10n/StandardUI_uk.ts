@@ -41,6 +41,30 @@
         <source>Warning</source>
         <translation>Попередження</translation>
     </message>
+    <message>
+        <source>plus</source>
+        <translation>плюс</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>Кліп</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 с</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>Відтворюється</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Призупинено</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Завершено</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

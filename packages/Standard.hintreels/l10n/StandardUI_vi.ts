@@ -41,6 +41,30 @@
         <source>Warning</source>
         <translation>Cảnh báo</translation>
     </message>
+    <message>
+        <source>plus</source>
+        <translation>cộng</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>Clip</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 giây</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>Đang phát</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Đã tạm dừng</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Đã kết thúc</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

@@ -41,6 +41,30 @@
         <source>Warning</source>
         <translation>警告</translation>
     </message>
+    <message>
+        <source>plus</source>
+        <translation>加</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>短片</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>播放中</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>已暫停</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>已結束</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

@@ -13,4 +13,6 @@ Text {
     textFormat: Text.PlainText
     wrapMode: Text.Wrap
     horizontalAlignment: Text.AlignHCenter
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
 }

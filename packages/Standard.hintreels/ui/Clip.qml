@@ -19,6 +19,7 @@ Item {
     readonly property alias ended: video.ended
     readonly property alias failed: video.failed
     readonly property alias time: video.time
+    readonly property alias length: video.length
     readonly property bool shown: video.implicitWidth > 0
     // Where the reader has gone by hand, until another picture is shown; below 0 where nowhere.
     property real aim: -1

@@ -12,6 +12,11 @@ Item {
     property var block
     property bool watched: true
     readonly property alias failed: player.failed
+    readonly property var spoken: hint.words.spoken
+    readonly property string spokenState: spoken.seconds ? [
+        spoken.seconds.arg(Math.round(player.length)),
+        player.ended ? spoken.ended : player.wanted ? spoken.playing : spoken.paused
+    ].join(", ") : ""
 
     Clip {
         id: player

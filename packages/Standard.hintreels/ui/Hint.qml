@@ -44,6 +44,11 @@ QtObject {
         taken()
     }
 
+    // Where a link leads, unless its text says so, or what stands behind that.
+    function unseenTarget(target, text) {
+        return target === text || reader.shownTarget(target, text) ? "" : target
+    }
+
     onElementChanged: take()
 
     readonly property Connections decisions: Connections {

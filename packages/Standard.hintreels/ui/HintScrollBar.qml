@@ -15,6 +15,7 @@ T.ScrollBar {
     padding: look.step
     minimumSize: 0.1
     visible: size < 1
+    Accessible.ignored: true // what is out of sight is read as well
 
     contentItem: Rectangle {
         radius: width / 2

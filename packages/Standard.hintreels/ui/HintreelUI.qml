@@ -73,6 +73,7 @@ Rectangle {
                 availableWidth: parent.width
                 visible: hint.documentation
                 text: hint.words.documentation + hint.reader.shownTarget(hint.documentation, "")
+                target: hint.documentation
                 onTriggered: hint.view.openExternalResource(hint.documentation)
             }
         }

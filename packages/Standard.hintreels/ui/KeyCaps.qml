@@ -22,7 +22,8 @@ Item {
     width: Math.min(naturalWidth, availableWidth)
     height: flow.height
     Accessible.role: Accessible.StaticText
-    Accessible.name: shortcut
+    Accessible.name: hint.words.spoken.plus ? hint.reader.spokenKeys(shortcut, hint.words.spoken.plus)
+        : shortcut
 
     Flow {
         id: flow

@@ -23,6 +23,8 @@ Item {
         horizontalAlignment: Text.AlignLeft
         textFormat: Text.PlainText
         wrapMode: Text.Wrap
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text.text
     }
 
     KeyCaps {

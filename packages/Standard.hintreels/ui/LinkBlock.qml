@@ -18,6 +18,7 @@ Item {
         availableWidth: link.width
         text: link.slot.block.text
             + hint.reader.shownTarget(link.slot.block.to, link.slot.block.text)
+        target: link.slot.block.to
         onTriggered: hint.view.openExternalResource(link.slot.block.to)
     }
 }

@@ -8,12 +8,14 @@ Pressable {
     id: row
 
     property alias text: label.text
+    property string target
     property real availableWidth
 
     name: text
     width: label.width + look.step + icon.width
     height: label.height
     Accessible.role: Accessible.Link
+    Accessible.description: hint.unseenTarget(target, text)
 
     Text {
         id: label

@@ -14,13 +14,14 @@ TextEdit {
     property color background: look.background
     readonly property color linkColor: look.readable(look.palette.highlight, background)
     property int mostLinks: 100
-    property var shown: ({ "links": [], "pictures": [] })
+    property var shown: ({})
     property string linkUnderPointer
 
     function refill() {
         shown = hint.reader.showMarkdown(textDocument, markdown, {
             "link": linkColor, "codeBackground": look.code, "spacing": 2 * look.step,
-            "room": Qt.size(width, look.highestPicture), "links": mostLinks
+            "room": Qt.size(width, look.highestPicture), "links": mostLinks,
+            "spoken": hint.reader.spoken
         }, hint.view.findResource)
     }
 
@@ -36,7 +37,6 @@ TextEdit {
     selectByMouse: hint.view.reserved
     selectionColor: look.palette.highlight
     selectedTextColor: look.palette.highlightedText
-    Accessible.role: Accessible.StaticText
 
     onLinkActivated: link => hint.view.openExternalResource(link)
     onLinkHovered: link => linkUnderPointer = link
@@ -54,11 +54,30 @@ TextEdit {
         function onMeasuredChanged() { Qt.callLater(edit.refill) }
     }
 
+    Connections {
+        target: edit.hint.reader
+        function onSpokenChanged() { Qt.callLater(edit.refill) }
+    }
+
     // Once, when all colours of a new palette are there.
     Connections {
         target: edit.look
         function onLinkChanged() { Qt.callLater(edit.refill) }
         function onCodeChanged() { Qt.callLater(edit.refill) }
+    }
+
+    // A screen reader's user comes upon links and pictures inside the passages.
+    Repeater {
+        model: edit.shown.passages
+
+        TextPassage {
+            required property var modelData
+
+            look: edit.look
+            hint: edit.hint
+            text: edit
+            place: modelData
+        }
     }
 
     Repeater {

@@ -16,6 +16,8 @@ Rectangle {
     implicitHeight: text.y + text.height + 2 * look.step
     radius: look.radius
     color: look.mix(accent, 0.10)
+    Accessible.role: Accessible.Note
+    Accessible.name: title.text
 
     Rectangle {
         anchors.left: parent.left

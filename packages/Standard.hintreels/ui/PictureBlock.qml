@@ -29,6 +29,7 @@ Column {
         asynchronous: true
         Accessible.role: Accessible.Graphic
         Accessible.name: figure.slot.block.alt || ""
+        Accessible.ignored: !figure.slot.block.alt
 
         RoundedCorners {
             look: figure.slot.look

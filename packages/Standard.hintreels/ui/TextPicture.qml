@@ -8,6 +8,8 @@ import QtQuick.Window 2.15
 Image {
     id: picture
 
+    property Look look
+    property Hint hint
     property TextEdit text
     property var place
     readonly property rect before: text.positionToRectangle(place.start, text.width)
@@ -23,6 +25,7 @@ Image {
     asynchronous: true
     Accessible.role: Accessible.Graphic
     Accessible.name: place.text
+    Accessible.ignored: !place.text
 
     FontMetrics {
         id: metrics

@@ -72,5 +72,7 @@ Column {
         textFormat: Text.PlainText
         wrapMode: Text.Wrap
         lineHeight: 1.1
+        Accessible.role: Accessible.Paragraph
+        Accessible.name: text
     }
 }

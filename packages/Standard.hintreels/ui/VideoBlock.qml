@@ -27,6 +27,7 @@ Column {
     Item {
         id: frame
 
+        property string spokenState
         readonly property real seenHeight:
             Math.min(height, figure.slot.sightTop + figure.slot.sightHeight)
             - Math.max(0, figure.slot.sightTop)
@@ -36,7 +37,8 @@ Column {
         height: figure.shown ? Math.ceil(width * figure.header.height / figure.header.width) : 0
         clip: true
         Accessible.role: Accessible.Animation
-        Accessible.name: figure.slot.block.alt || ""
+        Accessible.name: figure.slot.block.alt || figure.slot.hint.words.spoken.clip || ""
+        Accessible.description: spokenState
 
         Loader {
             id: stage
@@ -46,6 +48,7 @@ Column {
                 look: figure.slot.look
                 hint: figure.slot.hint
                 block: figure.slot.block
+                onSpokenStateChanged: frame.spokenState = spokenState
                 // Half of it, or half of what the popup shows, is enough to follow it.
                 watched: frame.seenHeight
                     >= Math.min(frame.height, figure.slot.sightHeight) / 2

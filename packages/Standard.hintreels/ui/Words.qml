@@ -23,6 +23,11 @@ QtObject {
     readonly property var noteTitles: ({
         "tip": own("Tip"), "note": own("Note"), "warning": own("Warning")
     })
+    // What is heard only, and asked for only then.
+    readonly property var spoken: reader.spoken ? {
+        "plus": own("plus"), "clip": own("Clip"), "seconds": own("%1 s"),
+        "playing": own("Playing"), "paused": own("Paused"), "ended": own("Ended")
+    } : {}
 
     function content(text) {
         return said(text, "Content")

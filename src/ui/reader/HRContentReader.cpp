@@ -12,6 +12,7 @@
 #include "ui/reader/pictureFile_p.h"
 #include "ui/reader/readableColor_p.h"
 #include "ui/reader/textCut_p.h"
+#include "ui/reader/textPassages_p.h"
 #include "ui/reader/textStyle_p.h"
 #include "video/captions_p.h"
 #include "video/clipSize_p.h"
@@ -74,9 +75,13 @@ HRContentReader::HRContentReader(SettingsSource settings, QObject *parent, FileG
 {
     connect(m_pictures, &HRMeasuring::measured, this, &HRContentReader::tellMeasured);
     connect(m_clips, &HRMeasuring::measured, this, &HRContentReader::tellMeasured);
+    QAccessible::installActivationObserver(this);
 }
 
-HRContentReader::~HRContentReader() = default;
+HRContentReader::~HRContentReader()
+{
+    QAccessible::removeActivationObserver(this);
+}
 
 void HRContentReader::setHostColors(const QVariantMap &colors)
 {
@@ -148,6 +153,19 @@ QVariantList HRContentReader::keyCaps(const QString &shortcut) const
         strokes.append(QVariant(keys));
     }
     return strokes;
+}
+
+QString HRContentReader::spokenKeys(const QString &shortcut, const QString &plus) const
+{
+    QStringList strokes;
+    QVector<QStringList> caps = keyCapsOf(shortcut);
+    const QLocale locale = m_settings().locales.first();
+    for (QStringList &keys : caps) {
+        for (QString &key : keys)
+            key = m_words->spokenKey(locale, key);
+        strokes.append(keys.join(QChar(u' ') + plus + u' '));
+    }
+    return strokes.join(QStringLiteral(", "));
 }
 
 QVariantMap HRContentReader::picture(const QString &path) const
@@ -232,8 +250,15 @@ QVariantMap HRContentReader::showMarkdown(QQuickTextDocument *document, const QS
             look.value(QStringLiteral("spacing")).toReal() },
         HRMarkdownGate(find, look.value(QStringLiteral("links")).toInt()));
     tellTargets(*text);
+    if (look.value(QStringLiteral("spoken")).toBool())
+        return { { QStringLiteral("passages"), passagesIn(*text) } };
     return { { QStringLiteral("links"), linksIn(*text) },
         { QStringLiteral("pictures"), picturesIn(*text) } };
+}
+
+void HRContentReader::accessibilityActiveChanged(bool)
+{
+    Q_EMIT spokenChanged();
 }
 
 /// From the last link to the first, so that the positions of the others stay.

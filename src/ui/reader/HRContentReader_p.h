@@ -8,6 +8,7 @@
 #include "ui/reader/HRMarkdownGate_p.h"
 #include "ui/reader/HRSceneSettings_p.h"
 
+#include <QAccessible>
 #include <QColor>
 #include <QJSValue>
 #include <QObject>
@@ -31,7 +32,7 @@ class HRUiWords;
 /// QML knows it as the context property "hintreelReader". It keeps the sizes of files until the
 /// next hint is read.
 /// GUI thread only.
-class HRContentReader : public QObject
+class HRContentReader : public QObject, private QAccessible::ActivationObserver
 {
     Q_OBJECT
     Q_PROPERTY(int measured READ measured NOTIFY measuredChanged)
@@ -40,6 +41,7 @@ class HRContentReader : public QObject
     Q_PROPERTY(bool repeatsClips READ repeatsClips NOTIFY decided)
     Q_PROPERTY(bool showsCaptions READ showsCaptions NOTIFY decided)
     Q_PROPERTY(double textScale READ textScale NOTIFY decided)
+    Q_PROPERTY(bool spoken READ isSpoken NOTIFY spokenChanged)
 
 public:
     using SettingsSource = std::function<HRSceneSettings()>;
@@ -74,6 +76,13 @@ public:
     /// The strokes of a shortcut or gesture, each a list of keys: see Hintreels::keyCapsOf(). Keys
     /// are named in the reader's language.
     Q_INVOKABLE QVariantList keyCaps(const QString &shortcut) const;
+
+    /// A shortcut or gesture in words, "Control plus Shift plus L": screen readers leave signs out.
+    /// @param plus the reader's word between two keys
+    Q_INVOKABLE QString spokenKeys(const QString &shortcut, const QString &plus) const;
+
+    /// Whether assistive technology is at work. What only that can tell is left out otherwise.
+    bool isSpoken() const { return QAccessible::isActive(); }
 
     /// The "url", "width" and "height" of a picture file in pixels, an empty map where it is not a
     /// picture that can be shown, or not measured yet: see Hintreels::pictureSize().
@@ -146,7 +155,7 @@ public:
     /// returns
     ///     the file
     /// @return a list of maps under "links", see linksIn(), and one under "pictures", see
-    /// picturesIn()
+    /// picturesIn(); or, where "spoken" is set in the look, one under "passages", see passagesIn()
     Q_INVOKABLE QVariantMap showMarkdown(QQuickTextDocument *document, const QString &markdown,
         const QVariantMap &look, const QJSValue &findPicture = QJSValue()) const;
 
@@ -158,7 +167,10 @@ Q_SIGNALS:
     /// isSmall() and shownBlocks() have other answers than when the hint was read.
     void detailChanged();
 
+    void spokenChanged();
+
 private:
+    void accessibilityActiveChanged(bool active) override;
     HRReaderSettings::Detail detail() const;
     void tellMeasured();
     void tellTargets(QTextDocument &text) const;

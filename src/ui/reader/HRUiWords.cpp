@@ -22,8 +22,8 @@ QString languageOf(const QLocale &locale)
     return isTraditional ? QStringLiteral("zh_TW") : QStringLiteral("zh_CN");
 }
 
-/// The names that are translated are those of QKeySequence; writers use others as well.
-QString usualName(const QString &key)
+/// Names of keys in full, and what QKeySequence calls them.
+const QHash<QString, QString> &usualNames()
 {
     static const QHash<QString, QString> names{
         { QStringLiteral("Control"), QStringLiteral("Ctrl") },
@@ -33,7 +33,13 @@ QString usualName(const QString &key)
         { QStringLiteral("Page Up"), QStringLiteral("PgUp") },
         { QStringLiteral("Page Down"), QStringLiteral("PgDown") },
     };
-    return names.value(key, key);
+    return names;
+}
+
+/// The names that are translated are those of QKeySequence; writers use others as well.
+QString usualName(const QString &key)
+{
+    return usualNames().value(key, key);
 }
 
 } // namespace
@@ -48,6 +54,16 @@ QString HRUiWords::key(const QLocale &locale, const QString &name)
 {
     const QString key = said(locale, "KeyCaps", usualName(name));
     return key.isEmpty() ? name : key;
+}
+
+QString HRUiWords::spokenKey(const QLocale &locale, const QString &name)
+{
+    const QString full = usualNames().key(name, name);
+    const QString spoken = said(locale, "SpokenKeys", full);
+    if (!spoken.isEmpty())
+        return spoken;
+    const QString onCap = said(locale, "KeyCaps", usualName(name));
+    return onCap.isEmpty() ? full : onCap;
 }
 
 QString HRUiWords::said(const QLocale &locale, const char *context, const QString &text)

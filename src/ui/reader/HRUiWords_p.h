@@ -23,6 +23,9 @@ public:
     /// What stands on a key, which is named in English; the name itself where there is no other.
     QString key(const QLocale &locale, const QString &name);
 
+    /// How a key is said, which is named in English: without the abbreviation that stands on it.
+    QString spokenKey(const QLocale &locale, const QString &name);
+
 private:
     QString said(const QLocale &locale, const char *context, const QString &text);
     void load(const QString &language);

@@ -184,15 +184,20 @@ QString readSummary(const HRXmlElement &element)
 
 } // namespace
 
+HRHintGist readGist(const HRXmlElement &element)
+{
+    return { oneLine(element.attribute(QStringLiteral("title"))), readSummary(element) };
+}
+
 QVariantMap readHint(const HRXmlElement &element, const HRSay &say)
 {
     HRHintRoom room;
-    const QString title
-        = room.take(say(oneLine(element.attribute(QStringLiteral("title")))), longestTitle);
+    const HRHintGist gist = readGist(element);
+    const QString title = room.take(say(gist.title), longestTitle);
     const QString shortcut
         = room.take(oneLine(element.attribute(QStringLiteral("shortcut"))), longestLine);
     takeKeys(shortcut, &room);
-    const QString summary = room.take(say(readSummary(element)), longestLine);
+    const QString summary = room.take(say(gist.summary), longestLine);
     return {
         { QStringLiteral("title"), title },
         { QStringLiteral("shortcut"), shortcut },

@@ -15,6 +15,15 @@ class HRXmlElement;
 /// Makes of a text in the content what the reader sees, such as its translation.
 using HRSay = std::function<QString(const QString &text)>;
 
+/// What a hint reel is called, and what it says in a line; both as the content has it.
+struct HRHintGist
+{
+    QString title;
+    QString summary;
+};
+
+HRHintGist readGist(const HRXmlElement &element);
+
 /// What the standard UI shows of a hint reel, as plain values: see HRContentReader::read().
 ///
 /// However much the content holds, a popup shows no more than somebody could read and the UI can

@@ -120,17 +120,30 @@ void setMarkdown(QTextDocument &document, const QString &markdown, const HRTextL
     whole.endEditBlock();
 }
 
+QVariantMap linkOf(const HRTextRun &run)
+{
+    return { { QStringLiteral("href"), run.format.anchorHref() },
+        { QStringLiteral("text"), run.text }, { QStringLiteral("start"), run.position },
+        { QStringLiteral("end"), run.end() } };
+}
+
+QVariantMap pictureOf(const HRTextRun &run)
+{
+    const QTextImageFormat picture = run.format.toImageFormat();
+    return { { QStringLiteral("url"), HRMarkdownGate::pictureIn(picture) },
+        { QStringLiteral("text"), picture.property(QTextFormat::ImageAltText) },
+        { QStringLiteral("start"), run.position }, { QStringLiteral("width"), picture.width() },
+        { QStringLiteral("height"), picture.height() } };
+}
+
 QVariantList linksIn(const QTextDocument &document)
 {
     QVariantList links;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         const QVector<HRTextRun> runs = runsOf(block);
         for (const HRTextRun &run : runs) {
-            if (!run.format.isAnchor())
-                continue;
-            links.append(QVariantMap{ { QStringLiteral("href"), run.format.anchorHref() },
-                { QStringLiteral("text"), run.text }, { QStringLiteral("start"), run.position },
-                { QStringLiteral("end"), run.end() } });
+            if (run.format.isAnchor())
+                links.append(linkOf(run));
         }
     }
     return links;
@@ -142,14 +155,8 @@ QVariantList picturesIn(const QTextDocument &document)
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         const QVector<HRTextRun> runs = runsOf(block);
         for (const HRTextRun &run : runs) {
-            const QTextImageFormat picture = run.format.toImageFormat();
-            if (picture.isValid())
-                pictures.append(
-                    QVariantMap{ { QStringLiteral("url"), HRMarkdownGate::pictureIn(picture) },
-                        { QStringLiteral("text"), picture.property(QTextFormat::ImageAltText) },
-                        { QStringLiteral("start"), run.position },
-                        { QStringLiteral("width"), picture.width() },
-                        { QStringLiteral("height"), picture.height() } });
+            if (run.format.isImageFormat())
+                pictures.append(pictureOf(run));
         }
     }
     return pictures;

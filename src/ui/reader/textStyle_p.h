@@ -14,6 +14,8 @@ QT_END_NAMESPACE
 
 namespace Hintreels {
 
+struct HRTextRun;
+
 /// How Markdown looks beyond its font and text colour.
 struct HRTextLook
 {
@@ -32,11 +34,17 @@ struct HRTextLook
 void setMarkdown(QTextDocument &document, const QString &markdown, const HRTextLook &look,
     const HRMarkdownGate &gate = HRMarkdownGate());
 
-/// A map for each link, in reading order: "href", "text", and the positions "start" and "end".
+/// What the UI needs of a link: "href", "text", and the positions "start" and "end".
+QVariantMap linkOf(const HRTextRun &run);
+
+/// What the UI needs of the place of a picture: "url", "text" (which says what it shows), the
+/// position "start", and "width" and "height" in pixels.
+QVariantMap pictureOf(const HRTextRun &run);
+
+/// A map for each link, in reading order: see linkOf().
 QVariantList linksIn(const QTextDocument &document);
 
-/// A map for each place of a picture, in reading order: "url", "text" (which says what it shows),
-/// the position "start", and "width" and "height" in pixels.
+/// A map for each place of a picture, in reading order: see pictureOf().
 QVariantList picturesIn(const QTextDocument &document);
 
 } // namespace Hintreels

@@ -25,6 +25,8 @@ private Q_SLOTS:
     void word_followsTheLocale();
     void key_isNamedInTheReadersLanguage_data();
     void key_isNamedInTheReadersLanguage();
+    void spokenKey_isNoAbbreviation_data();
+    void spokenKey_isNoAbbreviation();
 };
 
 namespace {
@@ -147,6 +149,39 @@ void tst_HRUiWords::key_isNamedInTheReadersLanguage()
     QFETCH(QString, name);
     HRUiWords words;
     QTEST(words.key(QLocale(locale), name), "cap");
+}
+
+void tst_HRUiWords::spokenKey_isNoAbbreviation_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("spoken");
+    QTest::newRow("English") << "en_US"
+                             << "Ctrl"
+                             << "Control";
+    QTest::newRow("in full already") << "en_US"
+                                     << "Control"
+                                     << "Control";
+    QTest::newRow("German has a word of its own") << "de_DE"
+                                                  << "Ctrl"
+                                                  << "Steuerung";
+    QTest::newRow("German says what stands on it") << "de_DE"
+                                                   << "Shift"
+                                                   << "Umschalt";
+    QTest::newRow("Arabic has no word for it") << "ar_EG"
+                                               << "Del"
+                                               << "Delete";
+    QTest::newRow("a letter") << "de_DE"
+                              << "L"
+                              << "L";
+}
+
+void tst_HRUiWords::spokenKey_isNoAbbreviation()
+{
+    QFETCH(QString, locale);
+    QFETCH(QString, name);
+    HRUiWords words;
+    QTEST(words.spokenKey(QLocale(locale), name), "spoken");
 }
 
 QTEST_GUILESS_MAIN(tst_HRUiWords)
