@@ -20,6 +20,7 @@ const QPair<contextKey, QVariant> defaults[] = {
     { hostColorsKey, true },
     { reportBrokenFilesKey, true },
     { requireUiKey, true },
+    { spokenHintsKey, true },
 };
 
 } // namespace

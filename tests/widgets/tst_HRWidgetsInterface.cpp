@@ -10,6 +10,7 @@
 #include "widgets/HRWidgetsInterface.h"
 #include "widgets/PartsWindow.h"
 
+#include <QAccessible>
 #include <QHelpEvent>
 #include <QtTest>
 
@@ -129,6 +130,7 @@ private Q_SLOTS:
     void position_isTheEvents();
     void fallback_isShown_forWhatHasNoName();
     void settings_areOn_unlessHostSetsThem();
+    void hint_isNotSpoken_whileNobodyListens();
     void pinnedHint_getsAWindowOfItsName();
     void filter_isOff_whereHostSaysSo();
     void managerFilter_isReplaced();
@@ -253,12 +255,22 @@ void tst_HRWidgetsInterface::settings_areOn_unlessHostSetsThem()
     QVERIFY(all.context().get(applicationFilterKey, false).toBool());
     QCOMPARE(all.context().get(placementKey, 0).toInt(), int(placementBeside));
     for (const int key : { popupPressesKey, nativeDismissalKey, hostToolTipsKey, hostColorsKey,
-             reportBrokenFilesKey, requireUiKey })
+             reportBrokenFilesKey, requireUiKey, spokenHintsKey })
         QVERIFY(all.context().get(key, false).toBool());
+    QVERIFY(!all.context().get(announceHoverKey, false).toBool());
     QVERIFY(context.keys().isEmpty());
     context.set(ownFilesOnlyKey, false);
     Host some(context, {});
     QVERIFY(!some.context().get(ownFilesOnlyKey, true).toBool());
+}
+
+void tst_HRWidgetsInterface::hint_isNotSpoken_whileNobodyListens()
+{
+    Fixture f("<hintreel key='size' title='Size'/>", { { announceHoverKey, true } });
+    QVERIFY(f.hover(f.window->ui.size));
+    QVERIFY(!QAccessible::isActive());
+    QCOMPARE(f.popup()->accessibleName(), QString());
+    QCOMPARE(f.window->ui.size->accessibleDescription(), QString());
 }
 
 void tst_HRWidgetsInterface::pinnedHint_getsAWindowOfItsName()

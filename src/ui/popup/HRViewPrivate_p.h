@@ -58,6 +58,7 @@ struct HRViewPrivate
 
     HRView *q;
     QPointer<HRManager> manager;
+    QPointer<QWidget> popup; // that holds the view
     HRContent content;
     QString packageRoot;
     bool stayOpen = false;

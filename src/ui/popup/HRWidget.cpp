@@ -80,6 +80,7 @@ void HRWidget::setView(HRView *view)
         Qt::QueuedConnection);
     // A press inside a popup leaves the keyboard focus where it is.
     view->setFlag(Qt::WindowDoesNotAcceptFocus, !d->reserved);
+    HRViewPrivate::of(*view).popup = this;
     view->setViewPos(0, 0);
 }
 
@@ -242,6 +243,7 @@ void HRWidget::moveEvent(QMoveEvent *)
 void HRWidget::hideEvent(QHideEvent *)
 {
     d->stopHiding();
+    d->spoken.leave();
     if (!d->view)
         return;
     d->view->releaseOverrideCursors();

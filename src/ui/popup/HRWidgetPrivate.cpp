@@ -29,6 +29,7 @@ HRWidgetPrivate::HRWidgetPrivate(HRWidget *widget, HRManager *hrManager, QWidget
     : q(widget)
     , manager(hrManager)
     , reference(referenceWidget)
+    , spoken(*widget)
     , input(*widget)
     , fade(widget)
     , timer(new QTimer(widget))
@@ -61,15 +62,22 @@ bool HRWidgetPrivate::showWithContent(QObject *object, const QRect &part, const 
     if (!guarded || !view)
         return true;
     const bool isLoaded = HRViewPrivate::of(*view).ui.load();
-    if (!guarded || !view)
-        return true;
+    return !guarded || !view || appear(isLoaded);
+}
+
+/// @return false where there is nothing to show
+bool HRWidgetPrivate::appear(bool isLoaded)
+{
     if (!isLoaded) {
         q->hide();
         return false;
     }
+    const QPointer<HRWidget> guarded = q;
     takeInContent();
     beginSmall();
     q->showAnimated();
+    if (guarded)
+        spoken.tell();
     return true;
 }
 
@@ -236,6 +244,7 @@ void HRWidgetPrivate::becomeOrdinaryWindow()
     reserved = true;
     smallStart.end();
     stopHiding();
+    spoken.leave();
     QObject::disconnect(goingWithWindow);
     q->setWindowOpacity(1.0);
     q->setAttribute(Qt::WA_ShowWithoutActivating, false);

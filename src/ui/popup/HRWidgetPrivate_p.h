@@ -11,6 +11,7 @@
 #include "ui/popup/HRPopupFade_p.h"
 #include "ui/popup/HRPopupInput_p.h"
 #include "ui/popup/HRSmallStart_p.h"
+#include "ui/popup/HRSpokenHint_p.h"
 #include "ui/popup/HRView.h"
 #include "ui/popup/HRViewEmbedding_p.h"
 #include "ui/popup/HRWidget.h"
@@ -43,6 +44,7 @@ struct HRWidgetPrivate
     /// @return true where nobody else may see the event
     bool takeEvent(QObject &watched, QEvent &event);
 
+    bool appear(bool isLoaded);
     QRect screen() const;
     bool stays() const;
     double hideDelay() const;
@@ -88,6 +90,7 @@ struct HRWidgetPrivate
     QPoint hovered; // where the pointer rested that the hint came for, global
     QRect area; // of the part that the hint belongs to, global; null for the whole reference
     std::optional<HRBesidePlacement> beside; // of the hint on show, where it asks for that
+    HRSpokenHint spoken;
     HRPopupInput input;
     HRHostColors hostColors;
     HRPopupFade fade;
