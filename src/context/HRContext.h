@@ -86,7 +86,7 @@ enum contextKey : int
     requireUiKey = 10013, ///< bool, false: a hint whose QML root file is missing or broken is no
                           ///< hint
     announceHoverKey = 10020, ///< bool, false: assistive technology is told of each hint that
-                               ///< spokenHintsKey lets it find, not only of those shown by a key
+                              ///< spokenHintsKey lets it find, not only of those shown by a key
     spokenHintsKey = 10021, ///< bool, false: while assistive technology is at work, the popup is
                             ///< named and described by its hint, and so is the widget that the hint
                             ///< belongs to
