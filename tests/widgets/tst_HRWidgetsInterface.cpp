@@ -132,6 +132,7 @@ private Q_SLOTS:
     void settings_areOn_unlessHostSetsThem();
     void hint_isNotSpoken_whileNobodyListens();
     void pinnedHint_getsAWindowOfItsName();
+    void window_isMade_forPinnedHintsOnly();
     void filter_isOff_whereHostSaysSo();
     void managerFilter_isReplaced();
     void hostsKey_wins();
@@ -286,6 +287,18 @@ void tst_HRWidgetsInterface::pinnedHint_getsAWindowOfItsName()
     QTRY_VERIFY(!popup);
 }
 
+void tst_HRWidgetsInterface::window_isMade_forPinnedHintsOnly()
+{
+    Fixture f(entry("size"));
+    QVERIFY(!f.host->createWindow(reservedPopupWindow)); // nothing is shown yet
+    QVERIFY(f.hover(f.window->ui.size));
+    QVERIFY(!f.host->createWindow(HRWindowType(reservedPopupWindow + 1)));
+    const std::unique_ptr<QWidget> window(f.host->createWindow(reservedPopupWindow));
+    QVERIFY(window && window->isWindow());
+    f.popup()->setView(nullptr);
+    QVERIFY(!f.host->createWindow(reservedPopupWindow));
+}
+
 void tst_HRWidgetsInterface::filter_isOff_whereHostSaysSo()
 {
     Fixture f(entry("size"), { { applicationFilterKey, false } });
@@ -343,6 +356,7 @@ void tst_HRWidgetsInterface::keyForObject_names_whatAnObjectStandsFor()
     QCOMPARE(f.host->keyForObject(ui.swatch), QString("ink"));
     QCOMPARE(f.host->keyForObject(ui.canvas->viewport()), QString("canvas"));
     QCOMPARE(f.host->keyForObject(ui.editFind), QString("finder"));
+    QCOMPARE(f.host->keyForObject(ui.fileOpen), QString("fileOpen"));
     QCOMPARE(f.host->keyForObject(nullptr), QString());
 }
 
@@ -381,6 +395,8 @@ void tst_HRWidgetsInterface::shortcut_isTheActions_whereHostNamesItsKey()
     QCOMPARE(f.host->shortCutForObject("fileOpen", buttonOf(f), "X"), QString("Ctrl+O"));
     QCOMPARE(f.host->shortCutForObject("other", buttonOf(f), "X"), QString("X"));
     QCOMPARE(f.host->shortCutForObject("other", nullptr, "X"), QString("X"));
+    QCOMPARE(f.host->shortCutForObject("other", &actionOf(f), "X"), QString("Ctrl+O"));
+    QCOMPARE(f.host->shortCutForObject("other", f.host.get(), "X"), QString("X"));
 }
 
 using Deed = void (*)(Fixture &f);

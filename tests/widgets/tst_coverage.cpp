@@ -56,6 +56,8 @@ private Q_SLOTS:
     void window_isWalkedWhole();
     void pieces_areNoParts();
     void interface_looksAtOpenWindows_inSilence();
+    void menusAndToolTips_areNoWindows();
+    void qtsOwn_areNoParts_unlessTheyAreNamed();
 };
 
 void tst_coverage::part_withoutContent_isTold()
@@ -162,6 +164,29 @@ void tst_coverage::interface_looksAtOpenWindows_inSilence()
     QVERIFY(coverage.nameless.isEmpty());
     QCOMPARE(coverage.unusedKeys, QStringList("tea"));
     QCOMPARE(host.messages, QStringList());
+}
+
+void tst_coverage::menusAndToolTips_areNoWindows()
+{
+    HRContext context;
+    HRWidgetsInterface host(context, {});
+    Buttons window({ "brew" });
+    for (const Qt::WindowType type : { Qt::Popup, Qt::ToolTip }) {
+        Buttons other({ "pour" });
+        other.setWindowFlags(type);
+        other.show();
+        QCOMPARE(keysOf(host.coverage().withoutHint), QStringList("window/brew"));
+    }
+}
+
+void tst_coverage::qtsOwn_areNoParts_unlessTheyAreNamed()
+{
+    Buttons window({ "qt_pour", "brew" });
+    QCOMPARE(keysOf(coverageOf(walkParts(&window), {}).withoutHint), QStringList("window/brew"));
+    window.findChild<QPushButton *>("qt_pour")->setProperty("hintreelKey", "pour");
+    const HRCoverage coverage = coverageOf(walkParts(&window), {});
+    QCOMPARE(keysOf(coverage.withoutHint), QStringList({ "pour", "window/brew" }));
+    QVERIFY(coverage.nameless.isEmpty());
 }
 
 QTEST_MAIN(tst_coverage)

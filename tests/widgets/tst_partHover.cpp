@@ -21,7 +21,8 @@ void fill(HRXmlElement *content, const Attributes &attributes)
     for (const char *name : { "key", "HRLocation", "HRPackagName" })
         content->setAttribute(name, "x");
     for (auto it = attributes.begin(); it != attributes.end(); ++it)
-        content->setAttribute(it.key(), it.value());
+        it.key().isEmpty() ? content->setContent(it.value())
+                           : content->setAttribute(it.key(), it.value());
 }
 
 HRPart openEntry(PartsWindow &window)
@@ -53,6 +54,9 @@ private Q_SLOTS:
     void buttonWithIconAlone_saysNothing();
     void title_isThePartsOwn_whereContentHasNone();
     void title_isNot_forPlaces();
+    void title_isNot_whereThePartHasNone();
+    void key_isAskedOnce_whereAPlaceBearsItToo();
+    void content_ofAPlace_counts_whereItCoversItsInside();
     void shortcut_isLive();
 };
 
@@ -96,6 +100,8 @@ void tst_partHover::content_saysMore_data()
         << Attributes{ { "title", "&open..." } } << false << false;
     QTest::newRow("other title") << Attributes{ { "title", "Load" } } << true << true;
     QTest::newRow("help page") << Attributes{ { "documentation", "open" } } << true << true;
+    QTest::newRow("blank") << Attributes{ { "", " \n" } } << false << false;
+    QTest::newRow("text") << Attributes{ { "", "open" } } << true << true;
     QTest::newRow("covers") << Attributes{ { "covers", "inside" } } << false << false;
     // A menu shows its shortcuts itself.
     QTest::newRow("shortcut") << Attributes{ { "shortcut", "F3" } } << false << true;
@@ -157,6 +163,36 @@ void tst_partHover::title_isNot_forPlaces()
     HRXmlElement content;
     hoverOf(openEntry(window), QPoint()).completes("PartsWindow", content);
     QVERIFY(!content.hasAttribute("title"));
+}
+
+void tst_partHover::title_isNot_whereThePartHasNone()
+{
+    PartsWindow window;
+    HRXmlElement content;
+    const HRHover hover = hoverOf(wholePart(window.ui.swatch), QPoint());
+    hover.completes(hover.keys.first(), content);
+    QVERIFY(!content.hasAttribute("title"));
+}
+
+void tst_partHover::key_isAskedOnce_whereAPlaceBearsItToo()
+{
+    QWidget window;
+    window.setObjectName("brew");
+    QWidget part(&window);
+    part.setObjectName("brew");
+    QCOMPARE(hoverOf(wholePart(&part), QPoint()).keys, QStringList({ "brew/brew", "brew" }));
+}
+
+void tst_partHover::content_ofAPlace_counts_whereItCoversItsInside()
+{
+    PartsWindow window;
+    const HRHover hover = hoverOf(openEntry(window), QPoint());
+    HRXmlElement content;
+    fill(&content, { { "title", "Window" } });
+    QVERIFY(!hover.accepts("PartsWindow", content));
+    QVERIFY(hover.accepts("fileOpen", content));
+    content.setAttribute("covers", "inside");
+    QVERIFY(hover.accepts("PartsWindow", content));
 }
 
 void tst_partHover::shortcut_isLive()

@@ -21,13 +21,6 @@ namespace Hintreels {
 
 namespace {
 
-std::optional<HRPart> widgetAt(QWidget *widget, const QPoint &)
-{
-    HRPart part(widget);
-    part.goesBy(widget);
-    return part;
-}
-
 // The first that knows a widget: headers are item views, too, and dialog buttons are buttons.
 const HRPartKind kinds[] = {
     { menuEntryAt, menuEntries },
@@ -43,7 +36,6 @@ const HRPartKind kinds[] = {
     { groupBoxAt, nullptr },
     { dockAt, nullptr },
     { subWindowAt, nullptr },
-    { widgetAt, nullptr },
 };
 
 // Outside of every widget.
@@ -62,7 +54,9 @@ HRPart find(QWidget *widget, const QPoint &position)
         if (const std::optional<HRPart> part = kind.at(widget, position))
             return *part;
     }
-    return HRPart(widget);
+    HRPart part(widget);
+    part.goesBy(widget);
+    return part;
 }
 
 /// What a nameless widget belongs to: the nearest around it that has a name; else itself.
@@ -115,10 +109,10 @@ HRPart wholePart(QWidget *widget)
 QVector<HRPart> partsOf(QWidget *widget)
 {
     for (const HRPartKind &kind : kinds) {
-        if (const std::optional<HRPart> part = kind.at(widget, nowhere))
-            return kind.all ? kind.all(widget) : QVector<HRPart>{ *part };
+        if (kind.all && kind.at(widget, nowhere))
+            return kind.all(widget);
     }
-    return {};
+    return { find(widget, nowhere) };
 }
 
 } // namespace Hintreels
