@@ -16,9 +16,8 @@ QString languageOf(const QLocale &locale)
 {
     if (locale.language() != QLocale::Chinese)
         return locale.name().section(u'_', 0, 0);
-    const bool isTraditional = locale.script() == QLocale::TraditionalChineseScript
-        || locale.country() == QLocale::Taiwan || locale.country() == QLocale::HongKong
-        || locale.country() == QLocale::Macau;
+    // Qt knows which script a country writes.
+    const bool isTraditional = locale.script() == QLocale::TraditionalChineseScript;
     return isTraditional ? QStringLiteral("zh_TW") : QStringLiteral("zh_CN");
 }
 

@@ -88,6 +88,8 @@ void tst_HRUiWords::word_servesEveryCountryOfALanguage_data()
     QTest::newRow("Singapore") << "zh_SG" << QString::fromUtf8("重新播放");
     QTest::newRow("Taiwan") << "zh_TW" << QString::fromUtf8("再次播放");
     QTest::newRow("Hong Kong") << "zh_HK" << QString::fromUtf8("再次播放");
+    QTest::newRow("Macau") << "zh_MO" << QString::fromUtf8("再次播放");
+    QTest::newRow("simplified in Hong Kong") << "zh_Hans_HK" << QString::fromUtf8("重新播放");
     QTest::newRow("English") << "en_GB"
                              << "Play again";
     QTest::newRow("a language that is not there") << "eu_ES"
