@@ -14,6 +14,7 @@ private Q_SLOTS:
     void show_showsAnEmptyPopup_byDefault();
     void show_isNoHint_withoutUi_data();
     void show_isNoHint_withoutUi();
+    void show_tellsOfTheRefusalAlone_whereUiMayNotBeUsed();
     void show_tellsOnce_untilAnotherUiWasLoaded();
     void show_takesAnotherHintsPopupAway();
     void show_isAHint_whenTheUiIsThereAgain();
@@ -84,6 +85,21 @@ void tst_RequiredUi::show_isNoHint_withoutUi()
     }
     QCOMPARE(told.size(), 2);
     QCOMPARE(told.first(), warning.arg(f.packages.path()));
+}
+
+void tst_RequiredUi::show_tellsOfTheRefusalAlone_whereUiMayNotBeUsed()
+{
+    ManagerFixture f({ { requireUiKey, true }, { ownFilesOnlyKey, true } });
+    f.packages.write("Outside.qml", rectangleQml(10, 10));
+    f.packages.writeControl("B", "en.xml", "<hintreel key=\"saw\"/>", "ui=\"../Outside.qml\"");
+    f.manager().loadDataPath({ f.packages.path() });
+    f.host->messages.clear();
+
+    QVERIFY(!f.show("saw"));
+
+    const QStringList told = f.host->takeMessages(messageWarning);
+    QCOMPARE(told.size(), 1);
+    QVERIFY2(told[0].startsWith("Package \"B\" may not use ui \""), qPrintable(told[0]));
 }
 
 void tst_RequiredUi::show_tellsOnce_untilAnotherUiWasLoaded()

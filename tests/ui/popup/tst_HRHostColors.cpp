@@ -114,6 +114,12 @@ void tst_HRHostColors::colors_areThoseOfTheHost_data()
     QTest::newRow("painted almost as the palette says")
         << Change([](Fixture &f) { f.window->color = QColor("#eeeff0"); }) << QColor("#efefef")
         << QColor("#101010");
+    QTest::newRow("painted in other green than the palette's")
+        << Change([](Fixture &f) { f.window->color = QColor("#ef40ef"); }) << QColor("#ef40ef")
+        << QColor(Qt::black);
+    QTest::newRow("painted in other blue than the palette's")
+        << Change([](Fixture &f) { f.window->color = QColor("#efef40"); }) << QColor("#efef40")
+        << QColor(Qt::black);
     QTest::newRow("can be seen through")
         << Change([](Fixture &f) { f.window->setAttribute(Qt::WA_TranslucentBackground); })
         << QColor("#efefef") << QColor("#101010");

@@ -19,6 +19,8 @@ private Q_SLOTS:
     void window_isToolTip_unlessEmbedded();
     void setView_replacesView();
     void setView_givesFocusToNobody();
+    void popupWithoutView_showsAndHides();
+    void popupWithoutManager_isNotReserved();
     void showWithContent_doesNothing_withoutContent();
     void showWithContent_showsContentAtPosition();
     void showWithContent_staysOnScreen_whateverThePosition_data();
@@ -97,6 +99,34 @@ void tst_HRWidget::setView_givesFocusToNobody()
     popup.setView(new HRView(nullptr, nullptr));
     QVERIFY(popup.view()->flags() & Qt::WindowDoesNotAcceptFocus);
     QCOMPARE(popup.view()->position(), QPoint(0, 0));
+}
+
+void tst_HRWidget::popupWithoutView_showsAndHides()
+{
+    HRWidget popup(nullptr, nullptr, nullptr);
+    QWidget container(&popup);
+    popup.SetContainerWidget(&container); // which has no layout to stand in
+    HRXmlElement content;
+    popup.showWithContent(nullptr, showPosition, &content, "/");
+    QVERIFY(!popup.isVisible());
+    popup.show();
+    QVERIFY(popup.isVisible());
+    QVERIFY(popup.updatesEnabled());
+    QVERIFY(popup.findChild<QTimer *>()->isActive());
+    popup.hideAnimationFinished();
+    QVERIFY(!popup.isVisible());
+    QVERIFY(!popup.findChild<QTimer *>()->isActive());
+}
+
+void tst_HRWidget::popupWithoutManager_isNotReserved()
+{
+    HRWidget popup(nullptr, nullptr, nullptr);
+    popup.setView(new HRView(nullptr, nullptr));
+    popup.contentReservedChanged();
+    popup.view()->setReserved(true);
+    QCOMPARE(popup.windowType(), Qt::ToolTip);
+    QVERIFY(popup.view()->flags() & Qt::WindowDoesNotAcceptFocus);
+    QVERIFY(!popup.isVisible());
 }
 
 void tst_HRWidget::showWithContent_doesNothing_withoutContent()

@@ -160,6 +160,9 @@ void tst_popupPlacement::placedBeside_findsRoom_data()
         << placeOf(canvas, QPoint(1260, 780)) << popup << QPoint(1080, 630) << HRSide::above;
     QTest::newRow("canvas, from right to left") << mirrored(placeOf(canvas, QPoint(400, 300)))
                                                 << popup << QPoint(166, 330) << HRSide::below;
+    QTest::newRow("a pointer beside the screen, from right to left")
+        << mirrored(placeOf(QRect(), QPoint(1400, 300))) << popup << QPoint(1045, 330)
+        << HRSide::below;
     QTest::newRow("canvas, as high as the screen")
         << placeOf(canvas, QPoint(400, 300)) << QSize(200, 790) << QPoint(435, 10) << HRSide::right;
     QTest::newRow("no part") << placeOf(QRect(), QPoint(400, 300)) << popup << QPoint(435, 330)
