@@ -4,6 +4,7 @@
 #include "video/HRMediaDemuxer_p.h"
 
 #include "support/TestClip.h"
+#include "video/mediaFile_p.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -29,6 +30,7 @@ private Q_SLOTS:
     void readPacket_goesOn_afterMuchWasRead();
     void chooseVideoStream_refusesSoundAlone();
     void readPacket_deliversTheChosenStreamToItsEnd();
+    void readPacket_passesOverOtherStreams();
     void seek_startsAnew();
     void facts_comeFromTheStreamOrTheFile_data();
     void facts_comeFromTheStreamOrTheFile();
@@ -55,6 +57,37 @@ int packetCount(HRMediaDemuxer *demuxer)
     for (; demuxer->readPacket(packet.get()); ++count)
         av_packet_unref(packet.get());
     return count;
+}
+
+/// Writes a clip's packets twice, into streams of their own.
+void writeTwice(const QString &clip, const QString &path)
+{
+    const HRFFmpegHandle<AVFormatContext> input = openMediaFile(clip, "mov,mp4");
+    const AVStream *source = input->streams[0];
+    const QByteArray name = path.toUtf8();
+    AVFormatContext *output = nullptr;
+    avformat_alloc_output_context2(&output, nullptr, nullptr, name.constData());
+    for (int i = 0; i < 2; ++i) {
+        AVStream *stream = avformat_new_stream(output, nullptr);
+        avcodec_parameters_copy(stream->codecpar, source->codecpar);
+        stream->codecpar->codec_tag = 0;
+    }
+    if (avio_open(&output->pb, name.constData(), AVIO_FLAG_WRITE) < 0
+        || avformat_write_header(output, nullptr) < 0)
+        qFatal("the file cannot be written");
+    const HRFFmpegHandle<AVPacket> packet(av_packet_alloc());
+    while (av_read_frame(input.get(), packet.get()) >= 0) {
+        for (int i = 0; i < 2; ++i) {
+            const HRFFmpegHandle<AVPacket> copy(av_packet_clone(packet.get()));
+            copy->stream_index = i;
+            av_packet_rescale_ts(copy.get(), source->time_base, output->streams[i]->time_base);
+            av_write_frame(output, copy.get());
+        }
+        av_packet_unref(packet.get());
+    }
+    av_write_trailer(output);
+    avio_closep(&output->pb);
+    avformat_free_context(output);
 }
 
 /// One second of silence, 8 bits at 8000 a second.
@@ -231,6 +264,17 @@ void tst_HRMediaDemuxer::readPacket_deliversTheChosenStreamToItsEnd()
 {
     HRMediaDemuxer demuxer(neverStop);
     QVERIFY(demuxer.open(m_clip));
+    QVERIFY(demuxer.findStreams(64'000'000));
+    QVERIFY(demuxer.chooseVideoStream());
+    QCOMPARE(packetCount(&demuxer), TestClip().pictures);
+}
+
+void tst_HRMediaDemuxer::readPacket_passesOverOtherStreams()
+{
+    const QString path = m_directory.filePath("twice.mkv");
+    writeTwice(m_clip, path);
+    HRMediaDemuxer demuxer(neverStop);
+    QVERIFY(demuxer.open(path));
     QVERIFY(demuxer.findStreams(64'000'000));
     QVERIFY(demuxer.chooseVideoStream());
     QCOMPARE(packetCount(&demuxer), TestClip().pictures);

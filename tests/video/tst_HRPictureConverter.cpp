@@ -32,6 +32,9 @@ private Q_SLOTS:
     void convert_leavesOpaquePictures_whereTheyAre_data();
     void convert_leavesOpaquePictures_whereTheyAre();
     void convert_sharesNoMemory_toWriteTo();
+    void convert_takesPictures_thatStandOnTheirHead();
+    void convert_scalesPicturesOf32Bits_ofAnotherSize();
+    void convert_refusesPictures_thatNobodyCanConvert();
     void allocate_refuses_data();
     void allocate_refuses();
     void prepare_refuses_data();
@@ -319,6 +322,36 @@ void tst_HRPictureConverter::convert_sharesNoMemory_toWriteTo()
     HRVideoFrame converted = converter.convert(picture.get());
     converted.fill(Qt::red);
     QCOMPARE(static_cast<const QImage &>(converter.convert(picture.get())), expected);
+}
+
+/// Rows may come from the last one up.
+void tst_HRPictureConverter::convert_takesPictures_thatStandOnTheirHead()
+{
+    const QSize size(50, 38);
+    ReadyConverter converter(size, AV_PIX_FMT_BGRA);
+    const HRFFmpegHandle<AVFrame> picture = opaqueNoise(AV_PIX_FMT_BGRA, size);
+    const QImage expected = reference(picture.get(), size).mirrored();
+    picture->data[0] += (size.height() - 1) * picture->linesize[0];
+    picture->linesize[0] = -picture->linesize[0];
+    QCOMPARE(static_cast<const QImage &>(converter.convert(picture.get())), expected);
+}
+
+void tst_HRPictureConverter::convert_scalesPicturesOf32Bits_ofAnotherSize()
+{
+    const QSize opened(64, 48);
+    ReadyConverter converter(opened, AV_PIX_FMT_BGRA);
+    const HRFFmpegHandle<AVFrame> picture = opaqueNoise(AV_PIX_FMT_BGRA, QSize(32, 24));
+    const HRVideoFrame converted = converter.convert(picture.get());
+    QCOMPARE(static_cast<const QImage &>(converted), reference(picture.get(), opened));
+}
+
+void tst_HRPictureConverter::convert_refusesPictures_thatNobodyCanConvert()
+{
+    const QSize size(64, 48);
+    ReadyConverter converter(size, AV_PIX_FMT_YUV420P);
+    const HRFFmpegHandle<AVFrame> picture = noise(AV_PIX_FMT_YUV420P, size);
+    picture->format = AV_PIX_FMT_VAAPI;
+    QVERIFY(converter.convert(picture.get()).isNull());
 }
 
 void tst_HRPictureConverter::allocate_refuses_data()

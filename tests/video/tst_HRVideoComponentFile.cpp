@@ -208,7 +208,11 @@ void tst_HRVideoComponentFile::upright_turnsThePicture()
     clip.pictures = 1;
     ItemStage stage;
     SignalCounter upright(stage.item, &HRVideoComponent::uprightChanged);
+    QVERIFY(!stage.item->isUpright());
     stage.item->setUpright(true);
+    stage.item->setUpright(true);
+    QVERIFY(stage.item->isUpright());
+    QCOMPARE(upright.count(), 1);
     stage.setFile(clip.write(path("turned.mp4"), [](const QSize &coded, int) {
         QImage picture(coded, QImage::Format_RGB32);
         picture.fill(Qt::black);

@@ -32,6 +32,7 @@ private Q_SLOTS:
     void streamEnded_pauses_unlessScrubbing();
     void sourceLoaded_announcesSizes();
     void loadProgressChanged_isRelayed();
+    void close_isTheSources();
     void operations_areHarmless_withoutASource();
     void signals_keepTheirOrder();
 };
@@ -207,6 +208,18 @@ void tst_HRVideoController::loadProgressChanged_isRelayed()
     QCOMPARE(loadProgress.count(), 1);
 }
 
+void tst_HRVideoController::close_isTheSources()
+{
+    struct Source : FakeSource
+    {
+        void close() override { ++closes; }
+        int closes = 0;
+    };
+    Source source;
+    HRVideoController(&source).close();
+    QCOMPARE(source.closes, 1);
+}
+
 void tst_HRVideoController::operations_areHarmless_withoutASource()
 {
     HRVideoController controller(nullptr);
@@ -220,6 +233,7 @@ void tst_HRVideoController::operations_areHarmless_withoutASource()
     QCOMPARE(controller.loadProgress(), 0.0);
     QCOMPARE(controller.frameCount(), size_t(0));
     QCOMPARE(controller.frameWidth(), 0.0);
+    QCOMPARE(controller.frameHeight(), 0.0);
 }
 
 void tst_HRVideoController::signals_keepTheirOrder()

@@ -3,6 +3,8 @@
 
 #include "video/upright_p.h"
 
+#include "video/HRFFmpegHandle_p.h"
+
 #include <QtTest>
 
 extern "C" {
@@ -10,6 +12,7 @@ extern "C" {
 }
 
 #include <array>
+#include <cstring>
 
 using namespace Hintreels;
 
@@ -40,6 +43,8 @@ private Q_SLOTS:
     void transform_makesPixelsSquare();
     void transform_stretchesBeforeItTurns();
     void transform_isNone_withoutAPicture();
+    void transform_isTheStreams_data();
+    void transform_isTheStreams();
 };
 
 void tst_upright::transform_turnsByQuarters_data()
@@ -61,6 +66,7 @@ void tst_upright::transform_turnsByQuarters_data()
     constexpr int32_t least = std::numeric_limits<int32_t>::min();
     QTest::newRow("least numbers")
         << Matrix{ least, least, 0, least, least, 0, 0, 0, 0 } << QRect(4, 5, 4, 1);
+    QTest::newRow("distorted") << Matrix{ 4, 6, 0, 3, 4, 0, 0, 0, 0 } << QRect(0, 0, 1, 4);
 }
 
 /// A picture of eight by six.
@@ -110,6 +116,35 @@ void tst_upright::transform_stretchesBeforeItTurns()
 void tst_upright::transform_isNone_withoutAPicture()
 {
     QVERIFY(uprightTransform({ 0, 0 }, { 2, 1 }, turned(90).data()).isIdentity());
+}
+
+void tst_upright::transform_isTheStreams_data()
+{
+    QTest::addColumn<int>("bytes"); // of the matrix
+    QTest::addColumn<int>("byFile"); // the width of pixels one high, 0 for unknown
+    QTest::addColumn<int>("byPictures");
+    QTest::addColumn<QSize>("size"); // of a picture of 100 by 50
+    QTest::newRow("a quarter") << 36 << 0 << 0 << QSize(50, 100);
+    QTest::newRow("half a matrix") << 32 << 0 << 0 << QSize(100, 50);
+    QTest::newRow("none") << 0 << 0 << 0 << QSize(100, 50);
+    QTest::newRow("pixels by the file") << 0 << 2 << 3 << QSize(200, 50);
+    QTest::newRow("pixels by the pictures") << 0 << 0 << 3 << QSize(300, 50);
+}
+
+void tst_upright::transform_isTheStreams()
+{
+    QFETCH(int, bytes);
+    QFETCH(int, byFile);
+    QFETCH(int, byPictures);
+    const HRFFmpegHandle<AVFormatContext> file(avformat_alloc_context());
+    AVStream *stream = avformat_new_stream(file.get(), nullptr);
+    const Matrix matrix = turned(90);
+    if (bytes > 0)
+        std::memcpy(av_stream_new_side_data(stream, AV_PKT_DATA_DISPLAYMATRIX, size_t(bytes)),
+            matrix.data(), size_t(bytes));
+    stream->sample_aspect_ratio = { byFile, 1 };
+    stream->codecpar->sample_aspect_ratio = { byPictures, 1 };
+    QTEST(uprightSize({ 100, 50 }, uprightTransform({ 100, 50 }, stream)), "size");
 }
 
 QTEST_APPLESS_MAIN(tst_upright)
