@@ -39,6 +39,8 @@ private Q_SLOTS:
     void indexControlFile_seesThatRowsAreDeleted_onItsOwnConnection();
     void store_seesThatRowsAreDeleted_onItsOwnConnection();
     void store_outsideAnUpdate_remembersTheFileInMemory();
+    void store_withoutAnEntry_remembersTheFileInMemory();
+    void setup_insideAnUpdate_staysInIt();
     void store_bindsValues();
     void store_reportsAMissingTable();
     void messages_areOneLine_data();
@@ -289,6 +291,33 @@ void tst_HRSQLiteIndex::store_outsideAnUpdate_remembersTheFileInMemory()
     QVERIFY(fixture.index.keys().isEmpty());
     fixture.index.close();
     QCOMPARE(fixture.found("pen"), QString("1"));
+    fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndex::store_withoutAnEntry_remembersTheFileInMemory()
+{
+    SqliteIndexFixture fixture;
+    const QString file = fixture.packages.writeControl("A", "a.xml", "<hintreel key='pen' n='1'/>");
+    fixture.index.startUpdate();
+    QVERIFY(fixture.index.store(nullptr, QLocale("en_US"), file, 2));
+    fixture.index.endUpdate();
+    QVERIFY(fixture.index.keys().isEmpty());
+    fixture.index.close();
+    QCOMPARE(fixture.found("pen"), QString("1"));
+    fixture.messages.takeMessages();
+}
+
+void tst_HRSQLiteIndex::setup_insideAnUpdate_staysInIt()
+{
+    SqliteIndexFixture fixture;
+    HRXmlElement entry;
+    entry.setAttribute("key", "pen");
+    fixture.index.startUpdate();
+    QVERIFY(fixture.index.setup());
+    QVERIFY(fixture.index.store(&entry, QLocale("en_US"), "/a.xml", 1));
+    fixture.index.endUpdate();
+    fixture.index.endUpdate();
+    QCOMPARE(fixture.index.keys(), QStringList("pen"));
     fixture.messages.takeMessages();
 }
 

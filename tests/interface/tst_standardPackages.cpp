@@ -3,6 +3,7 @@
 
 #include "interface/standardPackages_p.h"
 
+#include "interface/HRInterface.h"
 #include "support/TestPackage.h"
 
 #include <QCoreApplication>
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void packages_areNull_whereThereAreNone_data();
     void packages_areNull_whereThereAreNone();
     void library_isTheProgram_thatHasItLinkedIn();
+    void packages_ofTheInterface_areTheLibrarys();
 };
 
 void tst_standardPackages::packages_areFound_inEveryLayout_data()
@@ -101,6 +103,16 @@ void tst_standardPackages::library_isTheProgram_thatHasItLinkedIn()
 {
     QCOMPARE(QFileInfo(libraryFile()).canonicalFilePath(),
         QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath());
+}
+
+void tst_standardPackages::packages_ofTheInterface_areTheLibrarys()
+{
+    const QDir prefix(QCoreApplication::applicationDirPath() + "/..");
+    QVERIFY(prefix.mkpath("share/hintreels/packages/Standard.hintreels"));
+    const QString packages = HRInterface::standardPackages();
+    QVERIFY(QDir(prefix.filePath("share")).removeRecursively());
+    QCOMPARE(packages, prefix.canonicalPath() + "/share/hintreels/packages");
+    QVERIFY(HRInterface::standardPackages().isNull());
 }
 
 QTEST_GUILESS_MAIN(tst_standardPackages)

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void table_isUsable_whereItStands();
     void table_isNotUsable_whereItCannotBeMade();
     void corruption_isTold();
+    void table_thatIsTakenAway_isNoCorruption();
 };
 
 namespace {
@@ -167,6 +168,23 @@ void tst_HRDigestTable::corruption_isTold()
     QVERIFY(!table.isCorrupt());
     QVERIFY(table.load("/a/").isEmpty());
     QVERIFY(table.isCorrupt());
+    QSqlQuery(connection.database).exec("DROP TABLE control_directories");
+    table.removeMissing();
+    QVERIFY(table.isCorrupt());
+}
+
+void tst_HRDigestTable::table_thatIsTakenAway_isNoCorruption()
+{
+    const Connection connection(":memory:");
+    HRDigestTable table(connection.database);
+    QVERIFY(table.isUsable());
+    QVERIFY(QSqlQuery(connection.database).exec("DROP TABLE control_directories"));
+    QVERIFY(table.load("/a/").isEmpty());
+    table.save("/a/", "x");
+    table.flush();
+    table.removeMissing();
+    QVERIFY(!table.isCorrupt());
+    QCOMPARE(connection.rows(), -1);
 }
 
 QTEST_GUILESS_MAIN(tst_HRDigestTable)
