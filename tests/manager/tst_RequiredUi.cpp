@@ -15,6 +15,7 @@ private Q_SLOTS:
     void show_isNoHint_withoutUi_data();
     void show_isNoHint_withoutUi();
     void show_tellsOfTheRefusalAlone_whereUiMayNotBeUsed();
+    void sceneOfAHost_isToldOf_withoutContent();
     void show_tellsOnce_untilAnotherUiWasLoaded();
     void show_takesAnotherHintsPopupAway();
     void show_isAHint_whenTheUiIsThereAgain();
@@ -100,6 +101,17 @@ void tst_RequiredUi::show_tellsOfTheRefusalAlone_whereUiMayNotBeUsed()
     const QStringList told = f.host->takeMessages(messageWarning);
     QCOMPARE(told.size(), 1);
     QVERIFY2(told[0].startsWith("Package \"B\" may not use ui \""), qPrintable(told[0]));
+}
+
+void tst_RequiredUi::sceneOfAHost_isToldOf_withoutContent()
+{
+    ManagerFixture f({ { requireUiKey, true } });
+    const QString path = f.packages.write("Broken.qml", "Item {");
+    HRView view(&f.manager(), nullptr);
+    f.host->messages.clear();
+    view.setSource(QUrl::fromLocalFile(path));
+    QCOMPARE(f.host->takeMessages(messageWarning),
+        QStringList("Package \"\" has a user interface that cannot be loaded: " + path));
 }
 
 void tst_RequiredUi::show_tellsOnce_untilAnotherUiWasLoaded()

@@ -74,6 +74,16 @@ void tst_HRVideoComponentFile::timing_isConstant_untilItIsSet()
     QCOMPARE(stage.item->timing(), QString("file"));
     QCOMPARE(timing.count(), 1);
     QTRY_COMPARE(qRound(100 * stage.item->pictureTime()), 250);
+    stage.item->setTiming("file");
+    stage.item->setTiming("constant");
+    QCOMPARE(stage.item->timing(), QString("constant"));
+    QCOMPARE(timing.count(), 2);
+
+    SignalCounter colors(stage.item, &HRVideoComponent::colorsChanged);
+    for (const char *value : { "described", "", "File", "file", "file", "described" })
+        stage.item->setColors(value);
+    QCOMPARE(stage.item->colors(), QString("described"));
+    QCOMPARE(colors.count(), 2);
 }
 
 void tst_HRVideoComponentFile::timing_followsTheFile()

@@ -139,6 +139,7 @@ private Q_SLOTS:
     void hostsObjectName_isNotItsOwn();
     void keyForObject_names_whatAnObjectStandsFor();
     void hint_thatRepeatsItsPart_isNotShown();
+    void hint_isNotShown_inAPopupWithoutView();
     void shortcutAndTitle_areTheActions();
     void shortcut_isTheActions_whereHostNamesItsKey();
     void host_mayDelete_whenCalledBack_data();
@@ -283,6 +284,9 @@ void tst_HRWidgetsInterface::pinnedHint_getsAWindowOfItsName()
     QVERIFY(popup && popup->parentWidget());
     QCOMPARE(popup->window()->windowTitle(), QString("Size"));
     QCOMPARE(popup->window()->parentWidget(), f.window.get());
+    const HRCoverage coverage = f.host->coverage();
+    for (const HRCoveredPart &part : coverage.withoutHint + coverage.nameless)
+        QVERIFY(part.widget->window() != popup->window());
     QVERIFY(popup->window()->close());
     QTRY_VERIFY(!popup);
 }
@@ -365,6 +369,17 @@ void tst_HRWidgetsInterface::hint_thatRepeatsItsPart_isNotShown()
     Fixture f(entry("reset", "title='Reset'") + entry("strikeout", "title='Strike out'"));
     QVERIFY(!f.hover(f.window->ui.reset));
     QVERIFY(f.hover(f.window->ui.strikeout));
+}
+
+void tst_HRWidgetsInterface::hint_isNotShown_inAPopupWithoutView()
+{
+    Fixture f(entry("reset", "title='Reset'") + entry("size"));
+    QVERIFY(f.hover(f.window->ui.size));
+    f.popup()->hide();
+    f.popup()->setView(nullptr);
+    QVERIFY(!f.hover(f.window->ui.reset));
+    QVERIFY(!f.hover(f.window->ui.size));
+    QCOMPARE(f.host->manager()->translateString("text", "context"), QString("text"));
 }
 
 void tst_HRWidgetsInterface::shortcutAndTitle_areTheActions()

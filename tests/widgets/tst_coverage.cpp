@@ -8,6 +8,8 @@
 #include "widgets/PartsWindow.h"
 #include "widgets/coverage_p.h"
 
+#include <QMainWindow>
+#include <QMenuBar>
 #include <QtTest>
 
 #include <algorithm>
@@ -56,6 +58,7 @@ private Q_SLOTS:
     void window_isWalkedWhole();
     void pieces_areNoParts();
     void interface_looksAtOpenWindows_inSilence();
+    void menu_isWalkedOnce_whateverLeadsToIt();
     void menusAndToolTips_areNoWindows();
     void qtsOwn_areNoParts_unlessTheyAreNamed();
 };
@@ -164,6 +167,21 @@ void tst_coverage::interface_looksAtOpenWindows_inSilence()
     QVERIFY(coverage.nameless.isEmpty());
     QCOMPARE(coverage.unusedKeys, QStringList("tea"));
     QCOMPARE(host.messages, QStringList());
+}
+
+void tst_coverage::menu_isWalkedOnce_whateverLeadsToIt()
+{
+    QMainWindow window;
+    QMenu *menu = window.menuBar()->addMenu("Brew");
+    menu->addAction("Pour")->setObjectName("pour");
+    window.menuBar()->addAction(menu->menuAction());
+    window.menuBar()->addMenu("More")->addMenu(menu);
+    QStringList keys = keysOf(coverageOf(walkParts(&window), {}).withoutHint);
+    QCOMPARE(keys.count("pour"), 1);
+
+    menu->addAction("Pour all")->setObjectName("pour");
+    const HRCoverage coverage = coverageOf(walkParts(&window), { "pour" });
+    QCOMPARE(coverage.shared["pour"].size(), 2);
 }
 
 void tst_coverage::menusAndToolTips_areNoWindows()

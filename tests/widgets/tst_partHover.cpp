@@ -48,6 +48,7 @@ class tst_partHover : public QObject
 private Q_SLOTS:
     void text_losesMnemonicAndDots_data();
     void text_losesMnemonicAndDots();
+    void name_isTheHosts();
     void content_saysMore_data();
     void content_saysMore();
     void element_saysMore();
@@ -87,6 +88,19 @@ void tst_partHover::text_losesMnemonicAndDots()
 {
     QFETCH(QString, text);
     QTEST(withoutMnemonic(text), "plain");
+}
+
+void tst_partHover::name_isTheHosts()
+{
+    QObject object;
+    for (const char *name : { "", "qt_spinbox_lineedit", "_q_floatbutton" }) {
+        object.setObjectName(name);
+        QCOMPARE(nameOf(&object), QString());
+    }
+    for (const char *name : { "size", "my_qt_size", "qty" }) {
+        object.setObjectName(name);
+        QCOMPARE(nameOf(&object), QString(name));
+    }
 }
 
 void tst_partHover::content_saysMore_data()
@@ -137,6 +151,7 @@ void tst_partHover::buttonWithIconAlone_saysNothing()
     PartsWindow window;
     HRXmlElement content;
     fill(&content, { { "title", "Open" } });
+    QVERIFY(saysMore(content, openButton(window))); // its shortcut
     window.ui.fileOpen->setShortcut(QKeySequence());
     QVERIFY(!saysMore(content, openButton(window)));
     QPixmap picture(16, 16);

@@ -147,6 +147,15 @@ const Case cases[] = {
             return alone(std::move(button));
         },
         { "brush", "brushes" }, "Brush", true },
+    { "tool button of the same name as its action",
+        [] {
+            auto button = toolButton(false, Qt::ToolButtonIconOnly);
+            auto *action = new QAction("&Paint...", button.get());
+            action->setObjectName("brush");
+            button->setDefaultAction(action);
+            return alone(std::move(button));
+        },
+        { "brush" }, "Paint", true },
     { "standard button", [] { return dialogButton("buttons", true); }, { "buttons/Save", "Save" },
         "Save", true },
     { "standard button of a nameless box", [] { return dialogButton("", true); }, { "Save" },
@@ -269,6 +278,7 @@ void tst_partKinds::menu_hasPartsForWhatIsSeen()
         QVERIFY(part.area.isNull());
     }
     QCOMPARE(names, QStringList({ "brew", "pour" }));
+    QCOMPARE(keysOf(parts.first()), QStringList("brew"));
 }
 
 void tst_partKinds::tabBar_isOnePart_besideItsTabs()
@@ -277,6 +287,9 @@ void tst_partKinds::tabBar_isOnePart_besideItsTabs()
     looked.widget->setObjectName("bar");
     QCOMPARE(partAt(looked.widget, looked.widget->mapToGlobal(QPoint(-5, -5))).names,
         QStringList("bar"));
+    const QVector<HRPart> parts = partsOf(looked.widget);
+    QCOMPARE(parts.size(), 1);
+    QCOMPARE(parts[0].names, QStringList("colors"));
 }
 
 void tst_partKinds::item_ofAScene_mayLieInAnother()

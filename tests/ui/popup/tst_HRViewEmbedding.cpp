@@ -48,6 +48,8 @@ private Q_SLOTS:
 void tst_HRViewEmbedding::view_staysAway_untilItsPopupIsMapped()
 {
     Fixture f;
+    f.embedding.prepareFor(f.popup); // which has no window yet
+    QVERIFY(f.hasNativeWindow());
     f.popup.winId();
     f.embedding.prepareFor(f.popup);
     QVERIFY(!f.isContainerShown());

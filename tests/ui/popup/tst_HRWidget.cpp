@@ -105,6 +105,7 @@ void tst_HRWidget::popupWithoutView_showsAndHides()
 {
     HRWidget popup(nullptr, nullptr, nullptr);
     QWidget container(&popup);
+    popup.SetContainerWidget(nullptr);
     popup.SetContainerWidget(&container); // which has no layout to stand in
     HRXmlElement content;
     popup.showWithContent(nullptr, showPosition, &content, "/");

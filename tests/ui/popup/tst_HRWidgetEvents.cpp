@@ -93,10 +93,12 @@ class tst_HRWidgetEvents : public QObject
 private Q_SLOTS:
     void toolTip_andPopup_areNotSeenTogether_data();
     void toolTip_andPopup_areNotSeenTogether();
+    void toolTip_takesThePopupAway_whenThePointerIsNowhere();
     void press_besideAMenu_isThePopups_whereHostWantsIt_data();
     void press_besideAMenu_isThePopups_whereHostWantsIt();
     void host_mayDeleteThePopup_whenThePointerLeavesIt();
-    void host_mayDeleteThePopup_whenItsWindowIsPainted();
+    void host_mayDelete_whenItsWindowIsPainted_data();
+    void host_mayDelete_whenItsWindowIsPainted();
     void key_takesThePopupAway_whereHostWantsIt_data();
     void key_takesThePopupAway_whereHostWantsIt();
     void sceneThatFails_takesThePopupAway_whereItIsRequired_data();
@@ -143,6 +145,23 @@ void tst_HRWidgetEvents::toolTip_andPopup_areNotSeenTogether()
     QTEST(toolTip->testAttribute(Qt::WA_DontShowOnScreen), "isToolTipKept");
 }
 
+// As on Wayland, when the pointer has left all windows.
+void tst_HRWidgetEvents::toolTip_takesThePopupAway_whenThePointerIsNowhere()
+{
+    Fixture f({ { hostToolTipsKey, true } });
+    QCursor::setPos(inReference);
+    f.show();
+    QVERIFY(f.taker().isSafe(QPoint(inPopup)));
+    QVERIFY(!f.taker().isSafe(std::nullopt));
+    QWindow window;
+    QEvent left(QEvent::Leave);
+    f.taker().watch.eventFilter(&window, &left);
+    QWidget *toolTip = f.shownToolTip(inReference);
+    QShowEvent event;
+    QVERIFY(!f.taker().takeEvent(*toolTip, event));
+    QVERIFY(!f.popup->isVisible());
+}
+
 void tst_HRWidgetEvents::press_besideAMenu_isThePopups_whereHostWantsIt_data()
 {
     QTest::addColumn<bool>("isWanted");
@@ -183,16 +202,30 @@ void tst_HRWidgetEvents::host_mayDeleteThePopup_whenThePointerLeavesIt()
     QVERIFY(!f.popup);
 }
 
-void tst_HRWidgetEvents::host_mayDeleteThePopup_whenItsWindowIsPainted()
+void tst_HRWidgetEvents::host_mayDelete_whenItsWindowIsPainted_data()
 {
+    QTest::addColumn<bool>("isPopup");
+    QTest::newRow("popup") << true;
+    QTest::newRow("its view") << false;
+}
+
+void tst_HRWidgetEvents::host_mayDelete_whenItsWindowIsPainted()
+{
+    QFETCH(bool, isPopup);
     Fixture f({ { hostColorsKey, true } });
     f.show();
     PaintedWindow window;
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
-    window.painted = [&f] { delete f.popup; };
+    window.painted = [&f, isPopup] {
+        if (isPopup)
+            delete f.popup;
+        else
+            delete f.popup->view();
+    };
     f.host->show("ink", showPosition, &window);
-    QVERIFY(!f.popup);
+    QCOMPARE(f.popup.isNull(), isPopup);
+    QVERIFY(isPopup || !f.popup->view());
 }
 
 void tst_HRWidgetEvents::key_takesThePopupAway_whereHostWantsIt_data()

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
+#include "ui/popup/HRWidgetPrivate_p.h"
 #include "ui/popup/PopupFixture.h"
 
 using namespace Hintreels;
@@ -13,6 +14,7 @@ private Q_SLOTS:
     void reserve_makesWindowOfItsOwn();
     void reserve_fillsWindowOfHost_data();
     void reserve_fillsWindowOfHost();
+    void reserve_leavesItsPart_andNeedsNoContent();
     void reserve_doesNothing_withoutConsent();
     void reservedPopup_neverHidesByItself();
     void reservedPopup_deletesItself_whenClosed();
@@ -66,6 +68,21 @@ void tst_HRWidgetReserved::reserve_fillsWindowOfHost()
     QCOMPARE(window.pos(), showPosition);
     QCOMPARE(window.layout()->itemAt(0)->widget(), f.popup.data());
     QCOMPARE(window.width(), 201);
+}
+
+void tst_HRWidgetReserved::reserve_leavesItsPart_andNeedsNoContent()
+{
+    PopupFixture f({ { placementKey, int(placementBeside) } });
+    QWidget window;
+    window.setWindowTitle("before");
+    f.host->window = &window;
+    const std::unique_ptr<HRXmlElement> content(f.show());
+    QVERIFY(HRWidgetPrivate::of(*f.popup).standsBeside());
+    f.popup->view()->setContent(nullptr);
+    f.popup->view()->setReserved(true);
+    QVERIFY(!HRWidgetPrivate::of(*f.popup).standsBeside());
+    QCOMPARE(f.popup->parentWidget(), &window);
+    QCOMPARE(window.windowTitle(), QString("before"));
 }
 
 void tst_HRWidgetReserved::reserve_doesNothing_withoutConsent()
