@@ -21,8 +21,12 @@ struct HRPartKind
     /// All parts of a widget of this kind.
     using All = QVector<HRPart> (*)(QWidget *widget);
 
+    /// The part of a widget of this kind that has the keyboard while the widget has it.
+    using Current = HRPart (*)(QWidget *widget);
+
     At at;
-    All all; ///< null where a widget is one part
+    All all = nullptr; ///< null where a widget is one part
+    Current current = nullptr; ///< null where it is the one that is at no position
 };
 
 } // namespace Hintreels

@@ -25,17 +25,17 @@ namespace {
 const HRPartKind kinds[] = {
     { menuEntryAt, menuEntries },
     { menuBarEntryAt, menuBarEntries },
-    { toolButtonAt, nullptr },
-    { dialogButtonAt, nullptr },
-    { buttonAt, nullptr },
-    { labelAt, nullptr },
-    { tabAt, tabs },
-    { sectionAt, sections },
-    { cellAt, cells },
-    { sceneItemAt, sceneItems },
-    { groupBoxAt, nullptr },
-    { dockAt, nullptr },
-    { subWindowAt, nullptr },
+    { toolButtonAt },
+    { dialogButtonAt },
+    { buttonAt },
+    { labelAt },
+    { tabAt, tabs, currentTab },
+    { sectionAt, sections, currentSection },
+    { cellAt, cells, currentCell },
+    { sceneItemAt, sceneItems, currentSceneItem },
+    { groupBoxAt },
+    { dockAt },
+    { subWindowAt },
 };
 
 // Outside of every widget.
@@ -48,15 +48,29 @@ QWidget *wholeOf(QWidget *widget)
     return widget;
 }
 
+HRPart plain(QWidget *widget)
+{
+    HRPart part(widget);
+    part.goesBy(widget);
+    return part;
+}
+
 HRPart find(QWidget *widget, const QPoint &position)
 {
     for (const HRPartKind &kind : kinds) {
         if (const std::optional<HRPart> part = kind.at(widget, position))
             return *part;
     }
-    HRPart part(widget);
-    part.goesBy(widget);
-    return part;
+    return plain(widget);
+}
+
+HRPart findCurrent(QWidget *widget)
+{
+    for (const HRPartKind &kind : kinds) {
+        if (const std::optional<HRPart> part = kind.at(widget, nowhere))
+            return kind.current ? kind.current(widget) : *part;
+    }
+    return plain(widget);
 }
 
 /// What a nameless widget belongs to: the nearest around it that has a name; else itself.
@@ -69,6 +83,17 @@ HRPart named(const HRPart &part)
         if (!around.isNameless())
             return around;
     }
+    return part;
+}
+
+/// A part as its innermost widget has it.
+HRPart seenFrom(QWidget *innermost, HRPart part)
+{
+    if (part.area.isNull() && part.isNameless())
+        part = named(part);
+    if (part.area.isNull() && part.widget != innermost)
+        part.area = globalArea(part.widget, part.widget->rect());
+    part.widget = innermost;
     return part;
 }
 
@@ -92,13 +117,12 @@ bool isPiece(const QWidget *widget)
 HRPart partAt(QWidget *hovered, const QPoint &position)
 {
     QWidget *whole = wholeOf(hovered);
-    HRPart part = find(whole, whole->mapFromGlobal(position));
-    if (part.area.isNull() && part.isNameless())
-        part = named(part);
-    if (part.area.isNull() && part.widget != hovered)
-        part.area = globalArea(part.widget, part.widget->rect());
-    part.widget = hovered;
-    return part;
+    return seenFrom(hovered, find(whole, whole->mapFromGlobal(position)));
+}
+
+HRPart partInFocus(QWidget *focused)
+{
+    return seenFrom(focused, findCurrent(wholeOf(focused)));
 }
 
 HRPart wholePart(QWidget *widget)

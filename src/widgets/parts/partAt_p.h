@@ -17,6 +17,11 @@ namespace Hintreels {
 /// @param position in global coordinates
 HRPart partAt(QWidget *hovered, const QPoint &position);
 
+/// The part that has the keyboard: the active entry of a menu, the current tab, cell or item, the
+/// section over the current column, or the widget. Names are found as partAt() does.
+/// @param focused the widget that has it, and what the part's `widget` is then
+HRPart partInFocus(QWidget *focused);
+
 /// A widget as a whole.
 HRPart wholePart(QWidget *widget);
 

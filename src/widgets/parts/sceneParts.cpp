@@ -7,6 +7,7 @@
 
 #include <QGraphicsItem>
 #include <QGraphicsObject>
+#include <QGraphicsScene>
 #include <QGraphicsView>
 
 namespace Hintreels {
@@ -29,14 +30,9 @@ HRPart wholeView(QGraphicsView *view)
     return part;
 }
 
-} // namespace
-
-std::optional<HRPart> sceneItemAt(QWidget *widget, const QPoint &position)
+/// The first of an item and those around it that carries a key; else the view.
+HRPart itemOrView(QGraphicsView *view, QGraphicsItem *item)
 {
-    auto *view = qobject_cast<QGraphicsView *>(widget);
-    if (!view)
-        return std::nullopt;
-    QGraphicsItem *item = view->itemAt(view->viewport()->mapFrom(view, position));
     for (; item; item = item->parentItem()) {
         HRPart part = itemOf(*view, item);
         if (!part.isNameless()) {
@@ -45,6 +41,22 @@ std::optional<HRPart> sceneItemAt(QWidget *widget, const QPoint &position)
         }
     }
     return wholeView(view);
+}
+
+} // namespace
+
+std::optional<HRPart> sceneItemAt(QWidget *widget, const QPoint &position)
+{
+    auto *view = qobject_cast<QGraphicsView *>(widget);
+    if (!view)
+        return std::nullopt;
+    return itemOrView(view, view->itemAt(view->viewport()->mapFrom(view, position)));
+}
+
+HRPart currentSceneItem(QWidget *widget)
+{
+    auto *view = static_cast<QGraphicsView *>(widget);
+    return itemOrView(view, view->scene() ? view->scene()->focusItem() : nullptr);
 }
 
 QVector<HRPart> sceneItems(QWidget *widget)

@@ -46,6 +46,16 @@ HRPart tab(QTabBar *bar, int index)
     return part;
 }
 
+/// The bar itself where there is no such tab.
+HRPart tabOrBar(QTabBar *bar, int index)
+{
+    if (index >= 0)
+        return tab(bar, index);
+    HRPart part(bar);
+    part.goesBy(bar);
+    return part;
+}
+
 } // namespace
 
 std::optional<HRPart> tabAt(QWidget *widget, const QPoint &position)
@@ -53,12 +63,13 @@ std::optional<HRPart> tabAt(QWidget *widget, const QPoint &position)
     auto *bar = qobject_cast<QTabBar *>(widget);
     if (!bar)
         return std::nullopt;
-    const int index = bar->tabAt(position);
-    if (index >= 0)
-        return tab(bar, index);
-    HRPart part(bar);
-    part.goesBy(bar);
-    return part;
+    return tabOrBar(bar, bar->tabAt(position));
+}
+
+HRPart currentTab(QWidget *widget)
+{
+    auto *bar = static_cast<QTabBar *>(widget);
+    return tabOrBar(bar, bar->currentIndex());
 }
 
 QVector<HRPart> tabs(QWidget *widget)

@@ -11,5 +11,6 @@ namespace Hintreels {
 /// for.
 std::optional<HRPart> tabAt(QWidget *widget, const QPoint &position);
 QVector<HRPart> tabs(QWidget *widget);
+HRPart currentTab(QWidget *widget);
 
 } // namespace Hintreels

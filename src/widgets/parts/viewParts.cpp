@@ -126,6 +126,15 @@ std::optional<HRPart> sectionAt(QWidget *widget, const QPoint &position)
     return section >= 0 ? sectionOf(header, section) : wholeView(header);
 }
 
+HRPart currentSection(QWidget *widget)
+{
+    auto *header = static_cast<QHeaderView *>(widget);
+    const auto *view = qobject_cast<const QAbstractItemView *>(header->parent());
+    const QModelIndex index = view ? view->currentIndex() : header->currentIndex();
+    const int section = header->orientation() == Qt::Horizontal ? index.column() : index.row();
+    return section >= 0 ? sectionOf(header, section) : wholeView(header);
+}
+
 QVector<HRPart> sections(QWidget *widget)
 {
     auto *header = static_cast<QHeaderView *>(widget);
@@ -143,6 +152,13 @@ std::optional<HRPart> cellAt(QWidget *widget, const QPoint &position)
     if (!view)
         return std::nullopt;
     const QModelIndex index = view->indexAt(view->viewport()->mapFrom(view, position));
+    return index.isValid() ? cell(view, index) : wholeView(view);
+}
+
+HRPart currentCell(QWidget *widget)
+{
+    auto *view = static_cast<QAbstractItemView *>(widget);
+    const QModelIndex index = view->currentIndex();
     return index.isValid() ? cell(view, index) : wholeView(view);
 }
 
