@@ -11,13 +11,16 @@ Pressable {
     property Clip player
     property bool offered: true
     readonly property real room: Math.min(parent.width, parent.height)
-    readonly property real largeSize: look.scaled(44)
+    readonly property real largeSize: Math.max(look.target, look.scaled(44))
     readonly property bool large: !player.wanted && room >= 3 * largeSize
     readonly property real margin: Math.min(2 * look.step, room / 20)
 
+    z: 1 // the line below takes presses as high up
     name: player.ended ? hint.words.playAgain
         : player.wanted ? hint.words.pause : hint.words.play
-    width: large ? largeSize : Math.min(look.scaled(28), Math.round(room / 3))
+    // A smaller one leaves more of a small clip in sight, which can be pressed all over.
+    width: large ? largeSize
+        : Math.min(Math.max(look.target, look.scaled(28)), Math.round(room / 3))
     height: width
     x: large ? Math.round((parent.width - width) / 2) : margin
     y: large ? Math.round((parent.height - height) / 2)

@@ -52,7 +52,7 @@ Item {
         hint: stage.hint
         objectName: "clipButton"
         player: player
-        offered: (pointer.hovered || !player.wanted || activeFocus) && !player.scrubbing
+        offered: (pointer.hovered || !player.wanted || look.hasFocus(this)) && !player.scrubbing
     }
 
     ProgressLine {

@@ -18,6 +18,8 @@ QtObject {
     property var blocks: []
     // Title, shortcut and summary are all that the reader wants to see now.
     property bool small: false
+    // Whether the keyboard can come to what the popup shows.
+    readonly property bool focusable: view.reserved || reader.focusItem !== null
     readonly property bool rightToLeft: values.rightToLeft === true
     readonly property string documentation:
         !small && view.documentationAvailable && values.documentation || ""

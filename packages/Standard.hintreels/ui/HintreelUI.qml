@@ -10,6 +10,8 @@ Rectangle {
     id: root
 
     readonly property bool detached: hintreelView.reserved
+    // The keyboard is in the page, and not on anything in it.
+    readonly property bool pageFocused: hint.reader.focusItem === page
     readonly property color seam: detached ? look.background : look.line
     // Beyond that it would cover what the reader goes to next.
     readonly property int tallest:
@@ -29,8 +31,31 @@ Rectangle {
 
     Component.onCompleted: layOut()
 
+    // Where nothing is selected, all of it is meant.
+    Keys.onPressed: event => {
+        event.accepted = event.matches(StandardKey.Copy)
+        if (event.accepted)
+            hint.reader.copy(hint.values)
+    }
+
     LayoutMirroring.enabled: hint.rightToLeft
     LayoutMirroring.childrenInherit: true
+
+    // The first that Tab reaches, though it lies over the page.
+    IconButton {
+        id: pin
+        look: look
+        hint: hint
+        objectName: "pin"
+        anchors.right: parent.right
+        anchors.rightMargin: look.padding - look.step
+        y: Math.round(look.padding + (title.lineHeight - height) / 2)
+        z: 1
+        visible: !root.detached
+        name: hint.words.pin
+        path: "M10 2 L14 6 L11 7 L9 11 L5 7 L9 5 Z M7 9 L3 13"
+        onTriggered: hint.view.reserved = true
+    }
 
     Page {
         id: page
@@ -79,25 +104,12 @@ Rectangle {
         }
     }
 
-    IconButton {
-        id: pin
-        look: look
-        hint: hint
-        objectName: "pin"
-        anchors.right: parent.right
-        anchors.rightMargin: look.padding - look.step
-        y: Math.round(look.padding + (title.lineHeight - height) / 2)
-        visible: !root.detached
-        name: hint.words.pin
-        path: "M10 2 L14 6 L11 7 L9 11 L5 7 L9 5 Z M7 9 L3 13"
-        onTriggered: hint.view.reserved = true
-    }
-
     Connections {
         target: hint
         function onTaken() {
             root.layOut()
             page.contentY = 0 // what is new is read from its beginning
+            page.forceActiveFocus() // in the scene: what had the focus may be gone
         }
     }
 
@@ -106,8 +118,8 @@ Rectangle {
         anchors.fill: parent
         visible: !root.detached
         color: "transparent"
-        border.width: 1
-        border.color: look.line
+        border.width: root.pageFocused ? look.scaled(2) : 1
+        border.color: root.pageFocused ? look.focus : look.line
     }
 
     // QML evaluates what stands last first: the element after what it is read with, and all that is

@@ -10,7 +10,7 @@ Pressable {
     property alias path: icon.path
     property alias filled: icon.filled
 
-    implicitWidth: look.scaled(24)
+    implicitWidth: look.target
     implicitHeight: implicitWidth
 
     Rectangle {

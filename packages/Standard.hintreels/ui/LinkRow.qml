@@ -13,13 +13,14 @@ Pressable {
 
     name: text
     width: label.width + look.step + icon.width
-    height: label.height
+    height: Math.max(label.height, look.target)
     Accessible.role: Accessible.Link
     Accessible.description: hint.unseenTarget(target, text)
 
     Text {
         id: label
         anchors.left: parent.left
+        anchors.verticalCenter: parent.verticalCenter
         width: Math.min(implicitWidth, row.availableWidth - icon.width - row.look.step)
         color: row.look.link
         font.pixelSize: row.look.bodySize
@@ -34,7 +35,7 @@ Pressable {
         look: row.look
         anchors.left: label.right
         anchors.leftMargin: look.step
-        y: Math.round((label.contentHeight / label.lineCount - height) / 2)
+        y: Math.round(label.y + (label.contentHeight / label.lineCount - height) / 2)
         width: look.scaled(12)
         height: width
         color: look.link

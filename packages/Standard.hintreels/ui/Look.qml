@@ -36,6 +36,8 @@ QtObject {
     // One step of the grid; everything else is a multiple of it.
     readonly property int step: scaled(4)
     readonly property int padding: 4 * step
+    // What is smaller cannot be pressed by everybody (WCAG 2.5.8).
+    readonly property int target: Math.max(24, scaled(24))
     readonly property int radius: scaled(6)
     readonly property int width: scaled(hostFontSize * 28)
     readonly property int highestPicture: 2 * width
@@ -58,6 +60,11 @@ QtObject {
     // Opaque on purpose: a contrast can only be told of a colour that hides what is beneath.
     function mix(color, part) {
         return Qt.tint(palette.window, Qt.rgba(color.r, color.g, color.b, part))
+    }
+
+    // Also in a popup, whose window is not the active one.
+    function hasFocus(item) {
+        return item.activeFocus || reader.focusItem === item
     }
 
     function readable(color, ground = palette.window) {

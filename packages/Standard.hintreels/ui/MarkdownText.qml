@@ -33,10 +33,17 @@ TextEdit {
     // The space between lines stands below the last one, too.
     bottomPadding: -look.step
     readOnly: true
-    activeFocusOnPress: hint.view.reserved
-    selectByMouse: hint.view.reserved
+    activeFocusOnPress: hint.focusable
+    selectByMouse: hint.focusable
     selectionColor: look.palette.highlight
     selectedTextColor: look.palette.highlightedText
+
+    // What is selected, or all of the hint.
+    Keys.onPressed: event => {
+        event.accepted = !selectedText && event.matches(StandardKey.Copy)
+        if (event.accepted)
+            hint.reader.copy(hint.values)
+    }
 
     onLinkActivated: link => hint.view.openExternalResource(link)
     onLinkHovered: link => linkUnderPointer = link

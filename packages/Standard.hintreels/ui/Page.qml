@@ -10,7 +10,7 @@ Flickable {
     id: page
 
     property Look look
-    readonly property Item focusItem: Window.activeFocusItem
+    readonly property Item focusItem: look.reader.focusItem || Window.activeFocusItem
     readonly property real lowest: Math.max(0, contentHeight - height)
 
     function scrollTo(y) {

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
-// Whatever the reader can press: by mouse at any time, by keyboard once the popup is detached.
+// Whatever the reader can press: by mouse at any time, by keyboard where that has come into the
+// popup.
 import QtQuick 2.15
 
 Item {
@@ -15,11 +16,12 @@ Item {
 
     signal triggered
 
-    activeFocusOnTab: hint.view.reserved
+    activeFocusOnTab: hint.focusable
 
     Accessible.role: Accessible.Button
     Accessible.name: name
-    Accessible.focusable: hint.view.reserved
+    Accessible.focusable: hint.focusable
+    Accessible.focused: look.hasFocus(pressable)
     Accessible.onPressAction: triggered()
 
     Keys.onReturnPressed: triggered()

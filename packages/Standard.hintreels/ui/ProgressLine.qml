@@ -30,11 +30,12 @@ Item {
     anchors.left: parent.left
     anchors.right: parent.right
     anchors.bottom: parent.bottom
-    height: 3 * look.step
-    activeFocusOnTab: hint.view.reserved
+    height: Math.max(3 * look.step, Math.min(look.target, Math.round(parent.height / 3)))
+    activeFocusOnTab: hint.focusable
     Accessible.role: Accessible.Slider
     Accessible.name: hint.words.position
-    Accessible.focusable: hint.view.reserved
+    Accessible.focusable: hint.focusable
+    Accessible.focused: look.hasFocus(line)
     Accessible.onIncreaseAction: step(stepSize)
     Accessible.onDecreaseAction: step(-stepSize)
 

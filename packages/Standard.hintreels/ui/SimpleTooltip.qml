@@ -6,13 +6,22 @@ import QtQml 2.15
 import QtQuick 2.15
 
 Rectangle {
+    id: root
+
+    readonly property bool focused: look.reader.focusItem === root
     readonly property color seam: hintreelView.reserved ? look.background : look.line
 
     implicitWidth: title.width + 6 * look.step
     implicitHeight: Math.ceil(title.height) + 4 * look.step
     color: look.background
-    border.width: hintreelView.reserved ? 0 : 1
-    border.color: look.line
+    border.width: hintreelView.reserved ? 0 : focused ? look.scaled(2) : 1
+    border.color: focused ? look.focus : look.line
+    focus: true
+    Keys.onPressed: event => {
+        event.accepted = event.matches(StandardKey.Copy)
+        if (event.accepted)
+            hintreelReader.copy(hint.values)
+    }
 
     LayoutMirroring.enabled: hint.rightToLeft
     LayoutMirroring.childrenInherit: true

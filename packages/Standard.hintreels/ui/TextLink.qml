@@ -11,14 +11,16 @@ TextPlace {
         hint.view.openExternalResource(place.href)
     }
 
-    activeFocusOnTab: hint.view.reserved
+    activeFocusOnTab: hint.focusable
     Accessible.role: Accessible.Link
     Accessible.name: place.text
     Accessible.description: hint.unseenTarget(place.href, place.text)
-    Accessible.focusable: hint.view.reserved
+    Accessible.focusable: hint.focusable
+    Accessible.focused: look.hasFocus(link)
     Accessible.onPressAction: open()
     Keys.onReturnPressed: open()
     Keys.onEnterPressed: open()
+    Keys.onSpacePressed: open()
 
     FocusRing {
         look: link.look

@@ -31,6 +31,21 @@ HRPinnedWindow::HRPinnedWindow(HRWidget &popup, QWidget *parent)
     connect(popup.view(), &HRView::contentSizeChanged, this, &HRPinnedWindow::fit);
 }
 
+bool HRPinnedWindow::giveFocusBack() const
+{
+    if (!parentWidget())
+        return false;
+    parentWidget()->activateWindow();
+    return true;
+}
+
+void HRPinnedWindow::closeEvent(QCloseEvent *event)
+{
+    if (isActiveWindow())
+        giveFocusBack();
+    QWidget::closeEvent(event);
+}
+
 void HRPinnedWindow::resizeEvent(QResizeEvent *)
 {
     fit();

@@ -21,7 +21,12 @@ public:
     /// @param popup is about to be pinned, and has a view
     HRPinnedWindow(HRWidget &popup, QWidget *parent);
 
+    /// Makes the window that it was pinned from the active one; false where there is none.
+    bool giveFocusBack() const;
+
 protected:
+    /// Its reader goes on where the hint was asked for.
+    void closeEvent(QCloseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:

@@ -76,8 +76,7 @@ void HRWidget::setView(HRView *view)
         [this] { d->dismiss(); });
     connect(view, &HRView::stayOpenChanged, this, [this] { d->followStayOpen(); });
     connect(
-        view, &QQuickWindow::frameSwapped, this, [this] { d->paintHeldBack(); },
-        Qt::QueuedConnection);
+        view, &QQuickWindow::frameSwapped, this, [this] { d->takeFrame(); }, Qt::QueuedConnection);
     // A press inside a popup leaves the keyboard focus where it is.
     view->setFlag(Qt::WindowDoesNotAcceptFocus, !d->reserved);
     HRViewPrivate::of(*view).popup = this;
@@ -100,6 +99,8 @@ void HRWidget::SetContainerWidget(QWidget *container)
 
 bool HRWidget::isSafe(const QPoint &pos) const
 {
+    if (d->held)
+        return true;
     const QRect area(mapToGlobal(QPoint(0, 0)), frameGeometry().size());
     if (isNear(area, setting(d->settings(), safeMarginKey, QSize(20, 20)), pos))
         return true;
@@ -244,6 +245,8 @@ void HRWidget::hideEvent(QHideEvent *)
 {
     d->stopHiding();
     d->spoken.leave();
+    d->held = false;
+    d->hasFrame = false;
     if (!d->view)
         return;
     d->view->releaseOverrideCursors();

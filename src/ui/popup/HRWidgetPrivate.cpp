@@ -8,7 +8,6 @@
 #include "ui/popup/hostToolTip_p.h"
 #include "ui/popup/popupDismissal_p.h"
 #include "ui/popup/popupFit_p.h"
-#include "ui/popup/popupGeometry_p.h"
 #include "ui/popup/popupParts_p.h"
 #include "ui/popup/popupScreen_p.h"
 #include "ui/popup/sceneContext_p.h"
@@ -99,59 +98,9 @@ bool HRWidgetPrivate::takeEvent(QObject &watched, QEvent &event)
     return false;
 }
 
-QRect HRWidgetPrivate::screen() const
+bool HRWidgetPrivate::isPainted() const
 {
-    if (standsBeside())
-        return beside->screen();
-    if (isOnWayland())
-        return reserved ? everywhere() : roomBesideWindow(windowToStandBeside(reference), hovered);
-    return availableGeometry(reference, q->window()->pos());
-}
-
-bool HRWidgetPrivate::standsBeside() const
-{
-    return beside && !reserved && q->isWindow();
-}
-
-QSize HRWidgetPrivate::pointerOffset() const
-{
-    return setting(settings(), tooltipOffsetKey, QSize(35, 30));
-}
-
-/// Where a window goes that has this frame.
-QPoint HRWidgetPrivate::placeFor(const QRect &frame)
-{
-    if (standsBeside())
-        return beside->topLeftFor(frame.size(), pointerOffset());
-    if (isOnWayland() && !reserved)
-        return placeBesidePointer(
-            windowToStandBeside(reference), hovered, pointerOffset(), frame.size());
-    return movedInside(frame, screen()).topLeft();
-}
-
-/// Takes the place for a hint; a popup beside its part waits for the hint's size.
-void HRWidgetPrivate::takePlace(const QPoint &pos)
-{
-    beside.reset();
-    const QSize offset = pointerOffset();
-    hovered = withinReach(pos) - withinReach(QPoint(offset.width(), offset.height()));
-    if (setting(settings(), placementKey, int(placementAtPointer)) == placementBeside) {
-        beside.emplace().start(reference, area, hovered);
-        return;
-    }
-    q->move(withinReach(pos));
-    if (q->isVisible())
-        q->reposition();
-}
-
-/// Goes to where it will stand before it grows, or it would cover its part for a moment.
-void HRWidgetPrivate::makeRoom()
-{
-    if (!q->isVisible() || !standsBeside())
-        return;
-    const QRect frame = q->frameGeometry();
-    const QSize grown = frame.size() + sizeAroundContent(*q) - q->size();
-    q->move(placeFor(QRect(frame.topLeft(), grown.expandedTo(frame.size()))));
+    return q->isVisible() && hasFrame && !fade.isFadingOut();
 }
 
 bool HRWidgetPrivate::stays() const
@@ -164,6 +113,7 @@ void HRWidgetPrivate::takeReference(QObject *object, const QRect &part)
     QObject::disconnect(referenceGone);
     reference = qobject_cast<QWidget *>(object);
     area = part;
+    held = false;
     if (reference)
         referenceGone
             = QObject::connect(reference, &QObject::destroyed, q, [this] { dismissNatively(); });
@@ -206,7 +156,7 @@ void HRWidgetPrivate::followReferenceWindow()
 /// A pointer that is nowhere has left the safe area, too.
 bool HRWidgetPrivate::isSafe(const HRPointerWatch::Position &pointer) const
 {
-    return pointer && q->isSafe(*pointer);
+    return held || (pointer && q->isSafe(*pointer));
 }
 
 /// Decides anew whether the time until hiding runs.
@@ -275,6 +225,12 @@ void HRWidgetPrivate::paintHeldBack()
         return;
     q->setUpdatesEnabled(true);
     q->repaint();
+}
+
+void HRWidgetPrivate::takeFrame()
+{
+    hasFrame = q->isVisible();
+    paintHeldBack();
 }
 
 /// Takes the size of new content at once: the view's own resize event comes a round trip to the

@@ -44,6 +44,16 @@ struct HRWidgetPrivate
     /// @return true where nobody else may see the event
     bool takeEvent(QObject &watched, QEvent &event);
 
+    /// Keeps the hint on show wherever the pointer is: its reader has asked for it without one.
+    void hold()
+    {
+        held = true;
+        hideTimer.stop();
+    }
+
+    /// Whether the reader sees the hint, and it is not about to go.
+    bool isPainted() const;
+
     bool appear(bool isLoaded);
     QRect screen() const;
     bool stays() const;
@@ -68,6 +78,7 @@ struct HRWidgetPrivate
     void keepInside();
     void paintAfterContent();
     void paintHeldBack();
+    void takeFrame();
     void followContent();
     void takeInContent();
     void followScene();
@@ -104,6 +115,8 @@ struct HRWidgetPrivate
     QMetaObject::Connection goingWithWindow;
     bool reserved = false; // by its reader, and a window of its own ever since
     bool placedByReader = false;
+    bool held = false; // until it hides, or shows another hint
+    bool hasFrame = false; // of the content, since it has appeared
 };
 
 } // namespace Hintreels

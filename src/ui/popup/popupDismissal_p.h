@@ -14,6 +14,9 @@ namespace Hintreels {
 
 class HRWidget;
 
+/// Whether a key, of Qt::Key, does nothing but change others.
+bool isModifier(int key);
+
 /// Whether an event that somebody gets takes native tool tips away, and with them a popup.
 ///
 /// That is a key in the host, but not a modifier alone; the wheel or a drag over the host; a window

@@ -40,6 +40,12 @@ void setLastingProperties(QQmlContext &context, HRView *view, const QPointer<HRM
             [view] { tellReader(*view, &HRContentReader::follow); });
 }
 
+HRContentReader *readerOf(const HRView &view)
+{
+    const QVariant reader = view.rootContext()->contextProperty(QStringLiteral("hintreelReader"));
+    return reader.value<HRContentReader *>();
+}
+
 } // namespace
 
 void setSceneContext(HRView &view, HRXmlElement *content, const QString &packageRoot,
@@ -58,9 +64,16 @@ void setSceneColors(HRView &view, const QVariantMap &colors)
 {
     const HRSceneLoader::Work work(&HRViewPrivate::of(view).loader);
     const HRScriptWatch::Entry entry(HRViewPrivate::of(view).watch);
-    const QVariant reader = view.rootContext()->contextProperty(QStringLiteral("hintreelReader"));
-    if (auto *contentReader = reader.value<HRContentReader *>())
-        contentReader->setHostColors(colors);
+    if (HRContentReader *reader = readerOf(view))
+        reader->setHostColors(colors);
+}
+
+void setSceneFocus(HRView &view, QQuickItem *item)
+{
+    const HRSceneLoader::Work work(&HRViewPrivate::of(view).loader);
+    const HRScriptWatch::Entry entry(HRViewPrivate::of(view).watch);
+    if (HRContentReader *reader = readerOf(view))
+        reader->setFocusItem(item);
 }
 
 void growScene(HRView &view)

@@ -9,6 +9,10 @@ QT_BEGIN_NAMESPACE
 class QString;
 QT_END_NAMESPACE
 
+QT_BEGIN_NAMESPACE
+class QQuickItem;
+QT_END_NAMESPACE
+
 namespace Hintreels {
 
 class HRManager;
@@ -29,5 +33,9 @@ void setSceneColors(HRView &view, const QVariantMap &colors);
 
 /// Lets a hint that has begun small show all that its reader wants.
 void growScene(HRView &view);
+
+/// Tells the scene which of its items has the keyboard while its window is not the active one; null
+/// for none.
+void setSceneFocus(HRView &view, QQuickItem *item);
 
 } // namespace Hintreels

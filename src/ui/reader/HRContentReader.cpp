@@ -8,6 +8,7 @@
 #include "ui/reader/HRUiWords_p.h"
 #include "ui/reader/heapTrim_p.h"
 #include "ui/reader/hintReading_p.h"
+#include "ui/reader/hintText_p.h"
 #include "ui/reader/keyCaps_p.h"
 #include "ui/reader/pictureFile_p.h"
 #include "ui/reader/readableColor_p.h"
@@ -17,6 +18,8 @@
 #include "video/captions_p.h"
 #include "video/clipSize_p.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QQuickTextDocument>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -91,6 +94,14 @@ void HRContentReader::setHostColors(const QVariantMap &colors)
     Q_EMIT hostColorsChanged();
 }
 
+void HRContentReader::setFocusItem(QQuickItem *item)
+{
+    if (m_focusItem == item)
+        return;
+    m_focusItem = item;
+    Q_EMIT focusItemChanged();
+}
+
 QVariantMap HRContentReader::read(HRXmlElement *element, const QJSValue &say) const
 {
     if (!element)
@@ -135,6 +146,11 @@ void HRContentReader::follow()
         return;
     m_told = detail();
     Q_EMIT detailChanged();
+}
+
+void HRContentReader::copy(const QVariantMap &hint) const
+{
+    QGuiApplication::clipboard()->setText(hintText(hint));
 }
 
 QString HRContentReader::word(const QString &text) const

@@ -12,6 +12,8 @@
 #include <QColor>
 #include <QJSValue>
 #include <QObject>
+#include <QPointer>
+#include <QQuickItem>
 #include <QVariantMap>
 
 #include <functional>
@@ -42,6 +44,7 @@ class HRContentReader : public QObject, private QAccessible::ActivationObserver
     Q_PROPERTY(bool showsCaptions READ showsCaptions NOTIFY decided)
     Q_PROPERTY(double textScale READ textScale NOTIFY decided)
     Q_PROPERTY(bool spoken READ isSpoken NOTIFY spokenChanged)
+    Q_PROPERTY(QQuickItem *focusItem READ focusItem NOTIFY focusItemChanged)
 
 public:
     using SettingsSource = std::function<HRSceneSettings()>;
@@ -121,6 +124,15 @@ public:
     double textScale() const { return m_settings().textScale; }
     ///@}
 
+    /// What has the keyboard where the reader has taken that into the popup, whose window is not
+    /// the active one then; else null.
+    QQuickItem *focusItem() const { return m_focusItem; }
+    void setFocusItem(QQuickItem *item);
+
+    /// Puts all that a hint says onto the clipboard: see Hintreels::hintText().
+    /// @param hint as read() has returned it
+    Q_INVOKABLE void copy(const QVariantMap &hint) const;
+
     /// Names of the files in which a clip's captions may lie, the best for the reader first.
     Q_INVOKABLE QStringList captionFiles(const QString &clip) const;
 
@@ -166,6 +178,7 @@ Q_SIGNALS:
     void decided();
     /// isSmall() and shownBlocks() have other answers than when the hint was read.
     void detailChanged();
+    void focusItemChanged();
 
     void spokenChanged();
 
@@ -188,6 +201,7 @@ private:
     QVariantMap m_hostColors;
     mutable bool m_beginsSmall = false; // the hint on show
     mutable HRReaderSettings::Detail m_told = HRReaderSettings::fullDetail; // to the scene
+    QPointer<QQuickItem> m_focusItem;
 };
 
 } // namespace Hintreels
