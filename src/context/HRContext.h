@@ -85,6 +85,15 @@ enum contextKey : int
                                   ///< the line, when a look-up reads it
     requireUiKey = 10013, ///< bool, false: a hint whose QML root file is missing or broken is no
                           ///< hint
+    hintShortcutKey = 10014, ///< string, empty: with HRWidgetsInterface, the keys ("Shift+F1") that
+                             ///< show the hint of what has the keyboard focus, enter it and leave
+                             ///< it; empty for none
+    hintOnFocusKey = 10015, ///< bool, false: with HRWidgetsInterface, the focus alone shows a hint
+                            ///< after a second
+    dismissalByCtrlKey = 10016, ///< bool, false: with HRWidgetsInterface, Ctrl pressed and released
+                                ///< alone takes the popup away
+    dismissalByEscapeKey = 10017, ///< bool, false: with HRWidgetsInterface, Escape takes a painted
+                                  ///< popup away, and nobody else gets that Escape
     announceHoverKey = 10020, ///< bool, false: assistive technology is told of each hint that
                               ///< spokenHintsKey lets it find, not only of those shown by a key
     spokenHintsKey = 10021, ///< bool, false: while assistive technology is at work, the popup is

@@ -12,13 +12,18 @@ void HRReservedPopups::append(HRWidget *popup)
     m_popups.append(popup);
 }
 
-HRXmlElement *HRReservedPopups::content(const QString &key) const
+HRWidget *HRReservedPopups::popup(const QString &key) const
 {
     for (const QPointer<HRWidget> &popup : m_popups) {
-        if (HRXmlElement *content = shownContent(popup, key))
-            return content;
+        if (shownContent(popup, key))
+            return popup;
     }
     return nullptr;
+}
+
+HRXmlElement *HRReservedPopups::content(const QString &key) const
+{
+    return shownContent(popup(key), key);
 }
 
 void HRReservedPopups::raise()

@@ -20,7 +20,10 @@ class HRReservedPopups
 public:
     void append(HRWidget *popup);
 
-    /// The first popup's content for a key; null where none shows it.
+    /// The first popup that shows content for a key; null where none does.
+    HRWidget *popup(const QString &key) const;
+
+    /// The content of that popup.
     HRXmlElement *content(const QString &key) const;
 
     void raise();

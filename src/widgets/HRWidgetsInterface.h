@@ -31,7 +31,9 @@ struct HRWidgetsInterfacePrivate;
 ///
 /// These settings are on where the host has not set them: applicationFilterKey, ownFilesOnlyKey,
 /// placementKey (placementBeside), popupPressesKey, nativeDismissalKey, hostToolTipsKey,
-/// hostColorsKey, reportBrokenFilesKey and requireUiKey; readerSettingsKey has readerSettings().
+/// hostColorsKey, reportBrokenFilesKey, requireUiKey, hintShortcutKey (Shift+F1) and
+/// dismissalByEscapeKey; readerSettingsKey has readerSettings(). docs/accessibility.md tells what
+/// the keyboard does.
 ///
 /// All virtual operations may be overridden. GUI thread only; widgets, actions and the interface
 /// itself may be deleted at any time.

@@ -5,6 +5,8 @@
 
 #include "context/setting_p.h"
 #include "manager/HRManagerPrivate_p.h"
+#include "ui/popup/HRWidgetPrivate_p.h"
+#include "ui/popup/popupScreen_p.h"
 #include "widgets/partHover_p.h"
 #include "widgets/parts/partAt_p.h"
 #include "widgets/parts/partPlace_p.h"
@@ -29,6 +31,12 @@ const QAction *actionNamed(const QString &name)
     return nullptr;
 }
 
+/// Where a part begins that nobody points at.
+QPoint cornerOf(const HRPart &part)
+{
+    return part.area.isEmpty() ? visibleArea(part.widget).topLeft() : part.area.topLeft();
+}
+
 } // namespace
 
 HRWidgetsInterfacePrivate::HRWidgetsInterfacePrivate(HRWidgetsInterface *interface)
@@ -36,6 +44,12 @@ HRWidgetsInterfacePrivate::HRWidgetsInterfacePrivate(HRWidgetsInterface *interfa
     , m_rest([this] {
         const HRReaderSettings *reader = q->readerSettings();
         return reader ? reader->delay() : HRRestWatch::desktopsDelay;
+    })
+    , m_keyHints(
+          interface->manager(), [this](QWidget *focused) { return partOf(focused, &partInFocus); },
+          [this](const HRPart &part) { return showWithoutPointer(part, cornerOf(part)); })
+    , m_longPress([this](QWidget *touched, const QPoint &position) {
+        return showForFinger(touched, position);
     })
 {
 }
@@ -47,6 +61,9 @@ QVariant HRWidgetsInterfacePrivate::makeReaderSettings()
 
 bool HRWidgetsInterfacePrivate::eventFilter(QObject *watched, QEvent *event)
 {
+    const std::shared_ptr<HRWidgetsInterfacePrivate> work = q->d;
+    if (m_keyHints.filter(*watched, *event) || m_longPress.filter(*watched, *event))
+        return true;
     auto *widget = event->type() == QEvent::ToolTip ? qobject_cast<QWidget *>(watched) : nullptr;
     if (m_rest.holdsBack(watched, *event))
         return true;
@@ -71,29 +88,53 @@ bool HRWidgetsInterfacePrivate::showsOnHover() const
 
 bool HRWidgetsInterfacePrivate::showToolTip(QWidget *widget, const QPoint &position)
 {
-    const std::shared_ptr<HRWidgetsInterfacePrivate> work = q->d;
-    const QPointer<HRWidgetsInterface> interface = q;
     const QPointer<QWidget> target = widget;
-    const HRPart part = partOf(widget, position);
-    if (!target || !interface)
-        return !target;
-    const std::optional<HRPart> outer = std::exchange(m_hovered, part);
-    const bool isShown = HRManagerPrivate::of(*interface->manager())->show(hoverOf(part, position));
-    m_hovered = outer;
+    const std::optional<HRPart> part
+        = partOf(widget, [&](QWidget *hovered) { return partAt(hovered, position); });
+    const bool isShown = part && show(*part, position);
     // Nobody else may see the event of a widget that is gone.
     return isShown || !target;
 }
 
+bool HRWidgetsInterfacePrivate::show(const HRPart &part, const QPoint &position)
+{
+    const std::shared_ptr<HRWidgetsInterfacePrivate> work = q->d;
+    const std::optional<HRPart> outer = std::exchange(m_hovered, part);
+    const bool isShown = HRManagerPrivate::of(*q->manager())->show(hoverOf(part, position));
+    m_hovered = outer;
+    return isShown;
+}
+
+/// Where nothing is to be shown, another hint may stay for the pointer.
+bool HRWidgetsInterfacePrivate::showWithoutPointer(const HRPart &part, const QPoint &position)
+{
+    const QPointer<HRWidgetsInterface> interface = q;
+    const QPointer<QWidget> widget = part.widget;
+    const bool isShown = show(part, position) && interface && widget;
+    HRWidget *popup = isShown ? interface->manager()->widget() : nullptr;
+    if (!popup || popup->referenceWidget() != widget)
+        return false;
+    HRWidgetPrivate::of(*popup).hold();
+    return true;
+}
+
+bool HRWidgetsInterfacePrivate::showForFinger(QWidget *widget, const QPoint &position)
+{
+    const std::optional<HRPart> part
+        = partOf(widget, [&](QWidget *touched) { return partAt(touched, position); });
+    return part && showWithoutPointer(*part, position);
+}
+
 /// A host's own key is for all of a widget. Nothing is known of what the host deletes when asked.
-HRPart HRWidgetsInterfacePrivate::partOf(QWidget *widget, const QPoint &position) const
+std::optional<HRPart> HRWidgetsInterfacePrivate::partOf(QWidget *widget, const FindPart &find) const
 {
     const QPointer<HRWidgetsInterface> interface = q;
     const QPointer<QWidget> target = widget;
     const QString key = interface->keyForObject(widget);
     if (!target || !interface)
-        return HRPart(nullptr);
+        return std::nullopt;
     if (!isHostsOwn(key, widget))
-        return partAt(widget, position);
+        return find(widget);
     HRPart part = wholePart(widget);
     part.widget = widget;
     part.area = QRect();

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "widgets/HRKeyHints_p.h"
+#include "widgets/HRLongPress_p.h"
 #include "widgets/HRRestWatch_p.h"
 #include "widgets/HRWidgetsInterface.h"
 #include "widgets/parts/HRPart_p.h"
@@ -29,8 +31,13 @@ struct HRWidgetsInterfacePrivate : public QObject
     QString shortcut(const QString &key, QObject *object) const;
 
 private:
+    using FindPart = std::function<HRPart(QWidget *widget)>;
+
     bool showToolTip(QWidget *widget, const QPoint &position);
-    HRPart partOf(QWidget *widget, const QPoint &position) const;
+    bool show(const HRPart &part, const QPoint &position);
+    bool showWithoutPointer(const HRPart &part, const QPoint &position);
+    bool showForFinger(QWidget *widget, const QPoint &position);
+    std::optional<HRPart> partOf(QWidget *widget, const FindPart &find) const;
     bool isHostsOwn(const QString &key, QObject *object) const;
 
     bool showsOnHover() const;
@@ -38,6 +45,8 @@ private:
     HRWidgetsInterface *q;
     HRRestWatch m_rest;
     std::optional<HRPart> m_hovered; // while its hint is looked for
+    HRKeyHints m_keyHints;
+    HRLongPress m_longPress;
 };
 
 } // namespace Hintreels

@@ -20,6 +20,8 @@ const QPair<contextKey, QVariant> defaults[] = {
     { hostColorsKey, true },
     { reportBrokenFilesKey, true },
     { requireUiKey, true },
+    { hintShortcutKey, QStringLiteral("Shift+F1") },
+    { dismissalByEscapeKey, true },
     { spokenHintsKey, true },
 };
 

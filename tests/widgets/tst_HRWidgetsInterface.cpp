@@ -257,9 +257,11 @@ void tst_HRWidgetsInterface::settings_areOn_unlessHostSetsThem()
     QVERIFY(all.context().get(applicationFilterKey, false).toBool());
     QCOMPARE(all.context().get(placementKey, 0).toInt(), int(placementBeside));
     for (const int key : { popupPressesKey, nativeDismissalKey, hostToolTipsKey, hostColorsKey,
-             reportBrokenFilesKey, requireUiKey, spokenHintsKey })
+             reportBrokenFilesKey, requireUiKey, dismissalByEscapeKey, spokenHintsKey })
         QVERIFY(all.context().get(key, false).toBool());
-    QVERIFY(!all.context().get(announceHoverKey, false).toBool());
+    QCOMPARE(all.context().get(hintShortcutKey, {}).toString(), QString("Shift+F1"));
+    for (const int key : { hintOnFocusKey, dismissalByCtrlKey, announceHoverKey })
+        QVERIFY(!all.context().contains(key));
     QVERIFY(context.keys().isEmpty());
     context.set(ownFilesOnlyKey, false);
     Host some(context, {});
