@@ -76,7 +76,7 @@ void tst_HRWidgetReserved::reserve_leavesItsPart_andNeedsNoContent()
     QWidget window;
     window.setWindowTitle("before");
     f.host->window = &window;
-    const std::unique_ptr<HRXmlElement> content(f.show());
+    const std::unique_ptr<QObject> root(f.show()->parent()); // nobody's, once it is taken away
     QVERIFY(HRWidgetPrivate::of(*f.popup).standsBeside());
     f.popup->view()->setContent(nullptr);
     f.popup->view()->setReserved(true);
