@@ -20,6 +20,7 @@ int main(int argc, char *argv[])
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication application(argc, argv);
+    application.setOrganizationName(QStringLiteral("Hintreels"));
     application.setApplicationName(QStringLiteral("Sketchpad"));
     const Sketchpad::Options options = Sketchpad::readOptions(application);
 

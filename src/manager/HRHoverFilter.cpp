@@ -5,6 +5,7 @@
 
 #include "ui/popup/HRView.h"
 #include "ui/popup/HRWidget.h"
+#include "ui/popup/popupParts_p.h"
 
 #include <QHelpEvent>
 #include <QMouseEvent>
@@ -51,7 +52,7 @@ void HRHoverFilter::followButton(const QObject *target) const
 {
     const auto *widget = qobject_cast<const QWidget *>(target);
     HRWidget *popup = m_popup();
-    if (!widget || !popup || !popup->isVisible() || popup == widget || popup->isAncestorOf(widget))
+    if (!widget || !popup || !popup->isVisible() || !isOfHost(*popup, *widget))
         return;
     if (popup->view() && popup->view()->stayOpen())
         popup->activateWindow();

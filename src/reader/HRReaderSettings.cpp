@@ -3,7 +3,9 @@
 
 #include "reader/HRReaderSettings.h"
 
+#include <QMetaMethod>
 #include <QSettings>
+#include <QUrl>
 
 #include <array>
 #include <utility>
@@ -23,6 +25,7 @@ enum Choice
     textSizeChoice,
     captionsChoice,
     startsSmallChoice,
+    seenLimitChoice,
     choiceCount
 };
 
@@ -46,6 +49,7 @@ constexpr std::array<Range, choiceCount> ranges{ {
     { "Hintreels/textSize", 100, 75, 300 },
     { "Hintreels/captions", 1, 0, 1 },
     { "Hintreels/startsSmall", 0, 0, 1 },
+    { "Hintreels/seenLimit", 0, 0, 100 },
 } };
 
 int bounded(const Range &range, int value)
@@ -56,6 +60,14 @@ int bounded(const Range &range, int value)
 QString nameOf(const Range &range)
 {
     return QString::fromLatin1(range.name);
+}
+
+const QString seenGroup = QStringLiteral("Hintreels/Seen");
+
+/// A key may hold what QSettings takes for groups.
+QString seenName(const QString &key)
+{
+    return seenGroup + u'/' + QString::fromLatin1(QUrl::toPercentEncoding(key));
 }
 
 /// What anybody may have written into the file.
@@ -193,6 +205,44 @@ bool HRReaderSettings::startsSmall() const
 void HRReaderSettings::setStartsSmall(bool small)
 {
     setValue(startsSmallChoice, small ? 1 : 0);
+}
+
+int HRReaderSettings::seenLimit() const
+{
+    return value(seenLimitChoice);
+}
+
+void HRReaderSettings::setSeenLimit(int times)
+{
+    setValue(seenLimitChoice, times);
+}
+
+bool HRReaderSettings::beginsSmall(const QString &key) const
+{
+    const int limit = seenLimit();
+    return startsSmall() || (limit > 0 && d->store->value(seenName(key)).toInt() >= limit);
+}
+
+void HRReaderSettings::countSeen(const QString &key)
+{
+    const int times = d->store->value(seenName(key)).toInt();
+    if (times < seenLimit())
+        d->store->setValue(seenName(key), times + 1);
+}
+
+void HRReaderSettings::forgetSeen()
+{
+    d->store->remove(seenGroup);
+}
+
+bool HRReaderSettings::isPageOffered() const
+{
+    return isSignalConnected(QMetaMethod::fromSignal(&HRReaderSettings::pageRequested));
+}
+
+void HRReaderSettings::requestPage()
+{
+    Q_EMIT pageRequested();
 }
 
 } // namespace Hintreels

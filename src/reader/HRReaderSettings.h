@@ -40,6 +40,7 @@ class HINTREELS_EXPORT HRReaderSettings : public QObject
     Q_PROPERTY(int textSize READ textSize WRITE setTextSize NOTIFY changed)
     Q_PROPERTY(bool captionsShown READ areCaptionsShown WRITE setCaptionsShown NOTIFY changed)
     Q_PROPERTY(bool startsSmall READ startsSmall WRITE setStartsSmall NOTIFY changed)
+    Q_PROPERTY(int seenLimit READ seenLimit WRITE setSeenLimit NOTIFY changed)
     ///@}
 
 public:
@@ -135,9 +136,32 @@ public:
     void setStartsSmall(bool small);
     ///@}
 
+    ///@{
+    /// After how many times in full a hint starts small from then on, up to 100; 0 is never, which
+    /// is the default. Only while it is above 0 hints are counted.
+    int seenLimit() const;
+    void setSeenLimit(int times);
+    ///@}
+
+    /// Whether the hint of a key starts small: all do, or this one has been seen often enough.
+    bool beginsSmall(const QString &key) const;
+    /// Counts a hint that is shown in full. Counts are kept with the values, by key.
+    void countSeen(const QString &key);
+    /// Forgets all that was counted.
+    void forgetSeen();
+
+    /// Whether somebody listens to pageRequested().
+    bool isPageOffered() const;
+    /// Emits pageRequested().
+    void requestPage();
+
 Q_SIGNALS:
     /// A value is another one now, and kept.
     void changed();
+
+    /// The reader has asked for the settings in a hint's context menu, which offers them while
+    /// somebody is connected: a host that opens its preferences, with a HRReaderSettingsWidget.
+    void pageRequested();
 
 private:
     int value(int choice) const;

@@ -13,7 +13,7 @@ namespace Hintreels {
 /// What the reader decides, as the settings name it; null where nobody asks for it, or where it is
 /// gone.
 /// @param context may be null
-inline const HRReaderSettings *readerSettings(const HRContext *context)
+inline HRReaderSettings *readerSettings(const HRContext *context)
 {
     return setting(context, readerSettingsKey, QPointer<HRReaderSettings>());
 }

@@ -44,6 +44,8 @@ private Q_SLOTS:
     void value_comesIntoItsRange();
     void files_mayHoldAnything_data();
     void files_mayHoldAnything();
+    void hint_beginsSmall_onceSeenOftenEnough();
+    void seen_isForgotten();
     void hostsSettings_areTheStandardStore();
 };
 
@@ -76,6 +78,7 @@ void tst_HRReaderSettings::value_isKeptAndTold_data()
     QTest::newRow("text size") << QByteArray("textSize") << 150;
     QTest::newRow("captions") << QByteArray("captionsShown") << 0;
     QTest::newRow("starts small") << QByteArray("startsSmall") << 1;
+    QTest::newRow("seen limit") << QByteArray("seenLimit") << 3;
 }
 
 void tst_HRReaderSettings::value_isKeptAndTold()
@@ -137,6 +140,38 @@ void tst_HRReaderSettings::files_mayHoldAnything()
     const Fixture f;
     f.store()->setValue("Hintreels/textSize", written);
     QTEST(f.read()->textSize(), "read");
+}
+
+void tst_HRReaderSettings::hint_beginsSmall_onceSeenOftenEnough()
+{
+    const Fixture f;
+    const std::unique_ptr<HRReaderSettings> settings = f.read();
+    const QString key = QString::fromUtf8("Window//Größe %1\\[a]");
+    settings->countSeen(key); // with the limit at 0
+    settings->setSeenLimit(2);
+    settings->countSeen(key);
+    QVERIFY(!settings->beginsSmall(key));
+    settings->countSeen(key);
+    QVERIFY(settings->beginsSmall(key));
+    QVERIFY(!settings->beginsSmall(QString(key).replace("//", "/"))); // the same to QSettings
+    QVERIFY(f.read()->beginsSmall(key));
+
+    settings->setSeenLimit(0);
+    QVERIFY(!settings->beginsSmall(key));
+    settings->setStartsSmall(true);
+    QVERIFY(settings->beginsSmall("any"));
+}
+
+void tst_HRReaderSettings::seen_isForgotten()
+{
+    const Fixture f;
+    const std::unique_ptr<HRReaderSettings> settings = f.read();
+    settings->setSeenLimit(1);
+    settings->countSeen("pen");
+    settings->forgetSeen();
+    QVERIFY(!settings->beginsSmall("pen"));
+    QCOMPARE(settings->seenLimit(), 1);
+    QCOMPARE(f.store()->allKeys().size(), 1);
 }
 
 void tst_HRReaderSettings::hostsSettings_areTheStandardStore()

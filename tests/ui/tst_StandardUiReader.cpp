@@ -57,6 +57,7 @@ private Q_SLOTS:
     void hint_growsWhereThePointerRests();
     void hint_growsWhenItIsPinned();
     void hint_isSmallAgain_whenItComesBack();
+    void hint_beginsSmall_onceItWasSeenInFull();
     void clip_playsAsItsReaderWants_atOnce();
     void clip_repeats_onlyWhereItMay_data();
     void clip_repeats_onlyWhereItMay();
@@ -145,6 +146,22 @@ void tst_StandardUiReader::hint_isSmallAgain_whenItComesBack()
     f.show();
 
     QCOMPARE(f.blocks(), 0);
+}
+
+void tst_StandardUiReader::hint_beginsSmall_onceItWasSeenInFull()
+{
+    ReaderFixture f;
+    f.reader.settings.setSeenLimit(1);
+    f.show();
+    QTRY_VERIFY(f.hasClip());
+    f.popup->hide();
+    f.show();
+    QCOMPARE(f.blocks(), 0);
+    f.popup->hide();
+
+    f.reader.settings.forgetSeen();
+    f.show();
+    QTRY_VERIFY(f.hasClip());
 }
 
 void tst_StandardUiReader::clip_playsAsItsReaderWants_atOnce()

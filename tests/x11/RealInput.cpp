@@ -82,6 +82,11 @@ void click(const QPoint &position)
         + QStringList{ "mousedown", "1", "mouseup", "1" });
 }
 
+void clickRight(const QPoint &position)
+{
+    xdotool(move(position) + QStringList{ "mousedown", "3", "mouseup", "3" });
+}
+
 void type(const QString &letters)
 {
     xdotool({ "type", "--delay", "20", letters });

@@ -29,6 +29,7 @@ void movePointer(const QPoint &position);
 void press();
 void release();
 void click(const QPoint &position);
+void clickRight(const QPoint &position);
 void type(const QString &letters);
 
 /// Presses and releases a key with its modifiers, as in "ctrl+k".

@@ -3,10 +3,13 @@
 
 #include "hints/SketchpadHints.h"
 
+#include "hints/HintSettings.h"
 #include "window/MainWindow.h"
 #include "window/MessageLog.h"
 
 #include <Hintreels/HRContext>
+
+#include <QAction>
 
 using namespace Hintreels;
 
@@ -25,6 +28,10 @@ SketchpadHints::SketchpadHints(
     setGlobalProperty(QStringLiteral("modifier"), QStringLiteral("Ctrl"));
     connect(&window, &MainWindow::hintLocaleChosen, this,
         [this](const QString &locale) { HRInterface::context().set(localeKey, locale); });
+    connect(window.action(QStringLiteral("helpHints")), &QAction::triggered, this,
+        &SketchpadHints::showSettings);
+    connect(
+        readerSettings(), &HRReaderSettings::pageRequested, this, &SketchpadHints::showSettings);
 }
 
 void SketchpadHints::configure(HRContext &context)
@@ -33,6 +40,12 @@ void SketchpadHints::configure(HRContext &context)
     context.set(allowNamedResourcesKey, true);
     context.set(localeKey, QStringLiteral("en_US"));
     context.set(showAnimationDurationKey, 120);
+}
+
+void SketchpadHints::showSettings()
+{
+    const QString locale = HRInterface::context().get(localeKey, QString()).toString();
+    (new HintSettings(readerSettings(), locale, &m_window))->show();
 }
 
 QWidget *SketchpadHints::createWindow(HRWindowType)

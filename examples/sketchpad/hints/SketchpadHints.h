@@ -30,6 +30,8 @@ public:
     void handleMessage(Hintreels::HRMessageType type, const QString &message) override;
 
 private:
+    void showSettings();
+
     MainWindow &m_window;
 };
 

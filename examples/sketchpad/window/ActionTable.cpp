@@ -69,6 +69,7 @@ const QVector<MenuRows> table{
     { "&Help",
         {
             { "helpContents", "&Contents", "F1" },
+            { "helpHints", "&Hints...", "" },
         } },
 };
 

@@ -65,6 +65,118 @@
         <source>Ended</source>
         <translation>انتهى</translation>
     </message>
+    <message>
+        <source>Hints</source>
+        <translation>التلميحات</translation>
+    </message>
+    <message>
+        <source>Show hints</source>
+        <translation>إظهار التلميحات</translation>
+    </message>
+    <message>
+        <source>Content</source>
+        <translation>المحتوى</translation>
+    </message>
+    <message>
+        <source>Everything</source>
+        <translation>كل شيء</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>النص فقط</translation>
+    </message>
+    <message>
+        <source>Title and summary</source>
+        <translation>العنوان والملخص</translation>
+    </message>
+    <message>
+        <source>Start small</source>
+        <translation>البدء مصغّرًا</translation>
+    </message>
+    <message>
+        <source>Appear</source>
+        <translation>الظهور</translation>
+    </message>
+    <message>
+        <source>When the pointer rests</source>
+        <translation>عند توقف المؤشر</translation>
+    </message>
+    <message>
+        <source>While Ctrl is held</source>
+        <translation>أثناء الضغط على Ctrl</translation>
+    </message>
+    <message>
+        <source>Only by a key</source>
+        <translation>بمفتاح فقط</translation>
+    </message>
+    <message>
+        <source>After a rest of</source>
+        <translation>بعد توقف لمدة</translation>
+    </message>
+    <message>
+        <source>As usual</source>
+        <translation>كالمعتاد</translation>
+    </message>
+    <message>
+        <source>Stay for</source>
+        <translation>البقاء لمدة</translation>
+    </message>
+    <message>
+        <source>Until closed</source>
+        <translation>حتى الإغلاق</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>المقاطع</translation>
+    </message>
+    <message>
+        <source>Play by themselves</source>
+        <translation>تشغيل تلقائي</translation>
+    </message>
+    <message>
+        <source>Play once</source>
+        <translation>تشغيل مرة واحدة</translation>
+    </message>
+    <message>
+        <source>Play on request</source>
+        <translation>تشغيل عند الطلب</translation>
+    </message>
+    <message>
+        <source>Show captions</source>
+        <translation>إظهار التسميات التوضيحية</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>حجم النص</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>المزيد</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>أقل</translation>
+    </message>
+    <message>
+        <source>No clips by themselves</source>
+        <translation>بدون تشغيل تلقائي للمقاطع</translation>
+    </message>
+    <message>
+        <source>Hint settings</source>
+        <translation>إعدادات التلميحات</translation>
+    </message>
+    <message>
+        <source>Small once seen</source>
+        <translation>مصغّر بعد مشاهدته</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>أبدًا</translation>
+    </message>
+    <message>
+        <source>Forget what was seen</source>
+        <translation>نسيان ما تمت مشاهدته</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

@@ -65,6 +65,118 @@
         <source>Ended</source>
         <translation>Завърши</translation>
     </message>
+    <message>
+        <source>Hints</source>
+        <translation>Подсказки</translation>
+    </message>
+    <message>
+        <source>Show hints</source>
+        <translation>Показване на подсказки</translation>
+    </message>
+    <message>
+        <source>Content</source>
+        <translation>Съдържание</translation>
+    </message>
+    <message>
+        <source>Everything</source>
+        <translation>Всичко</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>Само текст</translation>
+    </message>
+    <message>
+        <source>Title and summary</source>
+        <translation>Заглавие и резюме</translation>
+    </message>
+    <message>
+        <source>Start small</source>
+        <translation>Започване в малък вид</translation>
+    </message>
+    <message>
+        <source>Appear</source>
+        <translation>Поява</translation>
+    </message>
+    <message>
+        <source>When the pointer rests</source>
+        <translation>Когато показалецът спре</translation>
+    </message>
+    <message>
+        <source>While Ctrl is held</source>
+        <translation>Докато Ctrl е натиснат</translation>
+    </message>
+    <message>
+        <source>Only by a key</source>
+        <translation>Само с клавиш</translation>
+    </message>
+    <message>
+        <source>After a rest of</source>
+        <translation>След покой от</translation>
+    </message>
+    <message>
+        <source>As usual</source>
+        <translation>Както обикновено</translation>
+    </message>
+    <message>
+        <source>Stay for</source>
+        <translation>Остават за</translation>
+    </message>
+    <message>
+        <source>Until closed</source>
+        <translation>До затваряне</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>Клипове</translation>
+    </message>
+    <message>
+        <source>Play by themselves</source>
+        <translation>Пускане автоматично</translation>
+    </message>
+    <message>
+        <source>Play once</source>
+        <translation>Пускане веднъж</translation>
+    </message>
+    <message>
+        <source>Play on request</source>
+        <translation>Пускане при поискване</translation>
+    </message>
+    <message>
+        <source>Show captions</source>
+        <translation>Показване на надписи</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Размер на текста</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Повече</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>По-малко</translation>
+    </message>
+    <message>
+        <source>No clips by themselves</source>
+        <translation>Без автоматични клипове</translation>
+    </message>
+    <message>
+        <source>Hint settings</source>
+        <translation>Настройки на подсказките</translation>
+    </message>
+    <message>
+        <source>Small once seen</source>
+        <translation>Малък вид след видени</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Никога</translation>
+    </message>
+    <message>
+        <source>Forget what was seen</source>
+        <translation>Забравяне на видяното</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

@@ -65,6 +65,118 @@
         <source>Ended</source>
         <translation>Na konci</translation>
     </message>
+    <message>
+        <source>Hints</source>
+        <translation>Nápovědy</translation>
+    </message>
+    <message>
+        <source>Show hints</source>
+        <translation>Zobrazovat nápovědy</translation>
+    </message>
+    <message>
+        <source>Content</source>
+        <translation>Obsah</translation>
+    </message>
+    <message>
+        <source>Everything</source>
+        <translation>Vše</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>Pouze text</translation>
+    </message>
+    <message>
+        <source>Title and summary</source>
+        <translation>Název a shrnutí</translation>
+    </message>
+    <message>
+        <source>Start small</source>
+        <translation>Začínat v malém</translation>
+    </message>
+    <message>
+        <source>Appear</source>
+        <translation>Zobrazit</translation>
+    </message>
+    <message>
+        <source>When the pointer rests</source>
+        <translation>Když se ukazatel zastaví</translation>
+    </message>
+    <message>
+        <source>While Ctrl is held</source>
+        <translation>Při držení klávesy Ctrl</translation>
+    </message>
+    <message>
+        <source>Only by a key</source>
+        <translation>Pouze klávesou</translation>
+    </message>
+    <message>
+        <source>After a rest of</source>
+        <translation>Po zastavení na</translation>
+    </message>
+    <message>
+        <source>As usual</source>
+        <translation>Jako obvykle</translation>
+    </message>
+    <message>
+        <source>Stay for</source>
+        <translation>Ponechat po dobu</translation>
+    </message>
+    <message>
+        <source>Until closed</source>
+        <translation>Do zavření</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>Klipy</translation>
+    </message>
+    <message>
+        <source>Play by themselves</source>
+        <translation>Přehrávat samy</translation>
+    </message>
+    <message>
+        <source>Play once</source>
+        <translation>Přehrát jednou</translation>
+    </message>
+    <message>
+        <source>Play on request</source>
+        <translation>Přehrát na vyžádání</translation>
+    </message>
+    <message>
+        <source>Show captions</source>
+        <translation>Zobrazovat titulky</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Velikost textu</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Více</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>Méně</translation>
+    </message>
+    <message>
+        <source>No clips by themselves</source>
+        <translation>Klipy nepřehrávat samy</translation>
+    </message>
+    <message>
+        <source>Hint settings</source>
+        <translation>Nastavení nápověd</translation>
+    </message>
+    <message>
+        <source>Small once seen</source>
+        <translation>V malém po zhlédnutí</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nikdy</translation>
+    </message>
+    <message>
+        <source>Forget what was seen</source>
+        <translation>Zapomenout zhlédnuté</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

@@ -65,6 +65,118 @@
         <source>Ended</source>
         <translation>Zu Ende</translation>
     </message>
+    <message>
+        <source>Hints</source>
+        <translation>Hinweise</translation>
+    </message>
+    <message>
+        <source>Show hints</source>
+        <translation>Hinweise anzeigen</translation>
+    </message>
+    <message>
+        <source>Content</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Everything</source>
+        <translation>Alles</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>Nur Text</translation>
+    </message>
+    <message>
+        <source>Title and summary</source>
+        <translation>Titel und Zusammenfassung</translation>
+    </message>
+    <message>
+        <source>Start small</source>
+        <translation>Klein beginnen</translation>
+    </message>
+    <message>
+        <source>Appear</source>
+        <translation>Erscheinen</translation>
+    </message>
+    <message>
+        <source>When the pointer rests</source>
+        <translation>Wenn der Zeiger ruht</translation>
+    </message>
+    <message>
+        <source>While Ctrl is held</source>
+        <translation>Solange Strg gedrückt ist</translation>
+    </message>
+    <message>
+        <source>Only by a key</source>
+        <translation>Nur auf Tastendruck</translation>
+    </message>
+    <message>
+        <source>After a rest of</source>
+        <translation>Nach einer Ruhe von</translation>
+    </message>
+    <message>
+        <source>As usual</source>
+        <translation>Wie üblich</translation>
+    </message>
+    <message>
+        <source>Stay for</source>
+        <translation>Bleiben für</translation>
+    </message>
+    <message>
+        <source>Until closed</source>
+        <translation>Bis zum Schließen</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>Clips</translation>
+    </message>
+    <message>
+        <source>Play by themselves</source>
+        <translation>Von selbst abspielen</translation>
+    </message>
+    <message>
+        <source>Play once</source>
+        <translation>Einmal abspielen</translation>
+    </message>
+    <message>
+        <source>Play on request</source>
+        <translation>Auf Wunsch abspielen</translation>
+    </message>
+    <message>
+        <source>Show captions</source>
+        <translation>Untertitel anzeigen</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Textgröße</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Mehr</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>Weniger</translation>
+    </message>
+    <message>
+        <source>No clips by themselves</source>
+        <translation>Keine Clips von selbst</translation>
+    </message>
+    <message>
+        <source>Hint settings</source>
+        <translation>Einstellungen der Hinweise</translation>
+    </message>
+    <message>
+        <source>Small once seen</source>
+        <translation>Klein, sobald gesehen</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nie</translation>
+    </message>
+    <message>
+        <source>Forget what was seen</source>
+        <translation>Gesehenes vergessen</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

@@ -65,6 +65,118 @@
         <source>Ended</source>
         <translation>Terminado</translation>
     </message>
+    <message>
+        <source>Hints</source>
+        <translation>Sugerencias</translation>
+    </message>
+    <message>
+        <source>Show hints</source>
+        <translation>Mostrar sugerencias</translation>
+    </message>
+    <message>
+        <source>Content</source>
+        <translation>Contenido</translation>
+    </message>
+    <message>
+        <source>Everything</source>
+        <translation>Todo</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>Solo texto</translation>
+    </message>
+    <message>
+        <source>Title and summary</source>
+        <translation>Título y resumen</translation>
+    </message>
+    <message>
+        <source>Start small</source>
+        <translation>Empezar en pequeño</translation>
+    </message>
+    <message>
+        <source>Appear</source>
+        <translation>Aparecen</translation>
+    </message>
+    <message>
+        <source>When the pointer rests</source>
+        <translation>Al detener el puntero</translation>
+    </message>
+    <message>
+        <source>While Ctrl is held</source>
+        <translation>Mientras se mantiene Ctrl</translation>
+    </message>
+    <message>
+        <source>Only by a key</source>
+        <translation>Solo con una tecla</translation>
+    </message>
+    <message>
+        <source>After a rest of</source>
+        <translation>Tras una pausa de</translation>
+    </message>
+    <message>
+        <source>As usual</source>
+        <translation>Como de costumbre</translation>
+    </message>
+    <message>
+        <source>Stay for</source>
+        <translation>Permanecen</translation>
+    </message>
+    <message>
+        <source>Until closed</source>
+        <translation>Hasta cerrarlas</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>Clips</translation>
+    </message>
+    <message>
+        <source>Play by themselves</source>
+        <translation>Reproducir solos</translation>
+    </message>
+    <message>
+        <source>Play once</source>
+        <translation>Reproducir una vez</translation>
+    </message>
+    <message>
+        <source>Play on request</source>
+        <translation>Reproducir a petición</translation>
+    </message>
+    <message>
+        <source>Show captions</source>
+        <translation>Mostrar subtítulos</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Tamaño del texto</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Más</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>Menos</translation>
+    </message>
+    <message>
+        <source>No clips by themselves</source>
+        <translation>Sin clips automáticos</translation>
+    </message>
+    <message>
+        <source>Hint settings</source>
+        <translation>Ajustes de las sugerencias</translation>
+    </message>
+    <message>
+        <source>Small once seen</source>
+        <translation>Pequeño una vez visto</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nunca</translation>
+    </message>
+    <message>
+        <source>Forget what was seen</source>
+        <translation>Olvidar lo visto</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

@@ -65,6 +65,118 @@
         <source>Ended</source>
         <translation>Terminé</translation>
     </message>
+    <message>
+        <source>Hints</source>
+        <translation>Infobulles</translation>
+    </message>
+    <message>
+        <source>Show hints</source>
+        <translation>Afficher les infobulles</translation>
+    </message>
+    <message>
+        <source>Content</source>
+        <translation>Contenu</translation>
+    </message>
+    <message>
+        <source>Everything</source>
+        <translation>Tout</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>Texte seulement</translation>
+    </message>
+    <message>
+        <source>Title and summary</source>
+        <translation>Titre et résumé</translation>
+    </message>
+    <message>
+        <source>Start small</source>
+        <translation>Commencer en petit</translation>
+    </message>
+    <message>
+        <source>Appear</source>
+        <translation>Apparition</translation>
+    </message>
+    <message>
+        <source>When the pointer rests</source>
+        <translation>Quand le pointeur s’arrête</translation>
+    </message>
+    <message>
+        <source>While Ctrl is held</source>
+        <translation>Tant que Ctrl est enfoncée</translation>
+    </message>
+    <message>
+        <source>Only by a key</source>
+        <translation>Seulement par une touche</translation>
+    </message>
+    <message>
+        <source>After a rest of</source>
+        <translation>Après un arrêt de</translation>
+    </message>
+    <message>
+        <source>As usual</source>
+        <translation>Comme d’habitude</translation>
+    </message>
+    <message>
+        <source>Stay for</source>
+        <translation>Durée d’affichage</translation>
+    </message>
+    <message>
+        <source>Until closed</source>
+        <translation>Jusqu’à la fermeture</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>Clips</translation>
+    </message>
+    <message>
+        <source>Play by themselves</source>
+        <translation>Lire automatiquement</translation>
+    </message>
+    <message>
+        <source>Play once</source>
+        <translation>Lire une fois</translation>
+    </message>
+    <message>
+        <source>Play on request</source>
+        <translation>Lire à la demande</translation>
+    </message>
+    <message>
+        <source>Show captions</source>
+        <translation>Afficher les sous-titres</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Taille du texte</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Plus</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>Moins</translation>
+    </message>
+    <message>
+        <source>No clips by themselves</source>
+        <translation>Pas de clips automatiques</translation>
+    </message>
+    <message>
+        <source>Hint settings</source>
+        <translation>Réglages des infobulles</translation>
+    </message>
+    <message>
+        <source>Small once seen</source>
+        <translation>En petit une fois vue</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Jamais</translation>
+    </message>
+    <message>
+        <source>Forget what was seen</source>
+        <translation>Oublier ce qui a été vu</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

@@ -65,6 +65,118 @@
         <source>Ended</source>
         <translation>Véget ért</translation>
     </message>
+    <message>
+        <source>Hints</source>
+        <translation>Tippek</translation>
+    </message>
+    <message>
+        <source>Show hints</source>
+        <translation>Tippek megjelenítése</translation>
+    </message>
+    <message>
+        <source>Content</source>
+        <translation>Tartalom</translation>
+    </message>
+    <message>
+        <source>Everything</source>
+        <translation>Minden</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>Csak szöveg</translation>
+    </message>
+    <message>
+        <source>Title and summary</source>
+        <translation>Cím és összefoglaló</translation>
+    </message>
+    <message>
+        <source>Start small</source>
+        <translation>Kezdés kicsiben</translation>
+    </message>
+    <message>
+        <source>Appear</source>
+        <translation>Megjelenés</translation>
+    </message>
+    <message>
+        <source>When the pointer rests</source>
+        <translation>Ha a mutató megáll</translation>
+    </message>
+    <message>
+        <source>While Ctrl is held</source>
+        <translation>Amíg a Ctrl le van nyomva</translation>
+    </message>
+    <message>
+        <source>Only by a key</source>
+        <translation>Csak billentyűre</translation>
+    </message>
+    <message>
+        <source>After a rest of</source>
+        <translation>Ennyi várakozás után</translation>
+    </message>
+    <message>
+        <source>As usual</source>
+        <translation>A szokásos módon</translation>
+    </message>
+    <message>
+        <source>Stay for</source>
+        <translation>Láthatók maradnak</translation>
+    </message>
+    <message>
+        <source>Until closed</source>
+        <translation>Bezárásig</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>Klipek</translation>
+    </message>
+    <message>
+        <source>Play by themselves</source>
+        <translation>Lejátszás maguktól</translation>
+    </message>
+    <message>
+        <source>Play once</source>
+        <translation>Lejátszás egyszer</translation>
+    </message>
+    <message>
+        <source>Play on request</source>
+        <translation>Lejátszás kérésre</translation>
+    </message>
+    <message>
+        <source>Show captions</source>
+        <translation>Feliratok megjelenítése</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Szövegméret</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Több</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>Kevesebb</translation>
+    </message>
+    <message>
+        <source>No clips by themselves</source>
+        <translation>Ne induljanak maguktól a klipek</translation>
+    </message>
+    <message>
+        <source>Hint settings</source>
+        <translation>A tippek beállításai</translation>
+    </message>
+    <message>
+        <source>Small once seen</source>
+        <translation>Kicsiben, ha már látta</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Soha</translation>
+    </message>
+    <message>
+        <source>Forget what was seen</source>
+        <translation>A látottak elfelejtése</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

@@ -65,6 +65,118 @@
         <source>Ended</source>
         <translation>Selesai</translation>
     </message>
+    <message>
+        <source>Hints</source>
+        <translation>Petunjuk</translation>
+    </message>
+    <message>
+        <source>Show hints</source>
+        <translation>Tampilkan petunjuk</translation>
+    </message>
+    <message>
+        <source>Content</source>
+        <translation>Isi</translation>
+    </message>
+    <message>
+        <source>Everything</source>
+        <translation>Semuanya</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>Teks saja</translation>
+    </message>
+    <message>
+        <source>Title and summary</source>
+        <translation>Judul dan ringkasan</translation>
+    </message>
+    <message>
+        <source>Start small</source>
+        <translation>Mulai dengan kecil</translation>
+    </message>
+    <message>
+        <source>Appear</source>
+        <translation>Muncul</translation>
+    </message>
+    <message>
+        <source>When the pointer rests</source>
+        <translation>Saat penunjuk berhenti</translation>
+    </message>
+    <message>
+        <source>While Ctrl is held</source>
+        <translation>Selama Ctrl ditahan</translation>
+    </message>
+    <message>
+        <source>Only by a key</source>
+        <translation>Hanya dengan tombol</translation>
+    </message>
+    <message>
+        <source>After a rest of</source>
+        <translation>Setelah berhenti selama</translation>
+    </message>
+    <message>
+        <source>As usual</source>
+        <translation>Seperti biasa</translation>
+    </message>
+    <message>
+        <source>Stay for</source>
+        <translation>Bertahan selama</translation>
+    </message>
+    <message>
+        <source>Until closed</source>
+        <translation>Sampai ditutup</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>Klip</translation>
+    </message>
+    <message>
+        <source>Play by themselves</source>
+        <translation>Putar dengan sendirinya</translation>
+    </message>
+    <message>
+        <source>Play once</source>
+        <translation>Putar sekali</translation>
+    </message>
+    <message>
+        <source>Play on request</source>
+        <translation>Putar bila diminta</translation>
+    </message>
+    <message>
+        <source>Show captions</source>
+        <translation>Tampilkan teks klip</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Ukuran teks</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Lebih banyak</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>Lebih sedikit</translation>
+    </message>
+    <message>
+        <source>No clips by themselves</source>
+        <translation>Tanpa klip otomatis</translation>
+    </message>
+    <message>
+        <source>Hint settings</source>
+        <translation>Setelan petunjuk</translation>
+    </message>
+    <message>
+        <source>Small once seen</source>
+        <translation>Kecil setelah dilihat</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Tidak pernah</translation>
+    </message>
+    <message>
+        <source>Forget what was seen</source>
+        <translation>Lupakan yang sudah dilihat</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

@@ -65,6 +65,118 @@
         <source>Ended</source>
         <translation>Terminato</translation>
     </message>
+    <message>
+        <source>Hints</source>
+        <translation>Suggerimenti</translation>
+    </message>
+    <message>
+        <source>Show hints</source>
+        <translation>Mostra i suggerimenti</translation>
+    </message>
+    <message>
+        <source>Content</source>
+        <translation>Contenuto</translation>
+    </message>
+    <message>
+        <source>Everything</source>
+        <translation>Tutto</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>Solo testo</translation>
+    </message>
+    <message>
+        <source>Title and summary</source>
+        <translation>Titolo e riassunto</translation>
+    </message>
+    <message>
+        <source>Start small</source>
+        <translation>Inizia in piccolo</translation>
+    </message>
+    <message>
+        <source>Appear</source>
+        <translation>Appaiono</translation>
+    </message>
+    <message>
+        <source>When the pointer rests</source>
+        <translation>Quando il puntatore si ferma</translation>
+    </message>
+    <message>
+        <source>While Ctrl is held</source>
+        <translation>Mentre si tiene premuto Ctrl</translation>
+    </message>
+    <message>
+        <source>Only by a key</source>
+        <translation>Solo con un tasto</translation>
+    </message>
+    <message>
+        <source>After a rest of</source>
+        <translation>Dopo una sosta di</translation>
+    </message>
+    <message>
+        <source>As usual</source>
+        <translation>Come di consueto</translation>
+    </message>
+    <message>
+        <source>Stay for</source>
+        <translation>Restano per</translation>
+    </message>
+    <message>
+        <source>Until closed</source>
+        <translation>Fino alla chiusura</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>Clip</translation>
+    </message>
+    <message>
+        <source>Play by themselves</source>
+        <translation>Riproduci da sole</translation>
+    </message>
+    <message>
+        <source>Play once</source>
+        <translation>Riproduci una volta</translation>
+    </message>
+    <message>
+        <source>Play on request</source>
+        <translation>Riproduci su richiesta</translation>
+    </message>
+    <message>
+        <source>Show captions</source>
+        <translation>Mostra i sottotitoli</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Dimensione del testo</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Di più</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>Di meno</translation>
+    </message>
+    <message>
+        <source>No clips by themselves</source>
+        <translation>Nessuna clip automatica</translation>
+    </message>
+    <message>
+        <source>Hint settings</source>
+        <translation>Impostazioni dei suggerimenti</translation>
+    </message>
+    <message>
+        <source>Small once seen</source>
+        <translation>Piccolo dopo averlo visto</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Mai</translation>
+    </message>
+    <message>
+        <source>Forget what was seen</source>
+        <translation>Dimentica ciò che è stato visto</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

@@ -65,6 +65,118 @@
         <source>Ended</source>
         <translation>終了</translation>
     </message>
+    <message>
+        <source>Hints</source>
+        <translation>ヒント</translation>
+    </message>
+    <message>
+        <source>Show hints</source>
+        <translation>ヒントを表示</translation>
+    </message>
+    <message>
+        <source>Content</source>
+        <translation>内容</translation>
+    </message>
+    <message>
+        <source>Everything</source>
+        <translation>すべて</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>テキストのみ</translation>
+    </message>
+    <message>
+        <source>Title and summary</source>
+        <translation>タイトルと概要</translation>
+    </message>
+    <message>
+        <source>Start small</source>
+        <translation>小さく始める</translation>
+    </message>
+    <message>
+        <source>Appear</source>
+        <translation>表示の条件</translation>
+    </message>
+    <message>
+        <source>When the pointer rests</source>
+        <translation>ポインターが止まったとき</translation>
+    </message>
+    <message>
+        <source>While Ctrl is held</source>
+        <translation>Ctrl を押している間</translation>
+    </message>
+    <message>
+        <source>Only by a key</source>
+        <translation>キーを押したときのみ</translation>
+    </message>
+    <message>
+        <source>After a rest of</source>
+        <translation>止まってからの時間</translation>
+    </message>
+    <message>
+        <source>As usual</source>
+        <translation>通常どおり</translation>
+    </message>
+    <message>
+        <source>Stay for</source>
+        <translation>表示時間</translation>
+    </message>
+    <message>
+        <source>Until closed</source>
+        <translation>閉じるまで</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>クリップ</translation>
+    </message>
+    <message>
+        <source>Play by themselves</source>
+        <translation>自動で再生</translation>
+    </message>
+    <message>
+        <source>Play once</source>
+        <translation>一度だけ再生</translation>
+    </message>
+    <message>
+        <source>Play on request</source>
+        <translation>求めたときに再生</translation>
+    </message>
+    <message>
+        <source>Show captions</source>
+        <translation>字幕を表示</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>文字の大きさ</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>もっと表示</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>少なく表示</translation>
+    </message>
+    <message>
+        <source>No clips by themselves</source>
+        <translation>クリップを自動再生しない</translation>
+    </message>
+    <message>
+        <source>Hint settings</source>
+        <translation>ヒントの設定</translation>
+    </message>
+    <message>
+        <source>Small once seen</source>
+        <translation>見たあとは小さく</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>しない</translation>
+    </message>
+    <message>
+        <source>Forget what was seen</source>
+        <translation>見た記録を消す</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

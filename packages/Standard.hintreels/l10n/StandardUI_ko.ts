@@ -65,6 +65,118 @@
         <source>Ended</source>
         <translation>끝남</translation>
     </message>
+    <message>
+        <source>Hints</source>
+        <translation>힌트</translation>
+    </message>
+    <message>
+        <source>Show hints</source>
+        <translation>힌트 표시</translation>
+    </message>
+    <message>
+        <source>Content</source>
+        <translation>내용</translation>
+    </message>
+    <message>
+        <source>Everything</source>
+        <translation>모두</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>텍스트만</translation>
+    </message>
+    <message>
+        <source>Title and summary</source>
+        <translation>제목과 요약</translation>
+    </message>
+    <message>
+        <source>Start small</source>
+        <translation>작게 시작</translation>
+    </message>
+    <message>
+        <source>Appear</source>
+        <translation>나타나는 때</translation>
+    </message>
+    <message>
+        <source>When the pointer rests</source>
+        <translation>포인터가 멈출 때</translation>
+    </message>
+    <message>
+        <source>While Ctrl is held</source>
+        <translation>Ctrl을 누르는 동안</translation>
+    </message>
+    <message>
+        <source>Only by a key</source>
+        <translation>키로만</translation>
+    </message>
+    <message>
+        <source>After a rest of</source>
+        <translation>멈춘 뒤 시간</translation>
+    </message>
+    <message>
+        <source>As usual</source>
+        <translation>평소대로</translation>
+    </message>
+    <message>
+        <source>Stay for</source>
+        <translation>표시 시간</translation>
+    </message>
+    <message>
+        <source>Until closed</source>
+        <translation>닫을 때까지</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>클립</translation>
+    </message>
+    <message>
+        <source>Play by themselves</source>
+        <translation>자동 재생</translation>
+    </message>
+    <message>
+        <source>Play once</source>
+        <translation>한 번 재생</translation>
+    </message>
+    <message>
+        <source>Play on request</source>
+        <translation>요청할 때 재생</translation>
+    </message>
+    <message>
+        <source>Show captions</source>
+        <translation>자막 표시</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>글자 크기</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>더 보기</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>간단히</translation>
+    </message>
+    <message>
+        <source>No clips by themselves</source>
+        <translation>클립 자동 재생 안 함</translation>
+    </message>
+    <message>
+        <source>Hint settings</source>
+        <translation>힌트 설정</translation>
+    </message>
+    <message>
+        <source>Small once seen</source>
+        <translation>본 뒤에는 작게</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>안 함</translation>
+    </message>
+    <message>
+        <source>Forget what was seen</source>
+        <translation>본 기록 지우기</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

@@ -65,6 +65,118 @@
         <source>Ended</source>
         <translation>Terminado</translation>
     </message>
+    <message>
+        <source>Hints</source>
+        <translation>Dicas</translation>
+    </message>
+    <message>
+        <source>Show hints</source>
+        <translation>Mostrar dicas</translation>
+    </message>
+    <message>
+        <source>Content</source>
+        <translation>Conteúdo</translation>
+    </message>
+    <message>
+        <source>Everything</source>
+        <translation>Tudo</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>Só texto</translation>
+    </message>
+    <message>
+        <source>Title and summary</source>
+        <translation>Título e resumo</translation>
+    </message>
+    <message>
+        <source>Start small</source>
+        <translation>Começar pequeno</translation>
+    </message>
+    <message>
+        <source>Appear</source>
+        <translation>Aparecer</translation>
+    </message>
+    <message>
+        <source>When the pointer rests</source>
+        <translation>Quando o ponteiro para</translation>
+    </message>
+    <message>
+        <source>While Ctrl is held</source>
+        <translation>Enquanto Ctrl é mantido</translation>
+    </message>
+    <message>
+        <source>Only by a key</source>
+        <translation>Só com uma tecla</translation>
+    </message>
+    <message>
+        <source>After a rest of</source>
+        <translation>Após uma pausa de</translation>
+    </message>
+    <message>
+        <source>As usual</source>
+        <translation>Como de costume</translation>
+    </message>
+    <message>
+        <source>Stay for</source>
+        <translation>Permanecer por</translation>
+    </message>
+    <message>
+        <source>Until closed</source>
+        <translation>Até fechar</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>Clipes</translation>
+    </message>
+    <message>
+        <source>Play by themselves</source>
+        <translation>Reproduzir sozinhos</translation>
+    </message>
+    <message>
+        <source>Play once</source>
+        <translation>Reproduzir uma vez</translation>
+    </message>
+    <message>
+        <source>Play on request</source>
+        <translation>Reproduzir a pedido</translation>
+    </message>
+    <message>
+        <source>Show captions</source>
+        <translation>Mostrar legendas</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Tamanho do texto</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Mais</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>Menos</translation>
+    </message>
+    <message>
+        <source>No clips by themselves</source>
+        <translation>Sem clipes automáticos</translation>
+    </message>
+    <message>
+        <source>Hint settings</source>
+        <translation>Definições das dicas</translation>
+    </message>
+    <message>
+        <source>Small once seen</source>
+        <translation>Pequeno depois de visto</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nunca</translation>
+    </message>
+    <message>
+        <source>Forget what was seen</source>
+        <translation>Esquecer o que foi visto</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

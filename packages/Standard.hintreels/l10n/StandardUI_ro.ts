@@ -65,6 +65,118 @@
         <source>Ended</source>
         <translation>Încheiat</translation>
     </message>
+    <message>
+        <source>Hints</source>
+        <translation>Indicii</translation>
+    </message>
+    <message>
+        <source>Show hints</source>
+        <translation>Afișează indiciile</translation>
+    </message>
+    <message>
+        <source>Content</source>
+        <translation>Conținut</translation>
+    </message>
+    <message>
+        <source>Everything</source>
+        <translation>Tot</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>Doar text</translation>
+    </message>
+    <message>
+        <source>Title and summary</source>
+        <translation>Titlu și rezumat</translation>
+    </message>
+    <message>
+        <source>Start small</source>
+        <translation>Începe în formă mică</translation>
+    </message>
+    <message>
+        <source>Appear</source>
+        <translation>Apar</translation>
+    </message>
+    <message>
+        <source>When the pointer rests</source>
+        <translation>Când indicatorul se oprește</translation>
+    </message>
+    <message>
+        <source>While Ctrl is held</source>
+        <translation>Cât timp Ctrl este apăsat</translation>
+    </message>
+    <message>
+        <source>Only by a key</source>
+        <translation>Doar cu o tastă</translation>
+    </message>
+    <message>
+        <source>After a rest of</source>
+        <translation>După o oprire de</translation>
+    </message>
+    <message>
+        <source>As usual</source>
+        <translation>Ca de obicei</translation>
+    </message>
+    <message>
+        <source>Stay for</source>
+        <translation>Rămân timp de</translation>
+    </message>
+    <message>
+        <source>Until closed</source>
+        <translation>Până la închidere</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>Clipuri</translation>
+    </message>
+    <message>
+        <source>Play by themselves</source>
+        <translation>Redă automat</translation>
+    </message>
+    <message>
+        <source>Play once</source>
+        <translation>Redă o dată</translation>
+    </message>
+    <message>
+        <source>Play on request</source>
+        <translation>Redă la cerere</translation>
+    </message>
+    <message>
+        <source>Show captions</source>
+        <translation>Afișează subtitrările</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Mărimea textului</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Mai mult</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>Mai puțin</translation>
+    </message>
+    <message>
+        <source>No clips by themselves</source>
+        <translation>Fără clipuri automate</translation>
+    </message>
+    <message>
+        <source>Hint settings</source>
+        <translation>Setările indiciilor</translation>
+    </message>
+    <message>
+        <source>Small once seen</source>
+        <translation>Mic după ce a fost văzut</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Niciodată</translation>
+    </message>
+    <message>
+        <source>Forget what was seen</source>
+        <translation>Uită ce s-a văzut</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

@@ -65,6 +65,118 @@
         <source>Ended</source>
         <translation>Bitti</translation>
     </message>
+    <message>
+        <source>Hints</source>
+        <translation>İpuçları</translation>
+    </message>
+    <message>
+        <source>Show hints</source>
+        <translation>İpuçlarını göster</translation>
+    </message>
+    <message>
+        <source>Content</source>
+        <translation>İçerik</translation>
+    </message>
+    <message>
+        <source>Everything</source>
+        <translation>Her şey</translation>
+    </message>
+    <message>
+        <source>Text only</source>
+        <translation>Yalnızca metin</translation>
+    </message>
+    <message>
+        <source>Title and summary</source>
+        <translation>Başlık ve özet</translation>
+    </message>
+    <message>
+        <source>Start small</source>
+        <translation>Küçük başla</translation>
+    </message>
+    <message>
+        <source>Appear</source>
+        <translation>Görünme</translation>
+    </message>
+    <message>
+        <source>When the pointer rests</source>
+        <translation>İmleç durduğunda</translation>
+    </message>
+    <message>
+        <source>While Ctrl is held</source>
+        <translation>Ctrl basılıyken</translation>
+    </message>
+    <message>
+        <source>Only by a key</source>
+        <translation>Yalnızca tuşla</translation>
+    </message>
+    <message>
+        <source>After a rest of</source>
+        <translation>Şu kadar duruştan sonra</translation>
+    </message>
+    <message>
+        <source>As usual</source>
+        <translation>Her zamanki gibi</translation>
+    </message>
+    <message>
+        <source>Stay for</source>
+        <translation>Kalma süresi</translation>
+    </message>
+    <message>
+        <source>Until closed</source>
+        <translation>Kapatılana dek</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>Klipler</translation>
+    </message>
+    <message>
+        <source>Play by themselves</source>
+        <translation>Kendiliğinden oynat</translation>
+    </message>
+    <message>
+        <source>Play once</source>
+        <translation>Bir kez oynat</translation>
+    </message>
+    <message>
+        <source>Play on request</source>
+        <translation>İstendiğinde oynat</translation>
+    </message>
+    <message>
+        <source>Show captions</source>
+        <translation>Altyazıları göster</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Metin boyutu</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Daha fazla</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>Daha az</translation>
+    </message>
+    <message>
+        <source>No clips by themselves</source>
+        <translation>Klipler kendiliğinden oynamasın</translation>
+    </message>
+    <message>
+        <source>Hint settings</source>
+        <translation>İpucu ayarları</translation>
+    </message>
+    <message>
+        <source>Small once seen</source>
+        <translation>Görülünce küçük</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Hiçbir zaman</translation>
+    </message>
+    <message>
+        <source>Forget what was seen</source>
+        <translation>Görülenleri unut</translation>
+    </message>
 </context>
 <context>
     <name>KeyCaps</name>

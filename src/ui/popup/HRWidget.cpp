@@ -81,6 +81,7 @@ void HRWidget::setView(HRView *view)
     view->setFlag(Qt::WindowDoesNotAcceptFocus, !d->reserved);
     HRViewPrivate::of(*view).popup = this;
     view->setViewPos(0, 0);
+    view->installEventFilter(&d->readerMenu);
 }
 
 QWidget *HRWidget::referenceWidget() const

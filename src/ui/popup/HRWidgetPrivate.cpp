@@ -4,6 +4,7 @@
 #include "ui/popup/HRWidgetPrivate_p.h"
 
 #include "context/setting_p.h"
+#include "reader/readerSettings_p.h"
 #include "ui/popup/HRViewPrivate_p.h"
 #include "ui/popup/hostToolTip_p.h"
 #include "ui/popup/popupDismissal_p.h"
@@ -36,6 +37,9 @@ HRWidgetPrivate::HRWidgetPrivate(HRWidget *widget, HRManager *hrManager, QWidget
     , hideTimer(clock, [this] { return hideDelay(); })
     , watch([this](const auto &position) { hideTimer.follow(isSafe(position)); })
     , smallStart([this] { return isSafe(watch.position()); }, [this] { grow(); })
+    , readerMenu(
+          *widget, [this] { return readerSettings(settings()); },
+          [this](const QString &text) { return word(text); }, [this] { followMenu(); })
 {
 }
 
@@ -84,7 +88,8 @@ bool HRWidgetPrivate::takeEvent(QObject &watched, QEvent &event)
 {
     // The host may delete the popup when its scene hears of the pointer.
     const QPointer<HRWidget> guarded = q;
-    const bool isMenuOpen = QApplication::activePopupWidget();
+    const QWidget *menu = QApplication::activePopupWidget();
+    const bool isMenuOpen = menu && isOfHost(*q, *menu);
     if (isMenuOpen && setting(settings(), popupPressesKey, false) && input.take(watched, event))
         return true;
     if (!guarded)
@@ -185,6 +190,7 @@ void HRWidgetPrivate::stopHiding()
     hideTimer.stop();
     watch.stop();
     smallStart.stop();
+    readerMenu.close();
     QObject::disconnect(readerDecided);
 }
 

@@ -10,6 +10,7 @@
 #include "ui/popup/HRPointerWatch_p.h"
 #include "ui/popup/HRPopupFade_p.h"
 #include "ui/popup/HRPopupInput_p.h"
+#include "ui/popup/HRReaderMenu_p.h"
 #include "ui/popup/HRSmallStart_p.h"
 #include "ui/popup/HRSpokenHint_p.h"
 #include "ui/popup/HRView.h"
@@ -91,6 +92,10 @@ struct HRWidgetPrivate
     void takeDecision();
     void beginSmall();
     void grow();
+    void followMenu();
+    QString shownKey() const;
+    void countSeen();
+    QString word(const QString &text) const;
 
     HRWidget *q;
     QPointer<HRManager> manager;
@@ -111,6 +116,7 @@ struct HRWidgetPrivate
     HRPointerWatch watch;
     HRViewEmbedding embedding;
     HRSmallStart smallStart;
+    HRReaderMenu readerMenu;
     QMetaObject::Connection readerDecided;
     QMetaObject::Connection goingWithWindow;
     bool reserved = false; // by its reader, and a window of its own ever since

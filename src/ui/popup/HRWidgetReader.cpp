@@ -7,13 +7,14 @@
 #include "context/setting_p.h"
 #include "reader/readerSettings_p.h"
 #include "ui/popup/sceneContext_p.h"
+#include "ui/reader/HRUiWords_p.h"
 
 namespace Hintreels {
 
 /// 0 for a popup that is to stay.
 double HRWidgetPrivate::hideDelay() const
 {
-    if (stays())
+    if (stays() || readerMenu.isOpen())
         return 0.0;
     const HRReaderSettings *reader = readerSettings(settings());
     if (reader && reader->duration() >= 0)
@@ -41,8 +42,38 @@ void HRWidgetPrivate::takeDecision()
 void HRWidgetPrivate::beginSmall()
 {
     const HRReaderSettings *reader = readerSettings(settings());
-    if (reader && reader->startsSmall() && !reserved)
+    if (reader && reader->beginsSmall(shownKey()) && !reserved)
         smallStart.start();
+    else
+        countSeen();
+}
+
+QString HRWidgetPrivate::shownKey() const
+{
+    const HRXmlElement *content = view ? view->content() : nullptr;
+    return content ? content->attribute(QStringLiteral("key")) : QString();
+}
+
+void HRWidgetPrivate::countSeen()
+{
+    HRReaderSettings *reader = readerSettings(settings());
+    if (reader && reader->detail() != HRReaderSettings::summaryDetail)
+        reader->countSeen(shownKey());
+}
+
+/// Who asks for more or less sees all that there is first. The hint stays for as long as its menu.
+void HRWidgetPrivate::followMenu()
+{
+    if (readerMenu.isOpen())
+        smallStart.end();
+    if (q->isVisible() && !reserved)
+        keepTime();
+}
+
+QString HRWidgetPrivate::word(const QString &text) const
+{
+    HRUiWords words;
+    return words.word(manager ? manager->currentLocale() : QLocale(), text);
 }
 
 void HRWidgetPrivate::grow()
@@ -51,6 +82,7 @@ void HRWidgetPrivate::grow()
         return;
     growScene(*view);
     takeInContent();
+    countSeen();
 }
 
 } // namespace Hintreels

@@ -72,9 +72,10 @@ bool takesAway(const HRWidget &popup, const QObject &watched, const QEvent &even
     case QEvent::Move:
         return isWindowAround(reference, watched);
     case QEvent::Show:
-        return isMenu(watched);
+        return isMenu(watched) && isOfHost(popup, watched);
     case QEvent::Hide:
-        return &watched == reference || (isMenu(watched) && !isInOpenMenu(reference));
+        return &watched == reference
+            || (isMenu(watched) && isOfHost(popup, watched) && !isInOpenMenu(reference));
     default:
         return false;
     }

@@ -12,8 +12,10 @@ bool isOfHost(const HRWidget &popup, const QObject &object)
 {
     if (object.isWindowType())
         return &object != popup.view() && &object != popup.windowHandle();
-    const auto *widget = qobject_cast<const QWidget *>(&object);
-    return widget && widget != &popup && !popup.isAncestorOf(widget);
+    const QObject *owner = &object;
+    while (owner && owner != &popup)
+        owner = owner->parent();
+    return object.isWidgetType() && !owner;
 }
 
 QRect areaOnScreen(const HRWidget &popup)

@@ -108,10 +108,12 @@ QVariantMap HRContentReader::read(HRXmlElement *element, const QJSValue &say) co
         return {};
     m_pictures->forget();
     m_clips->forget();
-    m_beginsSmall = m_settings().startsSmall;
+    const HRSceneSettings settings = m_settings();
+    m_beginsSmall
+        = settings.beginsSmall && settings.beginsSmall(element->attribute(QStringLiteral("key")));
     m_told = detail();
     QVariantMap hint = readHint(*element, [&say](const QString &text) { return said(say, text); });
-    const QLocale locale = localeOf(*element, m_settings());
+    const QLocale locale = localeOf(*element, settings);
     hint.insert(QStringLiteral("rightToLeft"), locale.textDirection() == Qt::RightToLeft);
     return hint;
 }

@@ -23,7 +23,8 @@ bool desktopReducesMotion()
 void takeDecisions(HRSceneSettings &settings, const HRReaderSettings &reader)
 {
     settings.detail = reader.detail();
-    settings.startsSmall = reader.startsSmall();
+    settings.beginsSmall = [guarded = QPointer<const HRReaderSettings>(&reader)](
+                               const QString &key) { return guarded && guarded->beginsSmall(key); };
     settings.playsClips = reader.clips() != HRReaderSettings::clipsOnRequest;
     settings.repeatsClips = reader.clips() == HRReaderSettings::clipsByThemselves;
     settings.showsCaptions = reader.areCaptionsShown();

@@ -8,6 +8,8 @@
 #include <QLocale>
 #include <QVector>
 
+#include <functional>
+
 class HRContext;
 
 namespace Hintreels {
@@ -19,7 +21,7 @@ struct HRSceneSettings
     bool reducedMotion; ///< nothing is to move unless the reader asks for it
     bool showsTargets = false; ///< links tell where they lead: strangers have written them
     HRReaderSettings::Detail detail = HRReaderSettings::fullDetail;
-    bool startsSmall = false; ///< a hint begins with its summary
+    std::function<bool(const QString &key)> beginsSmall = {}; ///< with its summary; null: none does
     bool playsClips = true; ///< by themselves
     bool repeatsClips = true; ///< where their hint says so
     bool showsCaptions = true;

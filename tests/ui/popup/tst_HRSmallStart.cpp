@@ -41,7 +41,7 @@ void tst_HRSmallStart::beginning_ends_whenThePointerRests()
     Fixture f;
     f.rests = false;
     f.start.start();
-    QTRY_COMPARE(f.looks, 2);
+    QTRY_VERIFY(f.looks >= 2);
     QCOMPARE(f.ends, 0);
 
     f.rests = true;

@@ -76,7 +76,7 @@ void tst_HRContentReaderDetail::blocks_areThoseThatTheReaderWants()
     QFETCH(bool, startsSmall);
     HRSceneSettings settings{ { QLocale("en_US") }, false };
     settings.detail = HRReaderSettings::Detail(detail);
-    settings.startsSmall = startsSmall;
+    settings.beginsSmall = [startsSmall](const QString &) { return startsSmall; };
     HRContentReader reader([&settings] { return settings; });
     HRXmlElement hint;
     addChild(&hint, "text", "One");

@@ -108,7 +108,7 @@ void tst_HRSceneSettings::decisions_areTheReaders()
 
     const HRSceneSettings settings = sceneSettings(context, QLocale());
     QCOMPARE(settings.detail, HRReaderSettings::textDetail);
-    QVERIFY(settings.startsSmall);
+    QVERIFY(settings.beginsSmall("pen"));
     QVERIFY(!settings.showsCaptions);
     QCOMPARE(settings.textScale, 1.5);
 }

@@ -31,14 +31,14 @@ private Q_SLOTS:
 
 namespace {
 
-/// What the UI asks for: see Words.qml.
+/// What the UI asks for: see Words.qml and HRReaderMenu.
 QStringList wordsOfTheUi()
 {
     QFile file(standardUiResource("ui/Words.qml"));
     if (!file.open(QIODevice::ReadOnly))
         qFatal("no Words.qml");
     const QString qml = QString::fromUtf8(file.readAll());
-    QStringList words;
+    QStringList words{ "More", "Less", "No clips by themselves", "Hint settings" };
     for (auto it = QRegularExpression("own\\(\"([^\"]+)\"\\)").globalMatch(qml); it.hasNext();)
         words += it.next().captured(1);
     return words;
