@@ -39,7 +39,8 @@ QStringList pluginDirectories()
     const QDir plugins(
         QCoreApplication::applicationDirPath() + QLatin1String("/" HINTREELS_WAY_TO_PLUGINS));
     QStringList directories;
-    for (const QString &qt : plugins.entryList({ QStringLiteral("qt*") }, QDir::Dirs)) {
+    const QStringList builds = plugins.entryList({ QStringLiteral("qt*") }, QDir::Dirs);
+    for (const QString &qt : builds) {
         const QString directory = plugins.filePath(qt);
         if (QFileInfo::exists(directory + QLatin1String("/generic/libhintreels-attach.so")))
             directories.append(QDir::cleanPath(directory));
