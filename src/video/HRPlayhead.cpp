@@ -3,6 +3,8 @@
 
 #include "video/HRPlayhead_p.h"
 
+#include <utility>
+
 namespace Hintreels {
 
 void HRPlayhead::goTo(quint64 index, quint64 count)
@@ -14,6 +16,7 @@ void HRPlayhead::goTo(quint64 index, quint64 count)
 bool HRPlayhead::play(quint64 count)
 {
     m_state = HRVideoController::controllerPlaying;
+    m_holds = true;
     const bool hasCaughtUp = m_awaitsDecoder && m_position == count;
     const bool startsOver = m_position >= count && !hasCaughtUp;
     if (startsOver)
@@ -44,21 +47,26 @@ HRPlayhead::Step HRPlayhead::nextStep(quint64 count)
     return announceEnd;
 }
 
-HRPlayhead::Advance HRPlayhead::advance(quint64 count)
+HRPlayhead::Advance HRPlayhead::advance(quint64 count, bool byFile)
 {
     m_moved = false;
     Advance advance;
     advance.displayed = m_displayed;
-    advance.position = m_position;
+    advance.position = advance.seen = m_position;
     // Paused since the step was chosen: the picture is shown, and waits for nothing.
     advance.displays = m_state != HRVideoController::controllerPlaying;
     if (advance.displays || (m_displayed == m_position && m_displayed >= count))
         return advance;
-    advance.paces = true;
-    advance.moves = advance.displays = m_position < count;
+    advance.displays = m_position < count;
+    const bool holds = std::exchange(m_holds, false) && byFile;
+    advance.moves = advance.displays && !holds;
     // Before the picture goes out: who fetches it finds the new position.
     if (advance.moves)
-        ++m_position;
+        advance.seen = ++m_position;
+    // One that is still to be decoded has its time when it comes.
+    const bool isThere = m_position < count;
+    m_holds = !isThere;
+    advance.paces = isThere || !byFile;
     return advance;
 }
 
@@ -70,6 +78,7 @@ void HRPlayhead::goQuietlyTo(quint64 index, quint64 count)
     // The picture there counts as one step ahead of what is shown.
     m_displayed = m_position - 1;
     m_needsPicture = true;
+    m_holds = true;
 }
 
 } // namespace Hintreels

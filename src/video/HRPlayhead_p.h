@@ -33,6 +33,7 @@ public:
         bool paces = false; ///< the next picture waits for its time
         quint64 displayed = 0; ///< index of the picture fetched last
         quint64 position = 0; ///< before it moved on
+        quint64 seen = 0; ///< index of the picture that is to be fetched now
     };
 
     quint64 position() const { return m_position; }
@@ -54,7 +55,9 @@ public:
     void setNeedsPicture(bool needs) { m_needsPicture = needs; }
 
     Step nextStep(quint64 count);
-    Advance advance(quint64 count);
+    /// @param byFile whether each picture is seen for a time of its own, the one at which the clip
+    /// begins to play included; otherwise the next one comes at once
+    Advance advance(quint64 count, bool byFile = false);
     /// The picture at the position counts as shown.
     void fetch() { m_displayed = m_position; }
     /// Whether the position was set by hand since the last picture.
@@ -70,6 +73,7 @@ private:
     bool m_scrubbing = false;
     bool m_awaitsDecoder = false;
     bool m_moved = false;
+    bool m_holds = false; // the picture at the position has not had its time yet
 };
 
 } // namespace Hintreels

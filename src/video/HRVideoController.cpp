@@ -44,7 +44,7 @@ HRVideoFrame HRVideoControllerPrivate::picture(quint64 index) const
 void HRVideoControllerPrivate::pace(const HRPlayhead::Advance &advance, HRDueTime::Time came)
 {
     HRPacing pacing{ advance.displayed, advance.position, source->frameRate(), {},
-        QDateTime::currentDateTime(), source->shownByFile(advance.position) };
+        QDateTime::currentDateTime(), source->shownByFile(advance.seen) };
     {
         const HRMutexLocker lock(controllerMutex);
         pacing.last = lastFrameDisplayTime;
@@ -331,7 +331,7 @@ void HRVideoController::presentPicture()
     {
         const HRMutexLocker lock(d->controllerMutex);
         came = std::chrono::steady_clock::now();
-        advance = d->playhead.advance(d->pictureCount());
+        advance = d->playhead.advance(d->pictureCount(), d->source->isTimedByFile());
     }
     if (advance.displays)
         Q_EMIT displayFrame();

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void advance_movesOn_whilePlaying_data();
     void advance_movesOn_whilePlaying();
     void advance_tellsWhatWasFetched();
+    void advance_givesEachPictureItsTime_whereTheFileSaysIt();
     void hasMoved_untilThePictureGoesOut();
     void endDecoding_pauses_data();
     void endDecoding_pauses();
@@ -181,6 +182,29 @@ void tst_HRPlayhead::advance_movesOn_whilePlaying()
     QTEST(advance.paces, "paces");
     QCOMPARE(advance.position, position);
     QCOMPARE(playhead.position(), moves ? position + 1 : position);
+}
+
+void tst_HRPlayhead::advance_givesEachPictureItsTime_whereTheFileSaysIt()
+{
+    HRPlayhead playhead;
+    playhead.play(2);
+    const auto sees = [&playhead](quint64 count, quint64 picture, bool moves, bool paces) {
+        const HRPlayhead::Advance advance = playhead.advance(count, true);
+        playhead.fetch();
+        return advance.displays && advance.seen == picture && advance.moves == moves
+            && advance.paces == paces;
+    };
+    QVERIFY(sees(2, 0, false, true));
+    QVERIFY(sees(2, 1, true, true));
+    QVERIFY(sees(2, 2, true, false)); // not decoded yet
+    QVERIFY(sees(4, 2, false, true));
+    QVERIFY(sees(4, 3, true, true));
+    playhead.goTo(1, 4);
+    QVERIFY(sees(4, 1, false, true));
+    QVERIFY(sees(4, 2, true, true));
+    playhead.setState(paused);
+    playhead.play(4);
+    QVERIFY(sees(4, 2, false, true));
 }
 
 void tst_HRPlayhead::advance_tellsWhatWasFetched()

@@ -150,7 +150,7 @@ void tst_HRVideoControllerThread::thread_showsAPictureAsLongAsTheFileSays()
     byFile.controller->start();
     byRate.controller->start();
     QTRY_COMPARE(byRate.controller->state(), HRVideoController::controllerPaused);
-    QTRY_COMPARE(byFile.controller->position(), size_t(2)); // and there it stays for 10 s
+    QTRY_COMPARE(byFile.controller->position(), size_t(1)); // and there it stays for 10 s
     QCOMPARE(byFile.controller->state(), HRVideoController::controllerPlaying);
 
     byFile.controller->setPosition(2);
