@@ -69,8 +69,13 @@ QString HRWidgetsInterface::keyForObject(QObject *object)
 QWidget *HRWidgetsInterface::createWindow(HRWindowType type)
 {
     HRWidget *popup = type == reservedPopupWindow ? manager()->widget() : nullptr;
-    const bool isShown = popup && popup->view();
-    return isShown ? new HRPinnedWindow(*popup, windowFor(*popup)) : nullptr;
+    if (!popup || !popup->view())
+        return nullptr;
+    QWidget *window = windowFor(*popup);
+    // The pinned hint is the active window now, and Qt shows tooltips in active windows only.
+    if (window)
+        window->setAttribute(Qt::WA_AlwaysShowToolTips);
+    return new HRPinnedWindow(*popup, window);
 }
 
 QString HRWidgetsInterface::shortCutForObject(

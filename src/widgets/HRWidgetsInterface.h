@@ -59,7 +59,8 @@ public:
 
     /// For a hint that its reader pins: a window with the hint's title, as large as its content,
     /// that Escape and Ctrl+W close. It belongs to the window of the part and is deleted when
-    /// closed.
+    /// closed. The window of the part shows tooltips while the pinned one is active, too
+    /// (`Qt::WA_AlwaysShowToolTips`).
     QWidget *createWindow(HRWindowType type) override;
 
     /// The shortcut of the action that the part or the object stands for, as it is now; else the
@@ -75,7 +76,8 @@ public:
     /// no hint, shares one or cannot have one, and which content nobody asks for.
     ///
     /// It shows nothing and sends no message. All control files are read; content in any language
-    /// counts. It knows nothing of keys that an override of keyForObject() gives.
+    /// counts. It knows nothing of keys that an override of keyForObject() gives. Models are asked
+    /// for names; where one deletes the interface meanwhile, nothing is told.
     HRCoverage coverage();
 
 private:

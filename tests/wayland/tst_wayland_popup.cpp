@@ -21,6 +21,7 @@ private Q_SLOTS:
     void init();
     void popup_paintsItsContent_whenPointerRestsOnWidget();
     void popup_followsToNextWidget_withNextContent();
+    void popup_paintsItself_beforeItsContent();
     void popup_growsWithItsContent();
     void popup_goesAfterDelay_whenPointerLeavesLastWindow();
     void time_stops_whenPointerComesBackIntoPopup();
@@ -30,6 +31,22 @@ private Q_SLOTS:
 };
 
 namespace {
+
+/// Whether a popup was free to paint itself each time that it appeared.
+class Appearances : public QObject
+{
+public:
+    explicit Appearances(QWidget &popup) { popup.installEventFilter(this); }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Show)
+            free.append(static_cast<QWidget *>(watched)->updatesEnabled());
+        return false;
+    }
+
+    QVector<bool> free;
+};
 
 /// Whether the time until the popup hides runs.
 bool isTimeRunning(const WestonHost &host)
@@ -62,6 +79,20 @@ void tst_wayland_popup::popup_followsToNextWidget_withNextContent()
 
     QVERIFY(eventually([&] { return showsHint(host.popup(), Qt::blue); }));
     QVERIFY(RealInput::boundsOf(Qt::red).isEmpty());
+}
+
+void tst_wayland_popup::popup_paintsItself_beforeItsContent()
+{
+    WestonHost host;
+    QVERIFY(host.hover(host.red));
+    QVERIFY(eventually([&] { return showsHint(host.popup(), Qt::red); }));
+    const Appearances appearances(host.popup());
+
+    QVERIFY(host.hover(host.blue));
+
+    // Its content is painted only once the popup is there, and would have to wait for ever.
+    QVERIFY(!appearances.free.isEmpty() && !appearances.free.contains(false));
+    QVERIFY(eventually([&] { return showsHint(host.popup(), Qt::blue); }));
 }
 
 void tst_wayland_popup::popup_growsWithItsContent()

@@ -23,10 +23,28 @@ private Q_SLOTS:
     void pinnedPopup_paints_whileNextPopupServesNextWidget();
     void popup_showsInDialog_andGoesWithIt();
     void popup_showsBesideMenu_andGoesWithIt();
+    void popup_shows_whenPointerRestsOnEntry();
+    void popup_getsItsPresses_whileMenuIsOpen();
     void popup_showsBesideActiveWindow_withoutReference();
 };
 
 namespace {
+
+/// An open menu of the host's window, whose hint is red.
+class EntryMenu : public QMenu
+{
+public:
+    explicit EntryMenu(WestonHost &host)
+        : QMenu(&host.window)
+    {
+        setObjectName("red");
+        addAction("An entry of some length");
+        addAction("Another one");
+        popup(host.plain.mapToGlobal(QPoint(0, 0)));
+        if (!QTest::qWaitForWindowExposed(this))
+            qFatal("the menu does not appear");
+    }
+};
 
 bool seesHint(const QColor &color, const QSize &size)
 {
@@ -105,7 +123,6 @@ void tst_wayland_windows::pinnedPopup_paints_whileNextPopupServesNextWidget()
     QVERIFY(eventually([&] { return QApplication::activeWindow() == pinned->window(); }));
     QVERIFY(seesMark());
     moveAwayFrom(Qt::red, host, host.blue);
-    RealInput::click(host.blue.mapToGlobal(host.blue.rect().center()));
     QVERIFY(host.hover(host.blue));
     QVERIFY(eventually([&] { return showsHint(host.popup(), Qt::blue); }));
     QVERIFY(pinned && pinned->isVisible());
@@ -137,12 +154,7 @@ void tst_wayland_windows::popup_showsInDialog_andGoesWithIt()
 void tst_wayland_windows::popup_showsBesideMenu_andGoesWithIt()
 {
     WestonHost host;
-    QMenu menu(&host.window);
-    menu.setObjectName("red");
-    menu.addAction("An entry of some length");
-    menu.addAction("Another one");
-    menu.popup(host.plain.mapToGlobal(QPoint(0, 0)));
-    QVERIFY(QTest::qWaitForWindowExposed(&menu));
+    EntryMenu menu(host);
 
     host.show(menu, menu.mapToGlobal(QPoint(10, 10)));
     QVERIFY(seesHint(Qt::red, QSize(201, 121)));
@@ -152,6 +164,31 @@ void tst_wayland_windows::popup_showsBesideMenu_andGoesWithIt()
     QVERIFY(seesNothingOf(Qt::red));
     QVERIFY(host.hover(host.blue));
     QVERIFY(eventually([&] { return showsHint(host.popup(), Qt::blue); }));
+}
+
+void tst_wayland_windows::popup_shows_whenPointerRestsOnEntry()
+{
+    WestonHost host;
+    EntryMenu menu(host);
+
+    QVERIFY(host.hover(menu));
+
+    QVERIFY(seesHint(Qt::red, QSize(201, 121)));
+    QVERIFY(menu.isVisible());
+}
+
+void tst_wayland_windows::popup_getsItsPresses_whileMenuIsOpen()
+{
+    WestonHost host([](HRContext &context) { context.set(popupPressesKey, true); });
+    EntryMenu menu(host);
+    QVERIFY(host.hover(menu));
+    QVERIFY(seesHint(Qt::red, QSize(201, 121)));
+
+    RealInput::click(areaOf(host.popup()).center());
+
+    QVERIFY(eventually([&] { return host.messages.join(u' ').contains("pressed"); }));
+    QVERIFY(menu.isVisible());
+    QVERIFY(host.popup().isVisible());
 }
 
 void tst_wayland_windows::popup_showsBesideActiveWindow_withoutReference()

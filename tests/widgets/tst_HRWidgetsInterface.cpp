@@ -289,6 +289,7 @@ void tst_HRWidgetsInterface::pinnedHint_getsAWindowOfItsName()
     const HRCoverage coverage = f.host->coverage();
     for (const HRCoveredPart &part : coverage.withoutHint + coverage.nameless)
         QVERIFY(part.widget->window() != popup->window());
+    QVERIFY(f.window->testAttribute(Qt::WA_AlwaysShowToolTips));
     QVERIFY(popup->window()->close());
     QTRY_VERIFY(!popup);
 }

@@ -3,6 +3,7 @@
 
 #include "ui/popup/popupReserving_p.h"
 
+#include "ui/popup/HRPinnedWindow_p.h"
 #include "ui/popup/HRView.h"
 #include "ui/popup/HRWidget.h"
 #include "ui/popup/wayland_p.h"
@@ -22,11 +23,20 @@ QLayout *layoutFor(QWidget *window)
     return layout;
 }
 
+/// Some compositors leave the keyboard to a window that belongs to another, whose tooltips would
+/// not come any more.
+void keepToolTipsOf(QWidget *window)
+{
+    if (window && isOnWayland())
+        window->setAttribute(Qt::WA_AlwaysShowToolTips);
+}
+
 } // namespace
 
 void moveIntoWindow(HRWidget &popup, QWidget *window)
 {
     const QPoint position = popup.pos();
+    keepToolTipsOf(windowFor(popup));
     popup.setParent(window);
     if (const HRXmlElement *content = popup.view()->content())
         window->setWindowTitle(content->attribute(QStringLiteral("title")));
@@ -40,11 +50,8 @@ void moveIntoWindow(HRWidget &popup, QWidget *window)
 void moveIntoOwnWindow(HRWidget &popup)
 {
     const QPoint position = popup.pos();
-    QWidget *reference = popup.referenceWidget();
-    // Some compositors leave the keyboard to a window that belongs to another, whose tooltips would
-    // not come any more.
-    if (reference && isOnWayland())
-        reference->window()->setAttribute(Qt::WA_AlwaysShowToolTips);
+    const QWidget *reference = popup.referenceWidget();
+    keepToolTipsOf(windowFor(popup));
     popup.setAttribute(Qt::WA_DeleteOnClose);
     popup.setParent(reference ? reference->window() : nullptr,
         Qt::Tool | Qt::WindowTitleHint | Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint);
