@@ -15,6 +15,7 @@
 #include "widgets/widgetsSettings_p.h"
 
 #include <QApplication>
+#include <QPointer>
 
 namespace Hintreels {
 
@@ -27,6 +28,19 @@ bool isHosts(const QWidget *window)
     const bool isHint = qobject_cast<const HRWidget *>(window)
         || window->findChild<HRWidget *>(QString(), Qt::FindDirectChildrenOnly);
     return !isHint && window->windowType() != Qt::Popup && window->windowType() != Qt::ToolTip;
+}
+
+/// A model that is asked for a name may close any of them.
+QVector<HRWalkedPart> partsOfOpenWindows()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const QVector<QPointer<QWidget>> guarded(windows.begin(), windows.end());
+    QVector<HRWalkedPart> parts;
+    for (const QPointer<QWidget> &window : guarded) {
+        if (window && window->isVisible() && isHosts(window))
+            parts += walkParts(window);
+    }
+    return parts;
 }
 
 } // namespace
@@ -92,14 +106,13 @@ HRReaderSettings *HRWidgetsInterface::readerSettings()
 
 HRCoverage HRWidgetsInterface::coverage()
 {
-    QVector<HRWalkedPart> parts;
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    for (QWidget *window : windows) {
-        if (window->isVisible() && isHosts(window))
-            parts += walkParts(window);
-    }
+    const QPointer<HRWidgetsInterface> guarded = this;
+    const QVector<HRWalkedPart> parts = partsOfOpenWindows();
+    if (!guarded)
+        return {};
+    const QString fallback = setting(context(), fallbackKeyKey, QString());
     HRCoverage coverage = coverageOf(parts, keys());
-    coverage.unusedKeys.removeAll(setting(context(), fallbackKeyKey, QString()));
+    coverage.unusedKeys.removeAll(fallback);
     return coverage;
 }
 

@@ -6,6 +6,7 @@
 #include "widgets/parts/partAt_p.h"
 #include "widgets/parts/partName_p.h"
 #include "widgets/parts/partPlace_p.h"
+#include "widgets/parts/tabParts_p.h"
 
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
@@ -19,6 +20,7 @@
 #include <QSet>
 #include <QStackedWidget>
 #include <QTabWidget>
+#include <QToolBox>
 
 #include <algorithm>
 
@@ -32,10 +34,10 @@ bool isOneOf(const QObject *object)
     return (qobject_cast<const Types *>(object) || ...);
 }
 
-/// What Qt has put into a widget is no part, but for the bar of a tab widget.
-bool isQtsOwn(const QWidget *widget)
+/// What Qt has put into a widget is no part, but for what opens its pages.
+bool isQtsOwn(QWidget *widget)
 {
-    if (isPiece(widget) || qobject_cast<const QTabBar *>(widget))
+    if (isPiece(widget) || qobject_cast<const QTabBar *>(widget) || toolBoxPageOf(widget))
         return isPiece(widget);
     const bool isNamed = !nameOf(widget).isEmpty() || !keyOf(widget).isEmpty();
     const bool isCorner = qobject_cast<const QAbstractButton *>(widget)
@@ -53,25 +55,26 @@ bool isInteractive(const QWidget *widget)
 
 bool isPage(const QWidget *widget)
 {
-    return qobject_cast<const QStackedWidget *>(widget->parent());
+    return isOneOf<QStackedWidget, QToolBox>(widget->parent());
 }
 
-/// Goes through a window once.
+/// Goes through a window once. What models do meanwhile may delete any of it.
 class Walk
 {
 public:
     QVector<HRWalkedPart> parts;
 
-    void visit(QWidget *widget)
+    void visit(const QPointer<QWidget> &widget)
     {
         if (!isQtsOwn(widget))
             take(widget);
         // What these are made of is Qt's.
-        if (isOneOf<QTabBar, QLineEdit, QComboBox, QAbstractSpinBox, QMenuBar>(widget))
+        if (!widget || isOneOf<QTabBar, QLineEdit, QComboBox, QAbstractSpinBox, QMenuBar>(widget))
             return;
-        const QObjectList children = widget->children();
-        for (QObject *child : children) {
-            auto *inner = qobject_cast<QWidget *>(child);
+        const auto children
+            = widget->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+        const QVector<QPointer<QWidget>> guarded(children.begin(), children.end());
+        for (const QPointer<QWidget> &inner : guarded) {
             if (inner && !inner->isWindow() && (!inner->isHidden() || isPage(inner)))
                 visit(inner);
         }
@@ -80,9 +83,10 @@ public:
 private:
     void take(QWidget *widget)
     {
+        const bool isUsed = isInteractive(widget);
         const QVector<HRPart> found = partsOf(widget);
         for (const HRPart &part : found) {
-            parts.append({ part, isInteractive(widget) });
+            parts.append({ part, isUsed });
             QMenu *menu = part.action ? part.action->menu() : nullptr;
             if (menu && !m_menus.contains(menu)) {
                 m_menus.insert(menu);
@@ -130,6 +134,8 @@ HRCoverage coverageOf(const QVector<HRWalkedPart> &parts, const QStringList &key
     QSet<QString> asked;
     QMap<QString, QVector<HRPart>> users;
     for (const HRWalkedPart &walked : parts) {
+        if (!walked.part.widget)
+            continue;
         const QStringList candidates = keysOf(walked.part);
         const auto hit = std::find_if(candidates.begin(), candidates.end(),
             [&](const QString &key) { return known.contains(key); });

@@ -18,7 +18,7 @@ struct HRWalkedPart
 /// All parts of a window: of its pages that are not on top, and of its menus, too.
 QVector<HRWalkedPart> walkParts(QWidget *window);
 
-/// Holds parts against the keys that have content.
+/// Holds parts against the keys that have content. Those that are gone do not count.
 /// @param keys may hold a key more than once
 HRCoverage coverageOf(const QVector<HRWalkedPart> &parts, const QStringList &keys);
 

@@ -73,6 +73,24 @@ Spot titleOf(QWidget *widget, const QWidget *content)
     return middleOf(widget, QRect(0, 0, widget->width(), content->y()));
 }
 
+QWidget *buttonOf(const QToolBox *box, const QString &title)
+{
+    const auto buttons
+        = box->findChildren<QAbstractButton *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QAbstractButton *button : buttons) {
+        if (button->text() == title)
+            return button;
+    }
+    qFatal("the tool box has no such page");
+}
+
+Spot tabOf(QMdiArea *area)
+{
+    area->setViewMode(QMdiArea::TabbedView);
+    auto *bar = area->findChild<QTabBar *>();
+    return middleOf(bar, bar->tabRect(0));
+}
+
 Spot square(const PartsWindow &window)
 {
     const QRect area
@@ -115,6 +133,13 @@ const QVector<PartCase> cases{
             return middleOf(w.ui.tabs->tabBar(), w.ui.tabs->tabBar()->tabRect(0));
         },
         { "PartsWindow/fonts", "fonts", "PartsWindow/fontTab", "fontTab" } },
+    { "tab of a sub-window", [](PartsWindow &w) { return tabOf(w.ui.documents); },
+        { "PartsWindow/drawing", "drawing" } },
+    { "page of a tool box",
+        [](PartsWindow &w) { return middleOf(buttonOf(w.ui.drawers, "&Stamps")); },
+        { "PartsWindow/stamps", "stamps" } },
+    { "button on a page of a tool box", [](PartsWindow &w) { return middleOf(w.ui.tip); },
+        { "PartsWindow/brushes/tip", "brushes/tip", "tip" } },
     { "section of a header",
         [](PartsWindow &w) { return section(w.ui.people->horizontalHeader(), 1); },
         { "PartsWindow/people/Age", "people/Age", "PartsWindow/people/column2",

@@ -10,9 +10,14 @@
 
 #include <QMainWindow>
 #include <QMenuBar>
+#include <QStandardItemModel>
+#include <QTableView>
+#include <QTableWidget>
 #include <QtTest>
 
 #include <algorithm>
+#include <functional>
+#include <utility>
 
 using namespace Hintreels;
 
@@ -30,6 +35,28 @@ bool tells(const QVector<HRCoveredPart> &parts, const QString &key)
 {
     return keysOf(parts).contains(key);
 }
+
+/// A model of one cell that does something once when its column's name is asked for.
+class BusyModel : public QStandardItemModel
+{
+public:
+    explicit BusyModel(QObject *parent)
+        : QStandardItemModel(parent)
+    {
+        auto *cell = new QStandardItem;
+        cell->setData("cell", HRWidgetsInterface::keyRole);
+        appendRow(cell);
+    }
+
+    QVariant headerData(int, Qt::Orientation, int) const override
+    {
+        if (onHeader)
+            std::exchange(onHeader, nullptr)();
+        return {};
+    }
+
+    mutable std::function<void()> onHeader;
+};
 
 /// An empty window with buttons of these names.
 struct Buttons : QWidget
@@ -57,10 +84,13 @@ private Q_SLOTS:
     void content_thatNobodyShows_isTold();
     void window_isWalkedWhole();
     void pieces_areNoParts();
+    void cell_isTold_whereItHasAKey();
     void interface_looksAtOpenWindows_inSilence();
     void menu_isWalkedOnce_whateverLeadsToIt();
     void menusAndToolTips_areNoWindows();
     void qtsOwn_areNoParts_unlessTheyAreNamed();
+    void model_mayDelete_whenAsked_data();
+    void model_mayDelete_whenAsked();
 };
 
 void tst_coverage::part_withoutContent_isTold()
@@ -112,13 +142,16 @@ void tst_coverage::window_isWalkedWhole()
 {
     PartsWindow window;
     new QPushButton("hidden", window.ui.colorTab);
-    window.ui.colorTab->findChild<QPushButton *>()->setObjectName("onOtherPage");
+    new QPushButton("hidden", window.ui.stamps);
+    for (const QWidget *page : { window.ui.colorTab, window.ui.stamps })
+        page->findChild<QPushButton *>()->setObjectName("onOtherPage");
     const HRCoverage coverage = coverageOf(walkParts(&window), {});
     for (const char *key : { "PartsWindow/menuFile", "PartsWindow/fileQuit",
              "PartsWindow/recentClear", "finder", "PartsWindow/fontTab", "PartsWindow/colorTab",
              "PartsWindow/people/Age", "PartsWindow/people", "PartsWindow/fontTab/size",
              "PartsWindow/fontTab/family", "PartsWindow/buttons/Save", "PartsWindow/strikeout",
-             "shape", "PartsWindow/canvas", "PartsWindow/colorTab/onOtherPage" })
+             "shape", "PartsWindow/canvas", "PartsWindow/colorTab/onOtherPage",
+             "PartsWindow/brushes", "PartsWindow/stamps", "PartsWindow/stamps/onOtherPage" })
         QVERIFY2(tells(coverage.withoutHint, key), key);
     for (const char *key : { "PartsWindow/tabs", "PartsWindow/zoom", "ink" })
         QVERIFY2(!tells(coverage.withoutHint, key), key);
@@ -131,6 +164,27 @@ void tst_coverage::pieces_areNoParts()
     for (const HRCoveredPart &part : coverage.nameless)
         qWarning() << part.widget << part.text;
     QVERIFY(coverage.nameless.isEmpty());
+}
+
+void tst_coverage::cell_isTold_whereItHasAKey()
+{
+    QWidget window;
+    QTableWidget table(3, 2, &window);
+    table.setObjectName("people");
+    table.setHorizontalHeaderLabels({ "Name", "Age" });
+    table.setVerticalHeaderItem(1, new QTableWidgetItem("Second"));
+    for (int row = 0; row < 3; ++row)
+        table.setItem(row, 0, new QTableWidgetItem("somebody"));
+    auto *answer = new QTableWidgetItem("42");
+    answer->setData(HRWidgetsInterface::keyRole, "answer");
+    table.setItem(2, 1, answer);
+    window.show();
+    const HRCoverage coverage = coverageOf(walkParts(&window), {});
+    QStringList keys = keysOf(coverage.withoutHint);
+    keys.sort();
+    // The table, one cell, its columns, and the row that is more than a number.
+    QCOMPARE(
+        keys, QStringList({ "answer", "people", "people/Age", "people/Name", "people/Second" }));
 }
 
 void tst_coverage::interface_looksAtOpenWindows_inSilence()
@@ -205,6 +259,47 @@ void tst_coverage::qtsOwn_areNoParts_unlessTheyAreNamed()
     const HRCoverage coverage = coverageOf(walkParts(&window), {});
     QCOMPARE(keysOf(coverage.withoutHint), QStringList({ "pour", "window/brew" }));
     QVERIFY(coverage.nameless.isEmpty());
+}
+
+void tst_coverage::model_mayDelete_whenAsked_data()
+{
+    QTest::addColumn<QString>("victim");
+    QTest::addColumn<QStringList>("told");
+    QTest::newRow("what comes later") << "later" << QStringList("window/first");
+    QTest::newRow("what has been seen") << "first" << QStringList("window/last");
+    QTest::newRow("all around it, the model too") << "window" << QStringList();
+    QTest::newRow("its view") << "view" << QStringList({ "window/first", "window/last" });
+    QTest::newRow("the interface") << "interface" << QStringList();
+}
+
+void tst_coverage::model_mayDelete_whenAsked()
+{
+    QFETCH(QString, victim);
+    QFETCH(QStringList, told);
+    HRContext context;
+    auto *host = new HRWidgetsInterface(context, {});
+    host->setObjectName("interface");
+    auto *window = new Buttons({ "first" });
+    auto *view = new QTableView(window);
+    view->setObjectName("view");
+    auto *model = new BusyModel(view);
+    view->setModel(model);
+    auto *last = new QPushButton(window);
+    last->setObjectName("last");
+    view->show();
+    last->show();
+    const QMap<QString, QObject *> victims{ { "later", last },
+        { "first", window->findChild<QWidget *>("first") }, { "window", window }, { "view", view },
+        { "interface", host } };
+    const QPointer<QObject> doomed = victims[victim];
+    model->onHeader = [&] { delete doomed; };
+
+    const HRCoverage coverage = host->coverage();
+
+    QVERIFY(!doomed);
+    QCOMPARE(keysOf(coverage.withoutHint).filter(QRegularExpression("/(first|last)$")), told);
+    delete (victim == "window" ? nullptr : window);
+    delete (victim == "interface" ? nullptr : host);
 }
 
 QTEST_MAIN(tst_coverage)

@@ -25,6 +25,7 @@ namespace {
 const HRPartKind kinds[] = {
     { menuEntryAt, menuEntries },
     { menuBarEntryAt, menuBarEntries },
+    { toolBoxTabAt },
     { toolButtonAt },
     { dialogButtonAt },
     { buttonAt },
@@ -116,13 +117,17 @@ bool isPiece(const QWidget *widget)
 
 HRPart partAt(QWidget *hovered, const QPoint &position)
 {
+    const QPointer<QWidget> guarded = hovered;
     QWidget *whole = wholeOf(hovered);
-    return seenFrom(hovered, find(whole, whole->mapFromGlobal(position)));
+    const HRPart part = find(whole, whole->mapFromGlobal(position));
+    return guarded ? seenFrom(hovered, part) : HRPart(nullptr);
 }
 
 HRPart partInFocus(QWidget *focused)
 {
-    return seenFrom(focused, findCurrent(wholeOf(focused)));
+    const QPointer<QWidget> guarded = focused;
+    const HRPart part = findCurrent(wholeOf(focused));
+    return guarded ? seenFrom(focused, part) : HRPart(nullptr);
 }
 
 HRPart wholePart(QWidget *widget)

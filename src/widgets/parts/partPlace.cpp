@@ -8,7 +8,9 @@
 
 #include <QDockWidget>
 #include <QMdiSubWindow>
+#include <QScrollArea>
 #include <QStackedWidget>
+#include <QToolBox>
 #include <QWizardPage>
 
 namespace Hintreels {
@@ -18,6 +20,14 @@ namespace {
 bool isPopup(const QWidget *widget)
 {
     return widget->windowType() == Qt::Popup;
+}
+
+/// Qt puts each page of a tool box into a scroll area of its own.
+bool isInToolBox(const QWidget *widget)
+{
+    const QWidget *viewport = widget->parentWidget();
+    const auto *area = viewport ? qobject_cast<const QScrollArea *>(viewport->parent()) : nullptr;
+    return area && area->widget() == widget && qobject_cast<const QToolBox *>(area->parent());
 }
 
 /// The last place is the window; what a menu or a list belongs to goes on behind it.
@@ -63,7 +73,7 @@ bool isPlace(const QWidget *widget)
 {
     return widget->isWindow() || qobject_cast<const QStackedWidget *>(widget->parent())
         || qobject_cast<const QWizardPage *>(widget) || qobject_cast<const QDockWidget *>(widget)
-        || qobject_cast<const QMdiSubWindow *>(widget);
+        || qobject_cast<const QMdiSubWindow *>(widget) || isInToolBox(widget);
 }
 
 QStringList keysOf(const HRPart &part)

@@ -5,10 +5,15 @@
 
 #include "widgets/parts/partName_p.h"
 
+#include <QAbstractButton>
 #include <QDockWidget>
+#include <QLayout>
 #include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QToolBox>
 
 namespace Hintreels {
 
@@ -31,6 +36,8 @@ const QObject *pageOf(const QTabBar *bar, int index)
         return tabWidget->widget(index);
     if (const auto *window = qobject_cast<const QMainWindow *>(bar->parent()))
         return dockCalled(bar->tabText(index), window);
+    if (const auto *area = qobject_cast<const QMdiArea *>(bar->parent()))
+        return area->subWindowList().value(index);
     return nullptr;
 }
 
@@ -40,7 +47,10 @@ HRPart tab(QTabBar *bar, int index)
     const QVariant data = bar->tabData(index);
     if (data.userType() == QMetaType::QString && !data.toString().isEmpty())
         part.names.append(data.toString());
-    part.goesBy(pageOf(bar, index));
+    const QObject *page = pageOf(bar, index);
+    part.goesBy(page);
+    if (const auto *window = qobject_cast<const QMdiSubWindow *>(page))
+        part.goesBy(window->widget());
     part.text = withoutMnemonic(bar->tabText(index));
     part.showsText = true;
     return part;
@@ -79,6 +89,26 @@ QVector<HRPart> tabs(QWidget *widget)
     for (int i = 0; i < bar->count(); ++i)
         parts.append(tab(bar, i));
     return parts;
+}
+
+const QWidget *toolBoxPageOf(QWidget *button)
+{
+    const auto *box = qobject_cast<const QToolBox *>(button->parent());
+    const bool isButton = box && qobject_cast<const QAbstractButton *>(button);
+    // The layout holds a button and its page by turns.
+    return isButton ? box->widget(box->layout()->indexOf(button) / 2) : nullptr;
+}
+
+std::optional<HRPart> toolBoxTabAt(QWidget *widget, const QPoint &)
+{
+    const QWidget *page = toolBoxPageOf(widget);
+    if (!page)
+        return std::nullopt;
+    HRPart part(widget);
+    part.goesBy(page);
+    part.text = withoutMnemonic(static_cast<const QAbstractButton *>(widget)->text());
+    part.showsText = true;
+    return part;
 }
 
 } // namespace Hintreels

@@ -7,10 +7,16 @@
 
 namespace Hintreels {
 
-/// A tab, which goes by its data where that is a text, by its page, or by the dock that it stands
-/// for.
+/// A tab, which goes by its data where that is a text, by its page, or by the dock or sub-window
+/// that it stands for.
 std::optional<HRPart> tabAt(QWidget *widget, const QPoint &position);
 QVector<HRPart> tabs(QWidget *widget);
 HRPart currentTab(QWidget *widget);
+
+/// The button over a page of a QToolBox, which goes by that page.
+std::optional<HRPart> toolBoxTabAt(QWidget *widget, const QPoint &position);
+
+/// The page of a QToolBox that a button opens; null for any other widget.
+const QWidget *toolBoxPageOf(QWidget *button);
 
 } // namespace Hintreels

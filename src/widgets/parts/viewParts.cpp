@@ -7,7 +7,10 @@
 
 #include <QComboBox>
 #include <QHeaderView>
+#include <QPersistentModelIndex>
 #include <QTableView>
+
+#include <algorithm>
 
 namespace Hintreels {
 
@@ -16,7 +19,17 @@ namespace {
 static_assert(partKeyRole > Qt::UserRole);
 
 // Of the models that are far larger, nobody gives each row a hint.
-constexpr int mostKeyedItems = 1'000;
+constexpr int mostKeyedItems = 1'000; // in a column
+constexpr int mostKeyedColumns = 100;
+
+// A host's model may delete anything when it is asked: views, and itself.
+using Model = QPointer<const QAbstractItemModel>;
+
+QString headerData(
+    const Model &model, int section, Qt::Orientation orientation, int role = Qt::DisplayRole)
+{
+    return model ? model->headerData(section, orientation, role).toString() : QString();
+}
 
 /// Who lends its name to what is in a view: the combo box, where it is the list of one.
 const QWidget *namesakeOf(const QAbstractItemView *view)
@@ -36,18 +49,18 @@ void addName(HRPart *part, const QString &place, const QString &name)
 }
 
 /// What stands over a column or beside a row; empty for the number that Qt writes by itself.
-QString sectionText(const QAbstractItemModel &model, int section, Qt::Orientation orientation)
+QString sectionText(const Model &model, int section, Qt::Orientation orientation)
 {
-    const QString text = model.headerData(section, orientation).toString().simplified();
+    const QString text = headerData(model, section, orientation).simplified();
     return text == QString::number(section + 1) ? QString() : text;
 }
 
 /// The names of a column or a row: its key, its text, which readers of other languages see in
 /// theirs, and its number, as people count.
-void addSection(HRPart *part, const QString &place, const QAbstractItemModel &model, int section,
+void addSection(HRPart *part, const QString &place, const Model &model, int section,
     Qt::Orientation orientation)
 {
-    const QString key = model.headerData(section, orientation, partKeyRole).toString();
+    const QString key = headerData(model, section, orientation, partKeyRole);
     if (!key.isEmpty())
         part->names.append(key);
     addName(part, place, sectionText(model, section, orientation));
@@ -68,29 +81,52 @@ QRect areaOf(const QHeaderView &header, int section)
 HRPart sectionOf(QHeaderView *header, int section)
 {
     const auto *view = qobject_cast<const QAbstractItemView *>(header->parent());
-    const QAbstractItemModel &model = *header->model();
+    const Model model = header->model();
+    const Qt::Orientation orientation = header->orientation();
+    const QString place = nameOf(view ? view : header);
     HRPart part(header->viewport(), areaOf(*header, section));
-    part.key = model.headerData(section, header->orientation(), partKeyRole).toString();
-    addSection(&part, nameOf(view ? view : header), model, section, header->orientation());
-    part.text = sectionText(model, section, header->orientation());
+    part.key = headerData(model, section, orientation, partKeyRole);
+    addSection(&part, place, model, section, orientation);
+    part.text = sectionText(model, section, orientation);
     part.showsText = true;
     return part;
 }
 
 void readCell(HRPart *part, const QString &place, const QModelIndex &index)
 {
-    addSection(part, place, *index.model(), index.column(), Qt::Horizontal);
-    addSection(part, place, *index.model(), index.row(), Qt::Vertical);
-    part->text = sectionText(*index.model(), index.column(), Qt::Horizontal);
+    const Model model = index.model();
+    const int column = index.column();
+    const int row = index.row();
+    addSection(part, place, model, column, Qt::Horizontal);
+    addSection(part, place, model, row, Qt::Vertical);
+    part->text = sectionText(model, column, Qt::Horizontal);
 }
 
-void readItem(HRPart *part, const QString &place, const QModelIndex &index)
+void readItem(HRPart *part, const QString &place, const QPersistentModelIndex &index)
 {
-    addName(part, place, index.siblingAtColumn(0).data().toString().simplified());
-    if (index.model()->columnCount(index.parent()) > 1)
-        addSection(part, place, *index.model(), index.column(), Qt::Horizontal);
+    addName(part, place, index.sibling(index.row(), 0).data().toString().simplified());
+    const Model model = index.model();
+    if (model && model->columnCount(index.parent()) > 1)
+        addSection(part, place, model, index.column(), Qt::Horizontal);
     part->text = index.data().toString().simplified();
     part->showsText = true;
+}
+
+/// The items of a model that carry a key, in its first columns and rows.
+QVector<QPersistentModelIndex> keyedItems(const Model &model, const QPersistentModelIndex &root)
+{
+    QVector<QPersistentModelIndex> items;
+    for (int column = 0; model && column < std::min(model->columnCount(root), mostKeyedColumns);
+         ++column) {
+        const QModelIndex first = model->index(0, column, root);
+        if (!first.isValid())
+            continue;
+        const QModelIndexList keyed = model->match(first, partKeyRole, QStringLiteral("."),
+            mostKeyedItems, Qt::MatchRegularExpression | Qt::MatchRecursive);
+        for (const QModelIndex &index : keyed)
+            items.append(index);
+    }
+    return items;
 }
 
 HRPart wholeView(QAbstractItemView *view)
@@ -100,16 +136,18 @@ HRPart wholeView(QAbstractItemView *view)
     return part;
 }
 
-HRPart cell(QAbstractItemView *view, const QModelIndex &index)
+HRPart cell(QAbstractItemView *view, const QPersistentModelIndex &index)
 {
+    const QPointer<const QWidget> namesake = namesakeOf(view);
+    const QString place = nameOf(namesake);
+    const bool isTable = qobject_cast<QTableView *>(view);
     // The items of a list may be wider than the list.
     HRPart part(view->viewport(), view->visualRect(index) & view->viewport()->rect());
     part.key = index.data(partKeyRole).toString();
-    const QWidget *namesake = namesakeOf(view);
-    if (qobject_cast<QTableView *>(view))
-        readCell(&part, nameOf(namesake), index);
+    if (isTable)
+        readCell(&part, place, index);
     else
-        readItem(&part, nameOf(namesake), index);
+        readItem(&part, place, index);
     part.goesBy(namesake);
     return part;
 }
@@ -137,11 +175,16 @@ HRPart currentSection(QWidget *widget)
 
 QVector<HRPart> sections(QWidget *widget)
 {
-    auto *header = static_cast<QHeaderView *>(widget);
+    const QPointer<QHeaderView> header = static_cast<QHeaderView *>(widget);
+    const bool isOfRows = header->orientation() == Qt::Vertical;
     QVector<HRPart> parts;
-    for (int i = 0; header->model() && i < header->count(); ++i) {
-        if (!header->isSectionHidden(i))
-            parts.append(sectionOf(header, i));
+    for (int i = 0; header && header->model() && i < header->count(); ++i) {
+        if (header->isSectionHidden(i))
+            continue;
+        const HRPart part = sectionOf(header, i);
+        // Nobody gives the number of a row a hint.
+        if (!isOfRows || !part.text.isEmpty() || !part.key.isEmpty())
+            parts.append(part);
     }
     return parts;
 }
@@ -164,16 +207,13 @@ HRPart currentCell(QWidget *widget)
 
 QVector<HRPart> cells(QWidget *widget)
 {
-    auto *view = static_cast<QAbstractItemView *>(widget);
+    const QPointer<QAbstractItemView> view = static_cast<QAbstractItemView *>(widget);
     QVector<HRPart> parts{ wholeView(view) };
-    const QAbstractItemModel *model = view->model();
-    if (!model || !model->hasChildren(view->rootIndex()))
-        return parts;
-    const QString anyKey = QStringLiteral(".");
-    const QModelIndexList keyed = model->match(model->index(0, 0, view->rootIndex()), partKeyRole,
-        anyKey, mostKeyedItems, Qt::MatchRegularExpression | Qt::MatchRecursive);
-    for (const QModelIndex &index : keyed)
-        parts.append(cell(view, index));
+    const QVector<QPersistentModelIndex> keyed = keyedItems(view->model(), view->rootIndex());
+    for (const QPersistentModelIndex &index : keyed) {
+        if (view && index.isValid())
+            parts.append(cell(view, index));
+    }
     return parts;
 }
 
