@@ -22,7 +22,8 @@ int main(int argc, char *argv[])
 
     HRContext settings;
     // Data paths: the look that all packages share, and the packages beside this program.
-    Hintreels::HRWidgetsInterface hints(settings, { STANDARD_PACKAGES, MY_PACKAGES });
+    Hintreels::HRWidgetsInterface hints(
+        settings, { Hintreels::HRInterface::standardPackages(), MY_PACKAGES });
 
     window.show();
     return application.exec();
