@@ -41,6 +41,7 @@ void HRWidgetPrivate::takeDecision()
 
 void HRWidgetPrivate::beginSmall()
 {
+    smallStart.stop(); // of the hint before
     const HRReaderSettings *reader = readerSettings(settings());
     if (reader && reader->beginsSmall(shownKey()) && !reserved)
         smallStart.start();
