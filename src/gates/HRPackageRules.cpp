@@ -26,6 +26,7 @@ const QStringList wholeModules{
     QStringLiteral("QtQuick.Templates"),
     QStringLiteral("QtQuick.Shapes"),
     QStringLiteral("QtGraphicalEffects"),
+    QStringLiteral("Qt5Compat.GraphicalEffects"),
     QStringLiteral("com.zentora.hintreels.qml"),
 };
 
@@ -38,6 +39,15 @@ bool isWithinAny(const QString &module, const QStringList &wholes)
 {
     return std::any_of(wholes.begin(), wholes.end(),
         [&module](const QString &whole) { return isWithin(module, whole); });
+}
+
+// The first version of the controls opens files and dialogs. Without a version it is the second one
+// in Qt 6, which has no other, and in Qt 5 the directory of the first.
+bool isControls(const QString &module, int major)
+{
+    constexpr bool needsNoVersion = QT_VERSION_MAJOR >= 6;
+    const bool isSecond = major >= 2 || (needsNoVersion && major == 0);
+    return isSecond && isWithin(module, QStringLiteral("QtQuick.Controls"));
 }
 
 } // namespace
@@ -54,10 +64,8 @@ HRPackageRules packageRules(const HRContext &context)
 
 bool isModuleAllowed(const QString &module, int major, const QStringList &furtherModules)
 {
-    // The first version of the controls opens files and dialogs.
-    const bool isControls = major >= 2 && isWithin(module, QStringLiteral("QtQuick.Controls"));
-    return isControls || singleModules.contains(module) || isWithinAny(module, wholeModules)
-        || isWithinAny(module, furtherModules);
+    return isControls(module, major) || singleModules.contains(module)
+        || isWithinAny(module, wholeModules) || isWithinAny(module, furtherModules);
 }
 
 } // namespace Hintreels

@@ -26,7 +26,7 @@ public:
             skip('.'); // a script writes its own with a dot before it
             const QString word = takeWord();
             if (word == QLatin1String("pragma"))
-                takeNextWord();
+                skipPragma();
             else if (word != QLatin1String("import"))
                 return found;
             else
@@ -35,10 +35,24 @@ public:
     }
 
 private:
+    // Qt 6 lets values follow.
+    void skipPragma()
+    {
+        takeNextWord();
+        for (skipBlank(); at() == u':' || at() == u','; skipBlank()) {
+            ++m_at;
+            skipBlank();
+            if (isQuote())
+                skipString();
+            else
+                takeWord();
+        }
+    }
+
     void takeImport(QVector<HRQmlImport> &found)
     {
         skipBlank();
-        if (at() == u'"' || at() == u'\'') {
+        if (isQuote()) {
             skipString();
         } else {
             HRQmlImport import;
@@ -123,6 +137,7 @@ private:
     }
 
     void skip(char c) { m_at += at() == QLatin1Char(c); }
+    bool isQuote() const { return at() == u'"' || at() == u'\''; }
     QChar at() const { return m_at < m_text.size() ? m_text[m_at] : QChar(); }
 
     const QString &m_text;
@@ -139,6 +154,13 @@ QVector<QStringList> linesOfQmldir(const QString &text)
             lines.append(words);
     }
     return lines;
+}
+
+/// Whether a line is about what may be missing, or may be chosen among others: Qt 6 takes such
+/// imports.
+bool isQualified(const QStringList &words)
+{
+    return words.first() == QLatin1String("optional") || words.first() == QLatin1String("default");
 }
 
 int majorOf(const QString &version)
@@ -158,8 +180,10 @@ QVector<HRQmlImport> importsOfQmldir(const QString &text)
     QVector<HRQmlImport> imports;
     const QVector<QStringList> lines = linesOfQmldir(text);
     for (const QStringList &words : lines) {
-        if (words.first() == QLatin1String("import") || words.first() == QLatin1String("depends"))
-            imports.append({ words.value(1), majorOf(words.value(2)) });
+        const int first = isQualified(words) ? 1 : 0;
+        const QString kind = words.value(first);
+        if (kind == QLatin1String("import") || kind == QLatin1String("depends"))
+            imports.append({ words.value(first + 1), majorOf(words.value(first + 2)) });
     }
     return imports;
 }

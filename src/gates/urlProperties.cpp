@@ -6,6 +6,8 @@
 #include "gates/HRNetworkAccess_p.h"
 
 #include <QMetaProperty>
+#include <QQmlContext>
+#include <QQmlEngine>
 #include <QQuickItem>
 #include <QSet>
 #include <QUrl>
@@ -15,6 +17,13 @@ namespace Hintreels {
 
 namespace {
 
+/// Qt 6 leaves a property as it was written, and finds where it leads when somebody loads it.
+QUrl resolved(const QUrl &url, const QObject &object)
+{
+    const QQmlContext *context = url.isEmpty() ? nullptr : qmlContext(&object);
+    return context && url.isRelative() ? context->baseUrl().resolved(url) : url;
+}
+
 void addProperties(const QObject &object, QHash<QString, QString> &properties)
 {
     const QMetaObject &type = *object.metaObject();
@@ -23,7 +32,7 @@ void addProperties(const QObject &object, QHash<QString, QString> &properties)
         if (property.userType() != QMetaType::QUrl)
             continue;
         const QString text = withoutRefusal(property.read(&object).toUrl().toString());
-        const QUrl url(text);
+        const QUrl url = resolved(QUrl(text), object);
         const QString told = url.isLocalFile() ? url.toLocalFile() : text;
         if (!properties.contains(told))
             properties.insert(told, QString::fromLatin1(property.name()));

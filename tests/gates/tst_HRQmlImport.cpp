@@ -60,6 +60,8 @@ void tst_HRQmlImport::importsOfQml_findsModules_data()
                             << QStringList{ "A.B 1", "D 2" };
     QTest::newRow("an object's property")
         << "Item { property var a: 1 }\nimport A 1.0" << QStringList();
+    QTest::newRow("values of a pragma")
+        << "pragma A: B, 'C', D\npragma E\nimport F 1.0" << QStringList{ "F 1" };
     QTest::newRow("endless comment") << "/*" << QStringList();
     QTest::newRow("endless string") << "import 'a\\" << QStringList();
     QTest::newRow("underscores") << "import _A_.B_ 1.0" << QStringList{ "_A_.B_ 1" };
@@ -77,6 +79,9 @@ void tst_HRQmlImport::importsOfQmldir_findsModules()
 {
     QCOMPARE(named(importsOfQmldir("module A\n# import X 1.0\n  import B 1.0\ndepends C 2.15\n")),
         (QStringList{ "B 1", "C 2" }));
+    QCOMPARE(
+        named(importsOfQmldir("optional import A 1.0\ndefault import B auto\noptional plugin c")),
+        (QStringList{ "A 1", "B 0" }));
 }
 
 void tst_HRQmlImport::loadsPlugin_seesLibraries()
@@ -118,9 +123,12 @@ void tst_HRQmlImport::isModuleAllowed_knowsTheUsualOnes_data()
     QTest::newRow("Controls 2") << "QtQuick.Controls" << 2 << true;
     QTest::newRow("a style of them") << "QtQuick.Controls.Material" << 2 << true;
     QTest::newRow("Controls 1") << "QtQuick.Controls" << 1 << false;
+    QTest::newRow("Controls that need no version")
+        << "QtQuick.Controls" << 0 << (QT_VERSION_MAJOR >= 6);
     QTest::newRow("Templates") << "QtQuick.Templates" << 2 << true;
     QTest::newRow("Shapes") << "QtQuick.Shapes" << 1 << true;
     QTest::newRow("effects") << "QtGraphicalEffects" << 1 << true;
+    QTest::newRow("effects of Qt 6") << "Qt5Compat.GraphicalEffects" << 1 << true;
     QTest::newRow("ours") << "com.zentora.hintreels.qml" << 1 << true;
     QTest::newRow("LocalStorage writes") << "QtQuick.LocalStorage" << 2 << false;
     QTest::newRow("XmlListModel loads") << "QtQuick.XmlListModel" << 2 << false;

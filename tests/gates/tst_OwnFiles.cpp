@@ -211,6 +211,10 @@ QVector<ForeignLoad> loadsByItems()
     QVector<ForeignLoad> loads;
     for (const char *type : { "Image", "AnimatedImage", "BorderImage", "FontLoader" })
         loads.append({ type, "", sourceOf(type, "secret.png"), "source", file });
+    if (QT_VERSION_MAJOR >= 6) {
+        const QByteArray bound = boundSourceOf("AnimatedImage", "secret.png");
+        loads.append({ "AnimatedImage, bound", "", bound, "source", file });
+    }
     return loads << ForeignLoad{ "Image, bound", "", boundSourceOf("Image", "secret.png"), "source",
         file }
                  << ForeignLoad{ "BorderImage, bound", "",
@@ -227,8 +231,9 @@ QVector<ForeignLoad> loadsByItems()
                  << ForeignLoad{ "own property", "",
                         "property url at: '../../secret.png'; Image { source: at }", "at", file }
                  << ForeignLoad{ "object that is no item", "",
-                        "property var part: QtObject { property url at: '../../secret.png' }", "at",
-                        file };
+                        "property var part: QtObject {"
+                        "property url at: Qt.resolvedUrl('../../secret.png') }",
+                        "at", file };
 }
 
 QVector<ForeignLoad> loadsByScripts()
@@ -306,8 +311,11 @@ void tst_OwnFiles::pictures_areNotKeptToPackages_data()
         "Text { id: shown; textFormat: Text.StyledText; text: '<img src=\"file://%1\">' }");
     QTest::newRow("Markdown") << QByteArray(
         "Text { id: shown; textFormat: Text.MarkdownText; text: '![x](file://%1)' }");
-    QTest::newRow("AnimatedImage, by a binding") << QByteArray(
-        "property string at: '%1'\nAnimatedImage { id: shown; source: 'file://' + at }");
+    // Qt 6 asks the gate for these, too.
+    if (QT_VERSION_MAJOR < 6) {
+        QTest::newRow("AnimatedImage, by a binding") << QByteArray(
+            "property string at: '%1'\nAnimatedImage { id: shown; source: 'file://' + at }");
+    }
 }
 
 void tst_OwnFiles::pictures_areNotKeptToPackages()

@@ -26,13 +26,13 @@ Rectangle {
     color: hintreel.attribute("key")
     focus: true
     Rectangle { x: 80; y: 40; width: 40; height: 40; color: "white" }
-    Keys.onPressed: hintreelView.debugLog("typed " + event.text)
+    Keys.onPressed: event => hintreelView.debugLog("typed " + event.text)
 
     MouseArea {
         anchors.fill: parent
         onPressed: hintreelView.debugLog("pressed")
         onWheel: hintreelView.debugLog("scrolled")
-        onClicked: {
+        onClicked: mouse => {
             if (mouse.y < 20 && mouse.x > 180)
                 hintreelView.reserved = true
             if (mouse.y < 20 && mouse.x < 20)

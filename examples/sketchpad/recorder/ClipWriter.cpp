@@ -165,7 +165,7 @@ bool ClipWriter::add(const QImage &picture)
     if (!d->succeeded(av_frame_make_writable(d->frame.get()), "picture"))
         return false;
     const uint8_t *const rows[] = { picture.constBits() };
-    const int widths[] = { picture.bytesPerLine() };
+    const int widths[] = { int(picture.bytesPerLine()) };
     sws_scale(
         d->scaler.get(), rows, widths, 0, picture.height(), d->frame->data, d->frame->linesize);
     d->frame->pts = d->written++;

@@ -12,8 +12,9 @@ Image {
     property Hint hint
     property TextEdit text
     property var place
-    readonly property rect before: text.positionToRectangle(place.start, text.width)
-    readonly property rect after: text.positionToRectangle(place.start + 1, text.width)
+    // Again for each width that the text is laid out in.
+    readonly property rect before: text.width, text.positionToRectangle(place.start)
+    readonly property rect after: text.width, text.positionToRectangle(place.start + 1)
 
     // In a script from right to left the place begins at its right.
     x: before.y === after.y ? Math.min(before.x, after.x) : before.x

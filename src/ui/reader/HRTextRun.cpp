@@ -24,7 +24,9 @@ bool isCode(const QTextBlock &block)
 bool isCode(const QTextCharFormat &format)
 {
     // Qt's Markdown reader names a family for code only; not always is it of fixed pitch.
-    return format.fontFixedPitch() || format.hasProperty(QTextFormat::FontFamily);
+    // That of Qt 6 names a list of them.
+    return format.fontFixedPitch() || format.hasProperty(QTextFormat::FontFamily)
+        || format.hasProperty(QTextFormat::FontFamilies);
 }
 
 } // namespace Hintreels

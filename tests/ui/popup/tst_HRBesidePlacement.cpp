@@ -88,7 +88,8 @@ void tst_HRBesidePlacement::topLeftFor_keepsOpenMenusClear()
 
 void tst_HRBesidePlacement::topLeftFor_staysOnItsSide_untilAnotherHintStarts()
 {
-    const QRect part(110, 400, 10, 10);
+    const int bottom = QGuiApplication::primaryScreen()->availableGeometry().bottom();
+    const QRect part(110, bottom - 199, 10, 10);
     placement.start(child, part, nowhere);
     const QSize high(100, 300);
     QCOMPARE(areaFor(high).bottom(), part.top() - 5);

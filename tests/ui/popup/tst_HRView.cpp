@@ -258,9 +258,10 @@ void tst_HRView::loadQML_reportsWarnings()
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression("ReferenceError"));
     f.view->loadQML(f.write("a.qml", "import QtQuick 2.15\nItem { width: nowhere }\n"));
     QTRY_VERIFY(!f.host->messages.isEmpty());
-    // Qt names no column for these.
-    QCOMPARE(
-        f.takeMessages(), QStringList{ "QML Warning 2:-1:ReferenceError: nowhere is not defined" });
+    // Qt 5 names no column for these.
+    const QString column = QT_VERSION_MAJOR >= 6 ? "8" : "-1";
+    QCOMPARE(f.takeMessages(),
+        QStringList{ "QML Warning 2:" + column + ":ReferenceError: nowhere is not defined" });
 }
 
 void tst_HRView::handleWarnings_tellsAll_whenHostDeletesTheView()

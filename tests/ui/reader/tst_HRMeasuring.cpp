@@ -23,7 +23,7 @@ struct Fixture
             if (shouldStop())
                 return {};
         }
-        return { path.size(), 1 };
+        return { int(path.size()), 1 };
     }
 
     QSemaphore allowed;
