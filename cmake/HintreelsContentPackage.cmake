@@ -5,7 +5,7 @@
 #
 # Copies a content package into a data path of the build tree and compiles its translations there:
 # l10n/NAME.ts becomes l10n/NAME.qm. The copy is made anew when a file of the package changes.
-get_target_property(hintreels_qmake Qt${HINTREELS_QT}::qmake IMPORTED_LOCATION)
+get_target_property(hintreels_qmake Qt${HINTREELS_QT}::qmake LOCATION)
 get_filename_component(hintreels_qt_bin ${hintreels_qmake} DIRECTORY)
 find_program(HINTREELS_LRELEASE NAMES lrelease lrelease-qt${HINTREELS_QT}
     HINTS ${hintreels_qt_bin} REQUIRED)

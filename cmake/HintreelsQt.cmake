@@ -25,5 +25,13 @@ endif()
 find_package(Qt${HINTREELS_QT} ${HINTREELS_QT_VERSION} REQUIRED
     COMPONENTS ${HINTREELS_QT_COMPONENTS} Network)
 
+# Libraries for both lie side by side under one prefix: that for Qt 6 has its Qt in the names of what
+# they cannot share.
+if(HINTREELS_QT EQUAL 5)
+    set(HINTREELS_FILE_NAME hintreels)
+else()
+    set(HINTREELS_FILE_NAME hintreels-qt${HINTREELS_QT})
+endif()
+
 # What hosts of the library link as well.
 list(TRANSFORM HINTREELS_QT_COMPONENTS PREPEND Qt${HINTREELS_QT}:: OUTPUT_VARIABLE HINTREELS_QT_LIBRARIES)

@@ -9,7 +9,7 @@ if(NOT DOXYGEN_FOUND)
     return()
 endif()
 
-get_target_property(qmake Qt${HINTREELS_QT}::qmake IMPORTED_LOCATION)
+get_target_property(qmake Qt${HINTREELS_QT}::qmake LOCATION)
 get_filename_component(qt_bin ${qmake} DIRECTORY)
 find_program(HINTREELS_QHELPGENERATOR NAMES qhelpgenerator HINTS ${qt_bin})
 mark_as_advanced(HINTREELS_QHELPGENERATOR)
