@@ -57,7 +57,7 @@ int bounded(const Range &range, int value)
     return qBound(range.least, value, range.most);
 }
 
-QString nameOf(const Range &range)
+QString entryOf(const Range &range)
 {
     return QString::fromLatin1(range.name);
 }
@@ -74,7 +74,7 @@ QString seenName(const QString &key)
 int readValue(const QSettings &store, const Range &range)
 {
     bool isNumber = false;
-    const int value = store.value(nameOf(range)).toInt(&isNumber);
+    const int value = store.value(entryOf(range)).toInt(&isNumber);
     return isNumber ? bounded(range, value) : range.standard;
 }
 
@@ -113,7 +113,7 @@ void HRReaderSettings::setValue(int choice, int value)
     if (d->values[choice] == inRange)
         return;
     d->values[choice] = inRange;
-    d->store->setValue(nameOf(ranges[choice]), inRange);
+    d->store->setValue(entryOf(ranges[choice]), inRange);
     Q_EMIT changed();
 }
 

@@ -66,7 +66,7 @@ void append(QVariantList *parts, const QVariantMap &part)
         last.value(text).toString() + part.value(text).toString());
 }
 
-QVariantList partsOf(const QTextBlock &block)
+QVariantList passagesOf(const QTextBlock &block)
 {
     const int start = block.position();
     QVariantList parts;
@@ -81,7 +81,7 @@ QVariantList partsOf(const QTextBlock &block)
 
 QVariantMap passageOf(const QTextBlock &block)
 {
-    const QVariantList parts = partsOf(block);
+    const QVariantList parts = passagesOf(block);
     const QVariantMap first = parts.value(0).toMap();
     const bool isText
         = parts.size() == 1 && first.value(QStringLiteral("kind")) == QLatin1String("text");
