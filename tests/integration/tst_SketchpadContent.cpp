@@ -138,7 +138,7 @@ private Q_SLOTS:
     void tools_haveClips();
     void links_leadToPages_data();
     void links_leadToPages();
-    void translation_hasEveryWordOfTheStandardUi();
+    void translation_isOfWordsOfTheStandardUi();
 };
 
 void tst_SketchpadContent::controlFile_namesItsLocaleAndTheStandardUi_data()
@@ -358,7 +358,7 @@ void tst_SketchpadContent::links_leadToPages()
     QVERIFY(QRegularExpression("^[a-z]+(/[a-z]+)*$").match(documentation).hasMatch());
 }
 
-void tst_SketchpadContent::translation_hasEveryWordOfTheStandardUi()
+void tst_SketchpadContent::translation_isOfWordsOfTheStandardUi()
 {
     const QSet<QString> words
         = findAll(standardPackage, { "*.qml", "*.js" }, "\\bown\\(\"([^\"]+)\"\\)");
@@ -374,7 +374,8 @@ void tst_SketchpadContent::translation_hasEveryWordOfTheStandardUi()
         QVERIFY(!translation.text().isEmpty() && !translation.hasAttribute("type"));
         translated.insert(message.firstChildElement("source").text());
     }
-    QCOMPARE(translated, words);
+    QVERIFY(!translated.isEmpty());
+    QVERIFY(words.contains(translated));
 }
 
 QTEST_MAIN(tst_SketchpadContent)

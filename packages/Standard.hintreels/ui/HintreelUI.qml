@@ -41,22 +41,6 @@ Rectangle {
     LayoutMirroring.enabled: hint.rightToLeft
     LayoutMirroring.childrenInherit: true
 
-    // The first that Tab reaches, though it lies over the page.
-    IconButton {
-        id: pin
-        look: look
-        hint: hint
-        objectName: "pin"
-        anchors.right: parent.right
-        anchors.rightMargin: look.padding - look.step
-        y: Math.round(look.padding + (title.lineHeight - height) / 2)
-        z: 1
-        visible: !root.detached
-        name: hint.words.pin
-        path: "M10 2 L14 6 L11 7 L9 11 L5 7 L9 5 Z M7 9 L3 13"
-        onTriggered: hint.view.reserved = true
-    }
-
     Page {
         id: page
         look: look
@@ -64,6 +48,13 @@ Rectangle {
         anchors.fill: parent
         contentHeight: column.height + 2 * look.padding
         focus: true
+
+        // The pin is read last, but Tab comes to it first.
+        Keys.onTabPressed: event => {
+            event.accepted = root.pageFocused && pin.visible
+            if (event.accepted)
+                pin.forceActiveFocus(Qt.TabFocusReason)
+        }
 
         Column {
             id: column
@@ -102,6 +93,20 @@ Rectangle {
                 onTriggered: hint.view.openExternalResource(hint.documentation)
             }
         }
+    }
+
+    IconButton {
+        id: pin
+        look: look
+        hint: hint
+        objectName: "pin"
+        anchors.right: parent.right
+        anchors.rightMargin: look.padding - look.step
+        y: Math.round(look.padding + (title.lineHeight - height) / 2)
+        visible: !root.detached
+        name: hint.words.pin
+        path: "M10 2 L14 6 L11 7 L9 11 L5 7 L9 5 Z M7 9 L3 13"
+        onTriggered: hint.view.reserved = true
     }
 
     Connections {
