@@ -16,7 +16,12 @@ constexpr QSize markSize(8, 8);
 } // namespace
 
 WestonHost::WestonHost(const std::function<void(HRContext &)> &configure)
-    : HintHost(configure)
+    : HintHost([&](HRContext &context) {
+        // OpenGL is to be seen, too, and X servers of tests have none that is safe.
+        context.set(Hintreels::forbidSoftwareRendererKey, true);
+        if (configure)
+            configure(context);
+    })
 {
     // Qt warns when it gives the focus to a widget whose window has not become active yet.
     QLoggingCategory::setFilterRules("qt.qpa.wayland.warning=false");

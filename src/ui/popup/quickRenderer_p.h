@@ -3,11 +3,17 @@
 
 #pragma once
 
+#include <QByteArray>
+
 class HRContext;
 
 namespace Hintreels {
 
-/// Makes Qt Quick render in software where OpenGL is not to be had, for the whole process.
+/// @param renderer what OpenGL names as its renderer
+bool isOnProcessor(const QByteArray &renderer);
+
+/// Makes Qt Quick render in software where OpenGL is not to be had, for the whole process; also
+/// where it is drawn by the processor itself on Wayland, which may crash.
 ///
 /// Without OpenGL Qt Quick ends the whole application at the first frame, unless it was told
 /// before the first of its windows. A backend that the host or its user has chosen stays, and the

@@ -4,6 +4,7 @@
 #include "manager/HRManager.h"
 #include "support/RecordingHost.h"
 #include "ui/popup/HRView.h"
+#include "ui/popup/quickRenderer_p.h"
 
 #include <QQuickItem>
 #include <QtTest>
@@ -46,6 +47,8 @@ private Q_SLOTS:
     void show_showsHint_whenSoftwareIsAllowedAgain();
     void view_paints_whenThereIsNoOpenGL();
     void view_reportsRendererErrorsInsteadOfEndingTheHost();
+    void renderer_isToldByItsName_data();
+    void renderer_isToldByItsName();
 };
 
 void tst_quickRenderer::show_showsNothing_andSaysWhyOnce_whenSoftwareIsForbidden()
@@ -90,6 +93,23 @@ void tst_quickRenderer::view_reportsRendererErrorsInsteadOfEndingTheHost()
     HRView view(host.manager(), nullptr);
     Q_EMIT view.sceneGraphError(QQuickWindow::ContextNotAvailable, "no context");
     QCOMPARE(host.takeMessages(messageError), QStringList{ "no context" });
+}
+
+void tst_quickRenderer::renderer_isToldByItsName_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<bool>("isOnProcessor");
+    QTest::newRow("nobody") << QByteArray() << false;
+    QTest::newRow("Intel") << QByteArray("Mesa Intel(R) UHD Graphics 620 (KBL GT2)") << false;
+    QTest::newRow("llvmpipe") << QByteArray("llvmpipe (LLVM 15.0.6, 256 bits)") << true;
+    QTest::newRow("softpipe") << QByteArray("softpipe") << true;
+    QTest::newRow("classic") << QByteArray("Software Rasterizer") << true;
+}
+
+void tst_quickRenderer::renderer_isToldByItsName()
+{
+    QFETCH(QByteArray, name);
+    QTEST(isOnProcessor(name), "isOnProcessor");
 }
 
 QTEST_MAIN(tst_quickRenderer)
