@@ -45,7 +45,13 @@ bool WestonHost::find()
         return mark.size() == markSize * outputScale() && mark == before;
     });
     RealInput::setPlace({ m_mark->mapToGlobal(QPoint(0, 0)), mark.topLeft(), outputScale() });
+    m_output = outputOnScreen(1).contains(mark.topLeft()) ? 1 : 0;
     return found;
+}
+
+int WestonHost::output() const
+{
+    return m_output;
 }
 
 void WestonHost::moveMarkTo(QWidget &other)

@@ -19,11 +19,15 @@ public:
     /// Finds the window on the screen, once it is there and rests.
     bool find();
 
+    /// Where the window was found: 0 on the left, 1 on the right.
+    int output() const;
+
     /// Has another window found from now on.
     void moveMarkTo(QWidget &other);
 
 private:
     QPointer<QWidget> m_mark = new QWidget(&window);
+    int m_output = 0;
 };
 
 /// Pixels of the screen for one of the application.
