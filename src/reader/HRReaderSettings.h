@@ -45,7 +45,7 @@ class HINTREELS_EXPORT HRReaderSettings : public QObject
 
 public:
     /// How much of a hint the standard UI shows.
-    enum Detail
+    enum Detail : int
     {
         fullDetail = 0, ///< all of it
         textDetail = 1, ///< no pictures and no clips
@@ -54,7 +54,7 @@ public:
     Q_ENUM(Detail)
 
     /// When a hint shows; HRWidgetsInterface follows it.
-    enum Occasion
+    enum Occasion : int
     {
         occasionHover = 0, ///< the pointer rests on what it belongs to
         occasionModifier = 1, ///< the same, while Ctrl is held
@@ -63,7 +63,7 @@ public:
     Q_ENUM(Occasion)
 
     /// How the standard UI plays clips. Where motion is reduced it is always on request.
-    enum Clips
+    enum Clips : int
     {
         clipsByThemselves = 0, ///< as their hint says: once, or again and again
         clipsOnce = 1, ///< to their end, and not again
