@@ -34,11 +34,8 @@ fail() {
 
 # Ends what the command started, the last first, and names the step that failed.
 finish() {
-    local status=$? i
-    for ((i = ${#started_processes[@]} - 1; i >= 0; --i)); do
-        kill "${started_processes[i]}" 2>/dev/null || true
-        wait "${started_processes[i]}" 2>/dev/null || true
-    done
+    local status=$?
+    stop_started
     [[ -z $temporary_directory ]] || rm -rf "$temporary_directory"
     tell_time
     [[ -z $current_step ]] || printf -- '-- %s in all: %d s\n' "$command_name" "$SECONDS"
@@ -48,6 +45,16 @@ finish() {
 trap finish EXIT
 trap 'exit 130' INT
 trap 'exit 143' TERM
+
+# Ends all that was started and still runs, the last first.
+stop_started() {
+    local i
+    for ((i = ${#started_processes[@]} - 1; i >= 0; --i)); do
+        kill "${started_processes[i]}" 2>/dev/null || true
+        wait "${started_processes[i]}" 2>/dev/null || true
+    done
+    started_processes=()
+}
 
 # Makes $temporary_directory, which goes when the command ends.
 make_temporary_directory() {
@@ -121,6 +128,7 @@ start_x_server() {
     step "start Xvfb"
     make_temporary_directory
     local number_file=$temporary_directory/display
+    rm -f "$number_file"
     # Without -noreset it starts anew when the first look at it has ended, and refuses openbox.
     Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp -noreset 3>"$number_file" \
         2>"$temporary_directory/xvfb.log" &
@@ -139,17 +147,17 @@ start_window_manager() {
     wait_until 10 window_manager_runs || fail "openbox did not start: $(cat "$temporary_directory/openbox.log")"
 }
 
-# start_weston WIDTH HEIGHT SCALE: starts an X server of our own, and on it a Wayland compositor with
-# two outputs of this size beside each other, and points WAYLAND_DISPLAY to that.
+# start_weston WIDTH HEIGHT SCALE [OPTION...]: starts an X server of our own, and on it a Wayland
+# compositor with two outputs of this size beside each other, and points WAYLAND_DISPLAY to that.
 start_weston() {
     local width=$1 height=$2 scale=$3
     start_x_server $((2 * width * scale))x$((height * scale))
     step "start Weston"
-    export XDG_RUNTIME_DIR=$temporary_directory/runtime WAYLAND_DISPLAY=wayland-hintreels
-    mkdir --mode=700 "$XDG_RUNTIME_DIR"
+    XDG_RUNTIME_DIR=$(mktemp -d "$temporary_directory/runtime.XXXXXX")
+    export XDG_RUNTIME_DIR WAYLAND_DISPLAY=wayland-hintreels
     weston --backend=x11-backend.so --use-pixman --no-config --idle-time=0 \
         --socket="$WAYLAND_DISPLAY" --output-count=2 --width="$width" --height="$height" \
-        --scale="$scale" >"$temporary_directory/weston.log" 2>&1 &
+        --scale="$scale" "${@:4}" >"$temporary_directory/weston.log" 2>&1 &
     started_processes+=($!)
     wait_until 30 weston_runs || fail "Weston did not start: $(cat "$temporary_directory/weston.log")"
     xdotool windowmove --sync "$(weston_output 1)" $((width * scale)) 0

@@ -37,7 +37,7 @@ int main(int argc, char *argv[])
 
     std::unique_ptr<Sketchpad::GeometryReport> report;
     if (!options.geometryFile.isEmpty())
-        report = std::make_unique<Sketchpad::GeometryReport>(window, options.geometryFile);
+        report = std::make_unique<Sketchpad::GeometryReport>(options.geometryFile);
     window.show();
     const int status = application.exec();
     if (index)

@@ -9,6 +9,9 @@
 #include <Hintreels/HRIndex>
 
 #include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QToolButton>
 
 using namespace Sketchpad;
@@ -25,6 +28,12 @@ QStringList actionNames()
         }
     }
     return names;
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 } // namespace
@@ -44,7 +53,9 @@ private Q_SLOTS:
     void key_isThatOfCanvas_forItsViewport();
     void shortcut_isTheActionsPresentOne();
     void language_changesLocale();
-    void geometryReport_namesTools();
+    void geometryReport_namesToolsAndEntries();
+    void question_isAnsweredByItsButtons_data();
+    void question_isAnsweredByItsButtons();
 };
 
 void tst_SketchpadHints::index_holdsContent_data()
@@ -159,20 +170,49 @@ void tst_SketchpadHints::language_changesLocale()
     QVERIFY(f.window.action("languageEnglish")->isChecked());
 }
 
-void tst_SketchpadHints::geometryReport_namesTools()
+void tst_SketchpadHints::geometryReport_namesToolsAndEntries()
 {
     QTemporaryDir directory;
     const QString path = directory.filePath("geometry");
     MainWindow window;
-    const GeometryReport report(window, path);
+    const GeometryReport report(path);
     window.show();
     QTRY_VERIFY(QFile::exists(path));
 
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray lines = file.readAll();
+    const QByteArray lines = contentOf(path);
     for (const char *name : { "toolPen ", "strokeWidth ", "statusZoom ", "canvas " })
         QVERIFY2(lines.contains(name), name);
+    QVERIFY(!lines.contains("menu/"));
+
+    QMenu *menu = window.menuBar()->actions().constFirst()->menu();
+    menu->popup({ 200, 200 });
+    QTRY_VERIFY(contentOf(path).contains("menu/fileNew "));
+}
+
+void tst_SketchpadHints::question_isAnsweredByItsButtons_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<bool>("isLost");
+    QTest::newRow("start anew") << "startAnew" << true;
+    QTest::newRow("cancel") << "" << false;
+}
+
+void tst_SketchpadHints::question_isAnsweredByItsButtons()
+{
+    QFETCH(QString, button);
+    QFETCH(bool, isLost);
+    SketchpadFixture f;
+    QVERIFY(f.hints.keys().contains("newDrawing/startAnew"));
+    f.addRectangle({ 100, 100, 50, 50 });
+    QTimer::singleShot(0, this, [&] {
+        auto *question = f.window.findChild<QMessageBox *>("newDrawing");
+        auto *named = question->findChild<QPushButton *>("startAnew");
+        (button.isEmpty() ? question->button(QMessageBox::Cancel) : named)->click();
+    });
+
+    f.choose("fileNew");
+
+    QCOMPARE(!f.drawing.history().canUndo(), isLost);
 }
 
 QTEST_MAIN(tst_SketchpadHints)

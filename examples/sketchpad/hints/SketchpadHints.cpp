@@ -48,14 +48,6 @@ void SketchpadHints::showSettings()
     (new HintSettings(readerSettings(), locale, &m_window))->show();
 }
 
-QWidget *SketchpadHints::createWindow(HRWindowType)
-{
-    // A plain widget, since the hint goes into its layout and fixes its size.
-    auto *window = new QWidget(&m_window, Qt::Tool);
-    window->setAttribute(Qt::WA_DeleteOnClose);
-    return window;
-}
-
 bool SketchpadHints::openExternalResource(HRExternalResourceType type, const QString &resource)
 {
     if (type == resourceUrl)

@@ -24,7 +24,6 @@ public:
     /// Fills a context with what Sketchpad wants different from the defaults.
     static void configure(HRContext &context);
 
-    QWidget *createWindow(Hintreels::HRWindowType type) override;
     bool openExternalResource(
         Hintreels::HRExternalResourceType type, const QString &resource) override;
     void handleMessage(Hintreels::HRMessageType type, const QString &message) override;

@@ -4,7 +4,9 @@
 #include "window/GeometryReport.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QEvent>
+#include <QMenu>
 #include <QSaveFile>
 #include <QToolButton>
 #include <QWidget>
@@ -23,38 +25,62 @@ QString nameOf(const QWidget &widget)
                                              : widget.objectName();
 }
 
-QByteArray lineFor(const QString &name, const QWidget &widget)
+QByteArray lineFor(const QString &name, const QRect &area)
 {
-    const QPoint corner = widget.mapToGlobal(QPoint());
     return QStringLiteral("%1 %2 %3 %4 %5\n")
         .arg(name)
-        .arg(corner.x())
-        .arg(corner.y())
-        .arg(widget.width())
-        .arg(widget.height())
+        .arg(area.x())
+        .arg(area.y())
+        .arg(area.width())
+        .arg(area.height())
         .toUtf8();
+}
+
+QByteArray linesOfEntries(const QMenu &menu)
+{
+    QByteArray lines;
+    const QList<QAction *> actions = menu.actions();
+    for (QAction *action : actions) {
+        const QRect area = menu.actionGeometry(action).translated(menu.mapToGlobal(QPoint()));
+        if (!action->objectName().isEmpty())
+            lines += lineFor(QLatin1String("menu/") + action->objectName(), area);
+    }
+    return lines;
+}
+
+QByteArray linesOf(const QWidget &widget)
+{
+    if (!widget.isVisible())
+        return {};
+    if (const auto *menu = qobject_cast<const QMenu *>(&widget))
+        return linesOfEntries(*menu);
+    const QString name = nameOf(widget);
+    if (name.isEmpty() || name.startsWith(QLatin1String("qt_")))
+        return {};
+    return lineFor(name, QRect(widget.mapToGlobal(QPoint()), widget.size()));
 }
 
 } // namespace
 
-GeometryReport::GeometryReport(QWidget &window, const QString &path)
-    : m_window(window)
-    , m_path(path)
+GeometryReport::GeometryReport(const QString &path)
+    : m_path(path)
 {
     m_settled.setSingleShot(true);
     m_settled.setInterval(settlingTime);
     connect(&m_settled, &QTimer::timeout, this, &GeometryReport::write);
-    window.installEventFilter(this);
+    QCoreApplication::instance()->installEventFilter(this);
 }
 
 bool GeometryReport::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
     case QEvent::Show:
+    case QEvent::Hide:
     case QEvent::Move:
     case QEvent::Resize:
     case QEvent::LayoutRequest:
-        m_settled.start();
+        if (watched->isWidgetType() && static_cast<QWidget *>(watched)->isWindow())
+            m_settled.start();
         break;
     default:
         break;
@@ -65,11 +91,9 @@ bool GeometryReport::eventFilter(QObject *watched, QEvent *event)
 void GeometryReport::write() const
 {
     QByteArray lines;
-    for (const QWidget *widget : m_window.findChildren<QWidget *>()) {
-        const QString name = nameOf(*widget);
-        if (widget->isVisible() && !name.isEmpty() && !name.startsWith(QLatin1String("qt_")))
-            lines += lineFor(name, *widget);
-    }
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (const QWidget *widget : widgets)
+        lines += linesOf(*widget);
     QSaveFile file(m_path);
     if (!file.open(QIODevice::WriteOnly) || file.write(lines) < 0 || !file.commit())
         qWarning("Could not write %s", qPrintable(m_path));

@@ -7,31 +7,26 @@
 #include <QString>
 #include <QTimer>
 
-QT_BEGIN_NAMESPACE
-class QWidget;
-QT_END_NAMESPACE
-
 namespace Sketchpad {
 
-/// Keeps a file up to date that says where the named widgets of a window are on the screen, so that
-/// a script can move the pointer to them.
+/// Keeps a file up to date that says where the named widgets of the open windows are on the screen,
+/// so that a script can move the pointer to them.
 ///
 /// Each line holds an object name, the x and y of the upper left corner in global coordinates, the
-/// width and the height, with blanks between. A tool button goes by the name of its action.
+/// width and the height, with blanks between. A tool button goes by the name of its action, the
+/// entry of an open menu by that name behind `menu/`.
 class GeometryReport : public QObject
 {
     Q_OBJECT
 
 public:
-    /// @param window must outlive the report
-    GeometryReport(QWidget &window, const QString &path);
+    explicit GeometryReport(const QString &path);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void write() const;
 
-    QWidget &m_window;
     const QString m_path;
     QTimer m_settled;
 };

@@ -23,6 +23,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QSpinBox>
 #include <QStatusBar>
 #include <QToolBar>
@@ -260,11 +261,19 @@ bool MainWindow::showHelp(const QString &page)
 void MainWindow::startAnew()
 {
     const bool isUntouched = !m_drawing.history().canUndo();
-    if (isUntouched
-        || QMessageBox::question(this, tr("New Drawing"),
-               tr("The drawing and its steps will be lost. Start a new one?"))
-            == QMessageBox::Yes)
+    if (isUntouched || mayLoseDrawing())
         m_drawing.startAnew();
+}
+
+bool MainWindow::mayLoseDrawing()
+{
+    QMessageBox question(QMessageBox::Question, tr("New Drawing"),
+        tr("The drawing and its steps will be lost. Start a new one?"), QMessageBox::Cancel, this);
+    question.setObjectName(QStringLiteral("newDrawing"));
+    QPushButton *start = question.addButton(tr("Start Anew"), QMessageBox::AcceptRole);
+    start->setObjectName(QStringLiteral("startAnew"));
+    question.exec();
+    return question.clickedButton() == start;
 }
 
 void MainWindow::exportPicture()

@@ -68,6 +68,7 @@ private:
     void addStyleWidgets(QToolBar *bar);
     void on(const QString &name, std::function<void()> slot);
     void startAnew();
+    bool mayLoseDrawing();
     void exportPicture();
     void updateEnabled();
     void updateIcons();
