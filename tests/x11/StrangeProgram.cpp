@@ -103,15 +103,17 @@ QRect StrangeProgram::hover(const QString &key) const
     return hint;
 }
 
-bool StrangeProgram::click(const QString &key) const
+bool StrangeProgram::openMenu(const QString &key) const
 {
-    const QRect area = areaOf(key);
-    if (area.isNull())
-        return false;
-    // What it opens is told of anew.
-    QFile::remove(m_home.filePath("parts"));
-    RealInput::click(area.center());
-    return true;
+    const auto isOpen = [this] { return !openPopups().isEmpty(); };
+    for (int attempt = 0; attempt < 6 && !isOpen(); ++attempt) {
+        const QRect area = areaOf(key);
+        if (area.isNull())
+            break;
+        RealInput::click(area.center());
+        [[maybe_unused]] const bool opened = QTest::qWaitFor(isOpen, longTime / 6);
+    }
+    return isOpen();
 }
 
 QRect StrangeProgram::areaOf(const QString &key) const

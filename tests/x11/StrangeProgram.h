@@ -27,9 +27,9 @@ public:
     /// @return the hint's area; null where none comes
     QRect hover(const QString &key) const;
 
-    /// Clicks on the middle of a part, such as a menu's title.
-    /// @return false where it never is on the screen
-    bool click(const QString &key) const;
+    /// Clicks on a menu's title until a menu is open.
+    /// @return false where none opens
+    bool openMenu(const QString &key) const;
 
     /// Where a part is on the screen, once it is there; null where it never is.
     QRect areaOf(const QString &key) const;

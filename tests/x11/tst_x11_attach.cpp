@@ -110,7 +110,7 @@ void tst_x11_attach::hint_showsBesideToolButton()
 void tst_x11_attach::hint_showsBesideOpenMenu()
 {
     StrangeProgram program(packages, "featherpad", featherpad(), "C.UTF-8");
-    QVERIFY(program.click("menuOptions"));
+    QVERIFY(program.openMenu("menuOptions"));
 
     const QRect hint = program.hover("actionWrap");
 
