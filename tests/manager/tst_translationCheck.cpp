@@ -208,7 +208,9 @@ void tst_translationCheck::isSafeTranslation_checksMessages_data()
     QTest::newRow("a message") << first << translation + end << true;
     QTest::newRow("every field there is")
         << first << translation + field(6, "Hi") + field(7, "Main") + field(8, "why") + end << true;
-    QTest::newRow("a field as long as the messages") << first << translation << true;
+    QTest::newRow("a field that ends with the messages") << first << translation << false;
+    QTest::newRow("an empty comment") << first << field(8, "") + end << true;
+    QTest::newRow("an empty comment that ends with the messages") << first << field(8, "") << false;
     QTest::newRow("a field longer by one") << first << translation.chopped(1) << false;
     QTest::newRow("a field as long as numbers go")
         << first << '\6' + number32(0xffffffff) + "Hi" << false;
@@ -217,9 +219,9 @@ void tst_translationCheck::isSafeTranslation_checksMessages_data()
     QTest::newRow("an odd source text") << first << field(6, "Tip") + end << true;
     QTest::newRow("an odd context") << first << field(7, "Tip") + end << true;
     QTest::newRow("an odd comment") << first << field(8, "Tip") + end << true;
-    QTest::newRow("an obsolete field") << first << '\5' + number32(0) + translation << true;
+    QTest::newRow("an obsolete field") << first << '\5' + number32(0) + translation + end << true;
     QTest::newRow("an obsolete field has no length")
-        << first << '\5' + number32(99) + translation << true;
+        << first << '\5' + number32(99) + translation + end << true;
     QTest::newRow("a broken field behind an obsolete one")
         << first << '\5' + number32(0) + translation.chopped(1) << false;
     QTest::newRow("a cut obsolete field") << first << QByteArray("\5\0\0\0", 4) << false;
@@ -255,7 +257,7 @@ void tst_translationCheck::isSafeTranslation_checksMessages()
 void tst_translationCheck::isSafeTranslation_readsEachByteOnce_whateverManyPointAt()
 {
     constexpr int many = 400000;
-    const QByteArray fields = ('\5' + number32(0)).repeated(many);
+    const QByteArray fields = ('\5' + number32(0)).repeated(many) + end;
     const QByteArray hashed = hashTable({ 0 }).repeated(many);
     QVERIFY(isSafeTranslation(magic + hashes(hashed) + messages(fields)));
 
