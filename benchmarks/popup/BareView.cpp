@@ -31,7 +31,7 @@ StandInView::StandInView()
 }
 
 StandInReader::StandInReader()
-    : HRContentReader([] { return HRSceneSettings(); })
+    : HRContentReader([] { return sceneSettings(); })
 {
 }
 

@@ -50,15 +50,14 @@ HRRestWatch::HRRestWatch(Delay delay)
 {
 }
 
-bool HRRestWatch::holdsBack(QObject *watched, const QEvent &event)
+bool HRRestWatch::holdsBack(const QEvent &event)
 {
-    auto *widget = watched->isWidgetType() ? static_cast<QWidget *>(watched) : nullptr;
     switch (event.type()) {
-    case QEvent::MouseMove:
-        if (widget)
-            rest(*widget, static_cast<const QMouseEvent &>(event));
+    case QEvent::Enter:
+        m_known.reset();
         return false;
     case QEvent::ToolTip:
+        m_known.reset();
         return m_timer.isActive();
     default:
         if (endsRest(event.type()))
@@ -75,17 +74,21 @@ void HRRestWatch::timerEvent(QTimerEvent *)
 }
 
 /// A move that a widget has not taken comes to those around it, where the pointer does not rest.
-void HRRestWatch::rest(QWidget &widget, const QMouseEvent &event)
+void HRRestWatch::follow(QObject *watched, const QMouseEvent &event)
 {
-    const int delay = m_delay();
-    m_timer.stop();
-    if (delay < 0 || event.buttons() != Qt::NoButton)
+    if (!watched->isWidgetType())
         return;
-    if (!widget.childAt(event.pos())) {
-        m_widget = &widget;
+    if (!m_known)
+        m_known = m_delay();
+    m_timer.stop();
+    if (*m_known < 0 || event.buttons() != Qt::NoButton)
+        return;
+    auto *widget = static_cast<QWidget *>(watched);
+    if (!widget->childAt(event.pos())) {
+        m_widget = widget;
         m_position = event.pos();
     }
-    m_timer.start(delay, this);
+    m_timer.start(*m_known, this);
 }
 
 /// The host may do anything when it is told.

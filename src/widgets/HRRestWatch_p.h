@@ -10,6 +10,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 
 QT_BEGIN_NAMESPACE
 class QMouseEvent;
@@ -24,25 +25,28 @@ namespace Hintreels {
 class HRRestWatch : public QObject
 {
 public:
-    /// Milliseconds; desktopsDelay leaves the events alone.
+    /// Milliseconds; desktopsDelay leaves the events alone. Asked once for a run of moves.
     using Delay = std::function<int()>;
     static constexpr int desktopsDelay = -1;
 
     explicit HRRestWatch(Delay delay);
 
-    /// Follows an event that somebody gets.
+    /// Follows a move of the mouse that an object gets.
+    void follow(QObject *watched, const QMouseEvent &event);
+
+    /// Follows any other event that somebody gets.
     /// @return true for a tooltip event that comes too early: nobody may see it, since another one
     ///     follows
-    bool holdsBack(QObject *watched, const QEvent &event);
+    bool holdsBack(const QEvent &event);
 
 protected:
     void timerEvent(QTimerEvent *event) override;
 
 private:
-    void rest(QWidget &widget, const QMouseEvent &event);
     void tell();
 
     Delay m_delay;
+    std::optional<int> m_known; // what it said at the first of these moves
     QBasicTimer m_timer;
     QPointer<QWidget> m_widget; // that the pointer is over
     QPoint m_position; // in the widget

@@ -13,6 +13,7 @@
 
 #include <QApplication>
 #include <QHelpEvent>
+#include <QMouseEvent>
 
 #include <utility>
 
@@ -61,11 +62,16 @@ QVariant HRWidgetsInterfacePrivate::makeReaderSettings()
 
 bool HRWidgetsInterfacePrivate::eventFilter(QObject *watched, QEvent *event)
 {
+    // Moves come by the hundred a second; nobody else looks at them.
+    if (event->type() == QEvent::MouseMove) {
+        m_rest.follow(watched, static_cast<const QMouseEvent &>(*event));
+        return q->manager()->eventFilter(watched, event);
+    }
     const std::shared_ptr<HRWidgetsInterfacePrivate> work = q->d;
     if (m_keyHints.filter(*watched, *event) || m_longPress.filter(*watched, *event))
         return true;
     auto *widget = event->type() == QEvent::ToolTip ? qobject_cast<QWidget *>(watched) : nullptr;
-    if (m_rest.holdsBack(watched, *event))
+    if (m_rest.holdsBack(*event))
         return true;
     if (!widget)
         return q->manager()->eventFilter(watched, event);

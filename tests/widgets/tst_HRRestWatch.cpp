@@ -39,21 +39,25 @@ protected:
 
 struct Fixture
 {
-    bool move(QWidget &widget, const QPoint &position, Qt::MouseButtons buttons = {})
+    void move(QWidget &widget, const QPoint &position, Qt::MouseButtons buttons = {})
     {
         const QMouseEvent event(QEvent::MouseMove, position, Qt::NoButton, buttons, {});
-        return watch.holdsBack(&widget, event);
+        watch.follow(&widget, event);
     }
     /// What the desktop says.
     bool holdsToolTipBack()
     {
         const QHelpEvent event(QEvent::ToolTip, QPoint(), QPoint());
-        return watch.holdsBack(&window, event);
+        return watch.holdsBack(event);
     }
 
     int delay = farOff;
     Window window;
-    HRRestWatch watch{ [this] { return delay; } };
+    int asked = 0;
+    HRRestWatch watch{ [this] {
+        ++asked;
+        return delay;
+    } };
 };
 
 } // namespace
@@ -66,6 +70,8 @@ private Q_SLOTS:
     void toolTip_comesAfterTheDelay();
     void toolTip_waits_whileThePointerHasNotRestedLongEnough();
     void toolTip_isTheDesktops_withoutADelay();
+    void delay_isAskedOnceForARunOfMoves_data();
+    void delay_isAskedOnceForARunOfMoves();
     void rest_isWhereThePointerIs();
     void rest_ends_data();
     void rest_ends();
@@ -76,7 +82,7 @@ void tst_HRRestWatch::toolTip_comesAfterTheDelay()
 {
     Fixture f;
     f.delay = 1;
-    QVERIFY(!f.move(f.window, QPoint(5, 5)));
+    f.move(f.window, QPoint(5, 5));
     QTRY_COMPARE(f.window.told, QVector<QPoint>{ QPoint(5, 5) });
     QVERIFY(!f.holdsToolTipBack());
 }
@@ -95,6 +101,26 @@ void tst_HRRestWatch::toolTip_isTheDesktops_withoutADelay()
     f.delay = HRRestWatch::desktopsDelay;
     f.move(f.window, QPoint(5, 5));
     QVERIFY(!f.holdsToolTipBack());
+}
+
+void tst_HRRestWatch::delay_isAskedOnceForARunOfMoves_data()
+{
+    QTest::addColumn<QEvent::Type>("between");
+    QTest::addColumn<int>("asked");
+    QTest::newRow("on and on") << QEvent::MouseMove << 1;
+    QTest::newRow("in another widget") << QEvent::Enter << 2;
+    QTest::newRow("after a tooltip") << QEvent::ToolTip << 2;
+}
+
+// The reader may have changed it meanwhile; moves come too often to look each time.
+void tst_HRRestWatch::delay_isAskedOnceForARunOfMoves()
+{
+    QFETCH(QEvent::Type, between);
+    Fixture f;
+    f.move(f.window, QPoint(5, 5));
+    f.watch.holdsBack(QEvent(between));
+    f.move(f.window, QPoint(6, 6));
+    QTEST(f.asked, "asked");
 }
 
 // A move comes to the innermost widget first, then to those around it.
@@ -124,7 +150,7 @@ void tst_HRRestWatch::rest_ends()
     QFETCH(QEvent::Type, type);
     Fixture f;
     f.move(f.window, QPoint(5, 5));
-    QVERIFY(!f.watch.holdsBack(&f.window, QEvent(type)));
+    QVERIFY(!f.watch.holdsBack(QEvent(type)));
     QVERIFY(!f.holdsToolTipBack());
 
     f.move(f.window, QPoint(5, 5));
@@ -139,10 +165,10 @@ void tst_HRRestWatch::window_mayGoMeanwhile()
     auto gone = std::make_unique<Window>();
     Window stays;
     const QMouseEvent move(QEvent::MouseMove, QPoint(5, 5), Qt::NoButton, {}, {});
-    watch.holdsBack(gone.get(), move);
+    watch.follow(gone.get(), move);
     gone.reset();
     const QHelpEvent toolTip(QEvent::ToolTip, QPoint(), QPoint());
-    QTRY_VERIFY(!watch.holdsBack(&stays, toolTip));
+    QTRY_VERIFY(!watch.holdsBack(toolTip));
     QVERIFY(stays.told.isEmpty());
 }
 
