@@ -84,8 +84,8 @@ bool isSafeContextTable(const Section &contexts)
     return true;
 }
 
-// One message is a run of tagged fields that an end tag, or one that Qt does not know, ends. That tag
-// has to be there: Qt looks at the byte behind the length of a comment, even of an empty one.
+// One message is a run of tagged fields that an end tag, or one that Qt does not know, ends. That
+// tag has to be there: Qt looks at the byte behind the length of a comment, even of an empty one.
 bool isSafeMessage(const Section &messages, quint64 position, std::vector<bool> &checked)
 {
     while (messages.has(position, 1) && !checked[position]) {
