@@ -6,9 +6,9 @@
 #include "interface/HRInterface.h"
 #include "manager/HRManager.h"
 #include "ui/popup/HRWidget.h"
+#include "x11/QuickToolTips.h"
 #include "x11/RealInput.h"
 
-#include <QProxyStyle>
 #include <QtTest>
 
 #include <algorithm>
@@ -42,22 +42,15 @@ Rectangle {
 }
 )";
 
-/// Tooltips without the usual patience.
-class QuickToolTips : public QProxyStyle
-{
-public:
-    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
-        QStyleHintReturn *result) const override
-    {
-        constexpr int wakeUpDelay = 100; // ms
-        return hint == SH_ToolTip_WakeUpDelay
-            ? wakeUpDelay
-            : QProxyStyle::styleHint(hint, option, widget, result);
-    }
-};
-
 constexpr int hintWidth = 200;
 constexpr int cornerMiddle = 10;
+
+/// Whether the focus is in a window that a host has left behind: the program stays active then.
+bool isInPinnedWindow(const QWindow *hostWindow)
+{
+    const QWindow *focus = QGuiApplication::focusWindow();
+    return focus && focus != hostWindow && focus->type() != Qt::ToolTip;
+}
 
 } // namespace
 
@@ -124,7 +117,11 @@ HintHost::~HintHost()
     // Where a press has gone to the popup, the news never come.
     constexpr int patience = 1000; // ms
     [[maybe_unused]] const bool told = QTest::qWaitFor(
-        [] { return QGuiApplication::applicationState() != Qt::ApplicationActive; }, patience);
+        [this] {
+            return QGuiApplication::applicationState() != Qt::ApplicationActive
+                || isInPinnedWindow(window.windowHandle());
+        },
+        patience);
 }
 
 HRManager *HintHost::manager() const

@@ -5,14 +5,16 @@
 
 #include "support/Pauses.h"
 
+#include <QColor>
 #include <QCoreApplication>
-#include <QGuiApplication>
-#include <QPixmap>
 #include <QProcess>
-#include <QScreen>
 #include <QtTest>
 
 #include <algorithm>
+#include <cstdlib>
+#include <memory>
+
+#include <xcb/xcb.h>
 
 namespace RealInput {
 
@@ -104,14 +106,25 @@ void scroll()
 
 QImage screenshot()
 {
-    if (QGuiApplication::platformName() == "xcb")
-        return QGuiApplication::primaryScreen()->grabWindow(0).toImage();
-    return QImage::fromData(run("import", { "-window", "root", "bmp:-" }));
+    // A connection of its own: on Wayland Qt has none, and sees no more than its own windows.
+    static xcb_connection_t *const server = xcb_connect(nullptr, nullptr);
+    const xcb_screen_t *screen = xcb_setup_roots_iterator(xcb_get_setup(server)).data;
+    const QSize size(screen->width_in_pixels, screen->height_in_pixels);
+    const auto question = xcb_get_image(server, XCB_IMAGE_FORMAT_Z_PIXMAP, screen->root, 0, 0,
+        screen->width_in_pixels, screen->height_in_pixels, ~0U);
+    const std::unique_ptr<xcb_get_image_reply_t, decltype(&std::free)> answer(
+        xcb_get_image_reply(server, question, nullptr), &std::free);
+    if (!answer)
+        qFatal("the X server does not show its screen");
+    // Converting makes a copy, and all pixels opaque.
+    return QImage(
+        xcb_get_image_data(answer.get()), size.width(), size.height(), QImage::Format_RGB32)
+        .convertToFormat(QImage::Format_ARGB32);
 }
 
 QRect boundsOf(const QColor &color)
 {
-    const QImage image = screenshot().convertToFormat(QImage::Format_RGB32);
+    const QImage image = screenshot();
     QRect bounds;
     for (int y = 0; y < image.height(); ++y) {
         const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
@@ -133,7 +146,7 @@ bool shows(const QRect &area, const QColor &color)
     const QRect visible = onScreen(area) & image.rect();
     for (int y = visible.top(); y <= visible.bottom(); ++y)
         for (int x = visible.left(); x <= visible.right(); ++x)
-            if (image.pixelColor(x, y) != color)
+            if (image.pixel(x, y) != color.rgb())
                 return false;
     return !visible.isEmpty();
 }

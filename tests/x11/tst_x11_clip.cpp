@@ -3,6 +3,7 @@
 
 #include "support/TestClip.h"
 #include "ui/StandardUiFixture.h"
+#include "x11/QuickToolTips.h"
 #include "x11/RealInput.h"
 
 #include <QPointer>
@@ -122,6 +123,7 @@ class tst_x11_clip : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void init();
     void clip_playsToItsLastPicture();
     void clip_waitsAtItsFirstPicture_whenMotionIsReduced();
@@ -134,6 +136,11 @@ private Q_SLOTS:
     void clip_leavesNoHole_whenItCannotBePlayed_data();
     void clip_leavesNoHole_whenItCannotBePlayed();
 };
+
+void tst_x11_clip::initTestCase()
+{
+    QApplication::setStyle(new QuickToolTips);
+}
 
 void tst_x11_clip::init()
 {

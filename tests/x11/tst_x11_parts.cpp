@@ -9,6 +9,7 @@
 #include "ui/popup/HRWidget.h"
 #include "widgets/HRWidgetsInterface.h"
 #include "widgets/PartsWindow.h"
+#include "x11/QuickToolTips.h"
 #include "x11/RealInput.h"
 
 #include <QtTest>
@@ -21,10 +22,16 @@ class tst_x11_parts : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void init();
     void hint_appears_whenPointerRestsOnPart_data();
     void hint_appears_whenPointerRestsOnPart();
 };
+
+void tst_x11_parts::initTestCase()
+{
+    QApplication::setStyle(new QuickToolTips);
+}
 
 void tst_x11_parts::init()
 {
