@@ -63,7 +63,7 @@ void tst_StandardUiMemory::hiddenPopup_givesBackWhatAClipTook()
         "<hintreel key='clip' title='Pen'><video source='clip.mp4'/></hintreel>");
     TestClip recording;
     recording.size = QSize(1280, 720);
-    recording.pictures = 60;
+    recording.pictures = 30;
     recording.write(fixture.packages.path() + "/Test.hintreels/Resources/clip.mp4");
     showClip(fixture); // what is loaded with the first clip stays
     if (QTest::currentTestFailed())
