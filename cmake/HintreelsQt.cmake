@@ -22,8 +22,10 @@ else()
     list(APPEND HINTREELS_QT_COMPONENTS Core5Compat) # XML by SAX
     set(HINTREELS_QT_XML_HEADERS QtCore5Compat)
 endif()
+# What the library links for itself.
+set(HINTREELS_QT_PRIVATE_COMPONENTS DBus Network)
 find_package(Qt${HINTREELS_QT} ${HINTREELS_QT_VERSION} REQUIRED
-    COMPONENTS ${HINTREELS_QT_COMPONENTS} Network)
+    COMPONENTS ${HINTREELS_QT_COMPONENTS} ${HINTREELS_QT_PRIVATE_COMPONENTS})
 
 # Libraries for both lie side by side under one prefix: that for Qt 6 has its Qt in the names of what
 # they cannot share.
@@ -35,3 +37,5 @@ endif()
 
 # What hosts of the library link as well.
 list(TRANSFORM HINTREELS_QT_COMPONENTS PREPEND Qt${HINTREELS_QT}:: OUTPUT_VARIABLE HINTREELS_QT_LIBRARIES)
+list(TRANSFORM HINTREELS_QT_PRIVATE_COMPONENTS PREPEND Qt${HINTREELS_QT}::
+    OUTPUT_VARIABLE HINTREELS_QT_PRIVATE_LIBRARIES)

@@ -5,6 +5,7 @@
 
 #include "context/setting_p.h"
 #include "manager/HRManager.h"
+#include "reader/HRDesktopWishes_p.h"
 #include "ui/popup/HRPinnedWindow_p.h"
 #include "ui/popup/HRWidget.h"
 #include "widgets/HRWidgetsInterfacePrivate_p.h"
@@ -55,6 +56,8 @@ HRWidgetsInterface::HRWidgetsInterface(
 {
     if (!this->context().contains(readerSettingsKey))
         this->context().set(readerSettingsKey, d->makeReaderSettings());
+    if (qApp)
+        HRDesktopWishes::ofApplication().follow(); // known by the time of the first hint
     if (!qApp || !setting(this->context(), applicationFilterKey, false))
         return;
     qApp->removeEventFilter(manager());

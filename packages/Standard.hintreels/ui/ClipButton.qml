@@ -31,7 +31,9 @@ Pressable {
     Rectangle {
         anchors.fill: parent
         radius: width / 2
-        color: button.hovered ? "#d0000000" : "#a0000000"
+        color: button.look.veil(button.hovered ? 0.82 : 0.63)
+        border.width: button.look.highContrast ? 1 : 0
+        border.color: "#ffffff"
         opacity: button.offered ? 1 : 0
 
         Behavior on opacity {

@@ -31,7 +31,7 @@ Rectangle {
     height: label.height + 2 * look.step
     visible: shown && text
     radius: look.scaled(4)
-    color: "#c0000000"
+    color: look.veil(0.75)
 
     Text {
         id: label

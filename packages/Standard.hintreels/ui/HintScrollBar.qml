@@ -19,6 +19,6 @@ T.ScrollBar {
 
     contentItem: Rectangle {
         radius: width / 2
-        color: bar.pressed || bar.hovered ? bar.look.secondaryText : bar.look.capEdge
+        color: bar.pressed || bar.hovered ? bar.look.secondaryText : bar.look.control
     }
 }

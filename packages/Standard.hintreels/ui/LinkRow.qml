@@ -24,7 +24,7 @@ Pressable {
         width: Math.min(implicitWidth, row.availableWidth - icon.width - row.look.step)
         color: row.look.link
         font.pixelSize: row.look.bodySize
-        font.underline: row.hovered
+        font.underline: row.hovered || row.look.highContrast
         horizontalAlignment: Text.AlignLeft
         textFormat: Text.PlainText
         wrapMode: Text.Wrap

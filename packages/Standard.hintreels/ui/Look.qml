@@ -13,17 +13,24 @@ QtObject {
     property HRContentReader reader
 
     // The widget around the content fills the pixel that it has more with this very colour.
-    readonly property color background: palette.window
+    readonly property color background: !highContrast ? palette.window : dark ? "#000000" : "#ffffff"
     readonly property color text: readable(palette.windowText)
-    readonly property color secondaryText: readable(mix(palette.windowText, 0.72))
+    readonly property color secondaryText: highContrast ? text : readable(mix(palette.windowText, 0.72))
     readonly property color link: readable(palette.highlight)
     readonly property color focus: link
-    readonly property color line: mix(palette.windowText, 0.14)
+    readonly property color line: shade(palette.windowText, 0.14, text)
     readonly property color hover: mix(palette.windowText, 0.08)
-    readonly property color cap: dark ? mix(palette.windowText, 0.10) : palette.base
-    readonly property color capEdge: mix(palette.windowText, 0.30)
-    readonly property color code: mix(palette.windowText, 0.07)
-    readonly property bool dark: background.hslLightness < 0.5
+    readonly property color cap: shade(dark ? palette.windowText : palette.base, dark ? 0.10 : 1)
+    readonly property color capEdge: shade(palette.windowText, 0.30, text)
+    readonly property color code: shade(palette.windowText, 0.07)
+    // What is no text, but has to be seen (WCAG 1.4.11).
+    readonly property color control: reader.readable(capEdge, background, 3)
+    // On a veil over white, the brightest that it can be.
+    readonly property color passed: reader.readable(palette.highlight, "#5f5f5f", 3)
+    readonly property bool dark: isDark(palette.window)
+    // Where the desktop asks for it: no tints, and lines around what they would tell.
+    readonly property bool highContrast: reader.highContrast
+    readonly property real textContrast: highContrast ? 7 : 4.5
     readonly property var noteColors: ({
         "tip": "#2e9e5b", "note": palette.highlight, "warning": "#d98a00"
     })
@@ -59,7 +66,20 @@ QtObject {
 
     // Opaque on purpose: a contrast can only be told of a colour that hides what is beneath.
     function mix(color, part) {
-        return Qt.tint(palette.window, Qt.rgba(color.r, color.g, color.b, part))
+        return Qt.tint(background, Qt.rgba(color.r, color.g, color.b, part))
+    }
+
+    function isDark(color) {
+        return color.hslLightness < 0.5
+    }
+
+    function shade(color, part, highContrastColor = background) {
+        return highContrast ? highContrastColor : mix(color, part)
+    }
+
+    // Over pictures, whatever they show.
+    function veil(part) {
+        return Qt.rgba(0, 0, 0, highContrast ? 1 : part)
     }
 
     // Also in a popup, whose window is not the active one.
@@ -67,7 +87,7 @@ QtObject {
         return item.activeFocus || reader.focusItem === item
     }
 
-    function readable(color, ground = palette.window) {
-        return reader.readable(color, ground)
+    function readable(color, ground = background) {
+        return reader.readable(color, ground, textContrast)
     }
 }

@@ -36,7 +36,7 @@ TextEdit {
     activeFocusOnPress: hint.focusable
     selectByMouse: hint.focusable
     selectionColor: look.palette.highlight
-    selectedTextColor: look.palette.highlightedText
+    selectedTextColor: look.readable(look.palette.highlightedText, look.palette.highlight)
 
     // What is selected, or all of the hint.
     Keys.onPressed: event => {

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Hintreels authors
 // SPDX-License-Identifier: MIT
 
-// A tip, note or warning: a tinted panel with a slim coloured bar at its start.
+// A tip, note or warning: a tinted panel with a slim coloured bar at its start. In high
+// contrast a frame takes the place of the tint.
 import QtQuick 2.15
 
 Rectangle {
@@ -15,7 +16,9 @@ Rectangle {
 
     implicitHeight: text.y + text.height + 2 * look.step
     radius: look.radius
-    color: look.mix(accent, 0.10)
+    color: look.shade(accent, 0.10)
+    border.width: look.highContrast ? 1 : 0
+    border.color: look.line
     Accessible.role: Accessible.Note
     Accessible.name: title.text
 
@@ -27,7 +30,7 @@ Rectangle {
         anchors.topMargin: anchors.margins
         width: note.look.scaled(3)
         radius: width / 2
-        color: note.accent
+        color: note.look.highContrast ? title.color : note.accent
     }
 
     Text {

@@ -47,12 +47,12 @@ Item {
         anchors.right: parent.right
         anchors.bottom: parent.bottom
         height: line.emphasized || area.pressed ? line.look.scaled(5) : line.look.scaled(3)
-        color: "#70000000"
+        color: line.look.veil(0.63)
 
         Rectangle {
             width: Math.round(parent.width * line.player.progress)
             height: parent.height
-            color: line.look.palette.highlight
+            color: line.look.passed
         }
     }
 

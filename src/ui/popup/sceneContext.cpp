@@ -3,10 +3,12 @@
 
 #include "ui/popup/sceneContext_p.h"
 
+#include "reader/HRDesktopWishes_p.h"
 #include "reader/readerSettings_p.h"
 #include "ui/popup/HRViewPrivate_p.h"
 #include "ui/reader/HRContentReader_p.h"
 
+#include <QGuiApplication>
 #include <QQmlContext>
 
 namespace Hintreels {
@@ -35,9 +37,11 @@ void setLastingProperties(QQmlContext &context, HRView *view, const QPointer<HRM
     };
     auto *reader = new HRContentReader(settings, view, admits);
     context.setContextProperty(QStringLiteral("hintreelReader"), reader);
+    const auto follow = [view] { tellReader(*view, &HRContentReader::follow); };
+    QObject::connect(&HRDesktopWishes::ofApplication(), &HRDesktopWishes::changed, reader, follow);
+    QObject::connect(qGuiApp, &QGuiApplication::paletteChanged, reader, follow);
     if (const HRReaderSettings *decisions = manager ? readerSettings(&manager->context()) : nullptr)
-        QObject::connect(decisions, &HRReaderSettings::changed, reader,
-            [view] { tellReader(*view, &HRContentReader::follow); });
+        QObject::connect(decisions, &HRReaderSettings::changed, reader, follow);
 }
 
 HRContentReader *readerOf(const HRView &view)

@@ -242,9 +242,10 @@ bool HRContentReader::reducedMotion() const
     return m_settings().reducedMotion;
 }
 
-QColor HRContentReader::readable(const QColor &wanted, const QColor &background) const
+QColor HRContentReader::readable(
+    const QColor &wanted, const QColor &background, qreal contrast) const
 {
-    return readableColor(wanted, background);
+    return readableColor(wanted, background, contrast);
 }
 
 void HRContentReader::tellMeasured()

@@ -43,6 +43,7 @@ class HRContentReader : public QObject, private QAccessible::ActivationObserver
     Q_PROPERTY(bool repeatsClips READ repeatsClips NOTIFY decided)
     Q_PROPERTY(bool showsCaptions READ showsCaptions NOTIFY decided)
     Q_PROPERTY(double textScale READ textScale NOTIFY decided)
+    Q_PROPERTY(bool highContrast READ highContrast NOTIFY decided)
     Q_PROPERTY(bool spoken READ isSpoken NOTIFY spokenChanged)
     Q_PROPERTY(QQuickItem *focusItem READ focusItem NOTIFY focusItemChanged)
 
@@ -122,6 +123,7 @@ public:
     bool repeatsClips() const { return m_settings().repeatsClips; }
     bool showsCaptions() const { return m_settings().showsCaptions; }
     double textScale() const { return m_settings().textScale; }
+    bool highContrast() const { return m_settings().highContrast; }
     ///@}
 
     /// What has the keyboard where the reader has taken that into the popup, whose window is not
@@ -155,7 +157,8 @@ public:
     Q_INVOKABLE bool reducedMotion() const;
 
     /// @copydoc Hintreels::readableColor()
-    Q_INVOKABLE QColor readable(const QColor &wanted, const QColor &background) const;
+    Q_INVOKABLE QColor readable(
+        const QColor &wanted, const QColor &background, qreal contrast = 4.5) const;
 
     /// Fills the document of a TextEdit with Markdown in the look of the UI, and finds its links
     /// and the places of its pictures.

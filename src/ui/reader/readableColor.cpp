@@ -10,7 +10,6 @@ namespace Hintreels {
 
 namespace {
 
-constexpr qreal readableContrast = 4.5;
 constexpr int mixingSteps = 20;
 
 // The transfer function of sRGB, as the guidelines give it.
@@ -41,14 +40,14 @@ qreal contrastRatio(const QColor &a, const QColor &b)
     return (lighter + 0.05) / (darker + 0.05);
 }
 
-QColor readableColor(const QColor &wanted, const QColor &background)
+QColor readableColor(const QColor &wanted, const QColor &background, qreal contrast)
 {
     const QColor black(Qt::black);
     const QColor white(Qt::white);
     const bool onDark = contrastRatio(white, background) > contrastRatio(black, background);
     for (int step = 0; step < mixingSteps; ++step) {
         const QColor color = mixed(wanted, onDark ? white : black, qreal(step) / mixingSteps);
-        if (contrastRatio(color, background) >= readableContrast)
+        if (contrastRatio(color, background) >= contrast)
             return color;
     }
     return onDark ? white : black;

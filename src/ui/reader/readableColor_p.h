@@ -13,8 +13,10 @@ qreal contrastRatio(const QColor &a, const QColor &b);
 
 /// The colour nearest to @p wanted in which text can be read on @p background.
 ///
-/// That is a contrast of 4.5, the guidelines' level AA for text. A colour that has it comes back
-/// unchanged; another is mixed with black or with white, whichever contrasts more.
-QColor readableColor(const QColor &wanted, const QColor &background);
+/// A colour that has the contrast comes back unchanged; another is mixed with black or with white,
+/// whichever contrasts more.
+/// @param contrast at least; 4.5 is the guidelines' level AA for text, 7 is AAA, and 3 is AA for
+///     what is no text
+QColor readableColor(const QColor &wanted, const QColor &background, qreal contrast = 4.5);
 
 } // namespace Hintreels

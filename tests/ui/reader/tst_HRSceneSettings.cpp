@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "context/HRContext.h"
+#include "reader/HRDesktopWishes_p.h"
 #include "support/MessageGuard.h"
 #include "support/TestReader.h"
 #include "ui/reader/HRSceneSettings_p.h"
@@ -45,6 +46,10 @@ private Q_SLOTS:
     void locales_areThoseOfTheSystem_withoutSettings();
     void reducedMotion_followsSettingThenDesktop_data();
     void reducedMotion_followsSettingThenDesktop();
+    void highContrast_followsThePalette_data();
+    void highContrast_followsThePalette();
+    void textScale_isWhatTheHostsTextMisses_data();
+    void textScale_isWhatTheHostsTextMisses();
     void decisions_areTheReaders();
     void clips_followReaderAndMotion_data();
     void clips_followReaderAndMotion();
@@ -92,6 +97,59 @@ void tst_HRSceneSettings::reducedMotion_followsSettingThenDesktop()
 
     QCOMPARE(sceneSettings(context, QLocale()).reducedMotion, reduced);
     QCOMPARE(sceneSettings().reducedMotion, !desktopMoves);
+}
+
+void tst_HRSceneSettings::highContrast_followsThePalette_data()
+{
+    QTest::addColumn<QPalette>("palette");
+    QTest::addColumn<bool>("high");
+
+    const auto palette = [](const QColor &text, const QColor &ground, const QColor &field) {
+        return QPalette(text, ground, ground, ground, ground, text, text, field, ground);
+    };
+    QTest::newRow("Qt's own") << QPalette(QColor("#efefef")) << false;
+    QTest::newRow("dark") << palette("#ffffff", "#202124", "#000000") << false;
+    QTest::newRow("white fields only") << palette("#000000", "#efefef", "#ffffff") << false;
+    QTest::newRow("black on white") << palette("#000000", "#ffffff", "#ffffff") << true;
+    QTest::newRow("white on black") << palette("#ffffff", "#000000", "#000000") << true;
+    QTest::newRow("yellow on black") << palette("#ffff00", "#000000", "#000000") << true;
+}
+
+void tst_HRSceneSettings::highContrast_followsThePalette()
+{
+    QFETCH(QPalette, palette);
+    const QPalette before = QGuiApplication::palette();
+    QGuiApplication::setPalette(palette);
+    QTEST(sceneSettings().highContrast, "high");
+    QTEST(sceneSettings(HRContext(), QLocale()).highContrast, "high");
+    QGuiApplication::setPalette(before);
+}
+
+void tst_HRSceneSettings::textScale_isWhatTheHostsTextMisses_data()
+{
+    QTest::addColumn<QString>("platform");
+    QTest::addColumn<qreal>("desktopsFactor");
+    QTest::addColumn<qreal>("hostsPixels");
+    QTest::addColumn<qreal>("scale");
+
+    QTest::newRow("nothing is wished") << "wayland" << 1.0 << 12.0 << 1.0;
+    QTest::newRow("the host does not follow") << "wayland" << 1.5 << 16.0 << 1.5;
+    QTest::newRow("the host follows") << "wayland" << 1.5 << 24.0 << 1.0;
+    QTest::newRow("the host is larger still") << "wayland" << 1.5 << 40.0 << 1.0;
+    QTest::newRow("the host follows a little") << "wayland" << 1.5 << 20.0 << 1.2;
+    QTest::newRow("the host is small by itself") << "wayland" << 1.5 << 8.0 << 1.5;
+    QTest::newRow("Qt follows") << "xcb" << 1.5 << 16.0 << 1.0;
+    QTest::newRow("the host has no font") << "wayland" << 1.5 << -1.0 << 1.0;
+}
+
+/// The desktop's own font has 12 points, which are 16 pixels.
+void tst_HRSceneSettings::textScale_isWhatTheHostsTextMisses()
+{
+    QFETCH(QString, platform);
+    QFETCH(qreal, desktopsFactor);
+    QFETCH(qreal, hostsPixels);
+    const HRWishes wishes{ false, false, desktopsFactor, 12.0 };
+    QTEST(missingTextScale(wishes, platform, hostsPixels), "scale");
 }
 
 void tst_HRSceneSettings::decisions_areTheReaders()
