@@ -6,6 +6,7 @@
 #include "Measuring.h"
 #include "OneThread.h"
 #include "VideoFigures.h"
+#include "video/HRClipFlashes_p.h"
 #include "video/HRClip_p.h"
 #include "video/HRCompactFrameCache_p.h"
 #include "video/HRVideoSourceFFMPEG.h"
@@ -55,6 +56,24 @@ void fill(HRCompactFrameCache *cache, const QString &path)
         cache->addFrame(picture);
 }
 
+/// Of a clip, each picture right after it was converted, as the source does.
+double effortToFindFlashes(const QString &path)
+{
+    HRClip clip([] { return false; });
+    if (!clip.open(path).isNull())
+        cannotMeasure("cannot open " + path);
+    HRClipFlashes flashes;
+    HRCompactFrameCache cache("x");
+    double seconds = 0.0;
+    for (HRVideoFrame picture = clip.readPicture(); !picture.isNull();
+         picture = clip.readPicture()) {
+        seconds
+            += processorSeconds([&] { flashes.add(picture, clip.pictureTime(), 1.0 / clipRate); });
+        cache.addFrame(picture);
+    }
+    return seconds;
+}
+
 std::string named(const char *what, const QSize &size, bool isScreen)
 {
     return std::string(what) + (isScreen ? ", screen " : ", motion ") + std::to_string(size.width())
@@ -69,6 +88,12 @@ void addDecoding(FigureRuns &runs, const QSize &size, bool isScreen)
             return processorSeconds([&] { OneThread(path).decode(clipPictures); });
         },
         [=] { return effortToDecode(clipOf(size, isScreen).path); }, 5 });
+    runs.add({ named("look for flashes", size, isScreen), 0, Bar::atMost(0.1),
+        [=] {
+            const QString path = clipOf(size, isScreen).path;
+            return processorSeconds([&] { OneThread(path).decode(clipPictures); });
+        },
+        [=] { return effortToFindFlashes(clipOf(size, isScreen).path); }, 5 });
     runs.add({ named("memory", size, isScreen), 0, Bar::atMost(isScreen ? 0.10 : 1.02),
         [=] { return 4.0 * size.width() * size.height() * clipPictures; },
         [=] {

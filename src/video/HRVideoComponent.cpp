@@ -31,6 +31,8 @@ HRVideoComponent::HRVideoComponent(QQuickItem *parent)
     // Behind the controller's own slot, which may pause.
     connect(d->videoSource, &HRVideoSource::streamEnded, this, [this] { d->decodingEnded(); });
     connect(d->videoSource, &HRVideoSourceFFMPEG::clipFailed, this, [this] { d->clipFailed(); });
+    connect(
+        d->videoSource, &HRVideoSourceFFMPEG::flashingFound, this, [this] { d->lookForFlashes(); });
     followWindow(window()); // the base has put the item there before it was one of this class
     d->followVisibility(window());
     d->controller->start(QThread::InheritPriority);
@@ -166,6 +168,11 @@ bool HRVideoComponent::hasFailed() const
     return d->failed;
 }
 
+bool HRVideoComponent::isFlashing() const
+{
+    return d->flashing;
+}
+
 bool HRVideoComponent::hasEnded() const
 {
     return d->clip.isEnded();
@@ -192,6 +199,7 @@ void HRVideoComponent::setLooping(bool looping)
         return;
     d->clip.setLooping(looping);
     Q_EMIT loopChanged();
+    d->lookForFlashes();
 }
 
 void HRVideoComponent::setDecodingPaused(bool paused)
@@ -210,6 +218,8 @@ void HRVideoComponent::paint(QPainter *painter)
 
 void HRVideoComponent::frameReady()
 {
+    // Whoever hears of them may go back, so that what follows fetches another picture.
+    d->lookForFlashes();
     // Until the source has taken the new clip, it still answers with the one before.
     HRVideoFrame before;
     const bool isAwaiting = d->awaitedSources > 0;

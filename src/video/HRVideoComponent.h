@@ -46,6 +46,7 @@ class HINTREELS_EXPORT HRVideoComponent : public QQuickPaintedItem
     Q_PROPERTY(QString colors READ colors WRITE setColors NOTIFY colorsChanged)
     Q_PROPERTY(bool upright READ isUpright WRITE setUpright NOTIFY uprightChanged)
     Q_PROPERTY(bool failed READ hasFailed NOTIFY failedChanged)
+    Q_PROPERTY(bool flashing READ isFlashing NOTIFY flashingChanged)
 
     ///@}
 public:
@@ -134,6 +135,10 @@ public:
     bool isDecoded() const;
     /// Whether the clip that was set last cannot be opened, or has no picture that can be decoded.
     bool hasFailed() const;
+    /// Whether the clip that was set last is known to flash more than three times in any one
+    /// second, by WCAG 2.2 (2.3.1): played once, or over and over where it loops. Known before the
+    /// picture that tells is shown, and for good once all are decoded.
+    bool isFlashing() const;
     /// Whether the clip rests where playing has come to its end. No longer once it is played, moved
     /// or set again.
     bool hasEnded() const;
@@ -182,6 +187,7 @@ Q_SIGNALS:
     void colorsChanged(); ///< it was set to another value
     void uprightChanged(); ///< it was set to another value
     void failedChanged(); ///< the clip has failed, or another one was set
+    void flashingChanged(); ///< the clip flashes, or another one was set
 
 public Q_SLOTS:
     /// Fetches the picture that is due.

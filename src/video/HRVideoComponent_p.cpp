@@ -41,6 +41,7 @@ void HRVideoComponentPrivate::open(const QUrl &url)
     if (isAnother) {
         ++awaitedSources;
         setFailed(false);
+        setFlashing(false);
     }
     apply(isAnother ? HRClipEvent::opened : HRClipEvent::rewound);
 }
@@ -72,6 +73,20 @@ void HRVideoComponentPrivate::setFailed(bool hasFailed)
         return;
     failed = hasFailed;
     Q_EMIT q->failedChanged();
+}
+
+void HRVideoComponentPrivate::lookForFlashes()
+{
+    if (awaitedSources == 0) // else it is the clip before
+        setFlashing(videoSource->isFlashing(clip.isLooping()));
+}
+
+void HRVideoComponentPrivate::setFlashing(bool flashes)
+{
+    if (flashing == flashes)
+        return;
+    flashing = flashes;
+    Q_EMIT q->flashingChanged();
 }
 
 void HRVideoComponentPrivate::dropPicture()

@@ -24,6 +24,8 @@ struct HRVideoComponentPrivate
     void decodingEnded();
     void clipFailed();
     void setFailed(bool hasFailed);
+    void lookForFlashes();
+    void setFlashing(bool flashes);
     void dropPicture();
     void followVisibility(QQuickWindow *window);
 
@@ -39,6 +41,7 @@ struct HRVideoComponentPrivate
     QTransform toUpright; // of that picture; none where it is not wanted
     bool upright = false;
     bool failed = false;
+    bool flashing = false;
     double contentHeightSeen = 0.0;
     double progressSeen = 0.0;
     double lengthSeen = 0.0;

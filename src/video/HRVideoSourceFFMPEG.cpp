@@ -35,38 +35,6 @@ void tell(const QString &failure, const QString &path)
 
 } // namespace
 
-HRVideoSourceFFMPEGPrivate::HRVideoSourceFFMPEGPrivate(HRVideoSourceFFMPEG *source)
-    : clip([source] { return source->shouldQuit(); })
-{
-}
-
-HRClipStatus HRVideoSourceFFMPEGPrivate::currentStatus()
-{
-    const HRMutexLocker lock(statusMutex);
-    return status;
-}
-
-void HRVideoSourceFFMPEGPrivate::publishFacts()
-{
-    const HRMutexLocker lock(statusMutex);
-    status.facts = clip.facts();
-    status.open = true;
-}
-
-void HRVideoSourceFFMPEGPrivate::publishProgress(double pts)
-{
-    const HRMutexLocker lock(statusMutex);
-    const double duration = status.facts.duration;
-    status.progress = duration > 0.0 ? pts / duration : 0.0;
-}
-
-void HRVideoSourceFFMPEGPrivate::release()
-{
-    clip.close();
-    const HRMutexLocker lock(statusMutex);
-    status.open = false;
-}
-
 HRVideoSourceFFMPEG::HRVideoSourceFFMPEG(QObject *parent)
     : HRVideoSource(parent)
     , d(new HRVideoSourceFFMPEGPrivate(this))
@@ -160,6 +128,12 @@ QTransform HRVideoSourceFFMPEG::upright() const
     return d->currentStatus().facts.upright;
 }
 
+bool HRVideoSourceFFMPEG::isFlashing(bool repeated) const
+{
+    const HRClipStatus status = d->currentStatus();
+    return repeated ? status.flashingRepeated : status.flashing;
+}
+
 void HRVideoSourceFFMPEG::setDecodingPaused(bool paused)
 {
     d->decodingPaused = paused;
@@ -217,6 +191,8 @@ bool HRVideoSourceFFMPEG::loadSource()
         close();
         return false;
     }
+    d->flashes = HRClipFlashes();
+    d->publishFlashes();
     setupSource();
     if (!openMedia()) {
         setAction(idleAction);
@@ -289,15 +265,35 @@ bool HRVideoSourceFFMPEG::decodeNextPicture()
         }
     }
     if (!picture.isNull()) {
-        pushFrame(picture, time.start, time.length);
+        takePicture(picture, time);
         return true;
     }
-    if (!shouldQuit()) {
-        notifyStreamEnded();
-        reportEnd(failure, path);
-    }
+    if (!shouldQuit())
+        endClip(failure, path);
     idle();
     return false;
+}
+
+void HRVideoSourceFFMPEG::takePicture(const HRVideoFrame &picture, const HRFileTime &time)
+{
+    d->flashes.add(picture, time, d->period());
+    tellFlashes();
+    pushFrame(picture, time.start, time.length);
+}
+
+void HRVideoSourceFFMPEG::endClip(const QString &failure, const QString &path)
+{
+    d->flashes.repeat(
+        [this](size_t index) { return shouldQuit() ? HRVideoFrame() : getFrame(unsigned(index)); });
+    tellFlashes();
+    notifyStreamEnded();
+    reportEnd(failure, path);
+}
+
+void HRVideoSourceFFMPEG::tellFlashes()
+{
+    if (d->publishFlashes())
+        Q_EMIT flashingFound();
 }
 
 void HRVideoSourceFFMPEG::reportEnd(const QString &failure, const QString &path)

@@ -11,6 +11,7 @@
 
 namespace Hintreels {
 
+struct HRFileTime;
 struct HRVideoSourceFFMPEGPrivate;
 
 /// Decodes the first video stream of a local file with FFmpeg, as fast as it can, into the cache.
@@ -59,6 +60,11 @@ public:
     /// seen: turned by quarters, mirrored, and with pixels made square.
     QTransform upright() const;
 
+    /// Whether the clip that was loaded last flashes more than three times in any one second, by
+    /// WCAG 2.2 (2.3.1), as far as it is decoded.
+    /// @param repeated where it starts over at its end; known when all of it is decoded
+    bool isFlashing(bool repeated) const;
+
     /// While paused, requests are carried out and clips are opened, but no picture is decoded. From
     /// any thread; a picture that is being decoded still comes.
     void setDecodingPaused(bool paused);
@@ -73,6 +79,8 @@ public:
 Q_SIGNALS:
     /// The clip that was loaded last cannot be opened, or has ended without a picture.
     void clipFailed();
+    /// More is known of isFlashing(); comes before the picture that tells.
+    void flashingFound();
 
 protected:
     /// Carries out what is asked for, until it is to end.
@@ -86,6 +94,9 @@ private:
     bool decodeNextPicture();
     void idle();
     void seekToStart();
+    void takePicture(const HRVideoFrame &picture, const HRFileTime &time);
+    void endClip(const QString &failure, const QString &path);
+    void tellFlashes();
     void reportEnd(const QString &failure, const QString &path);
 
     std::unique_ptr<HRVideoSourceFFMPEGPrivate> d;

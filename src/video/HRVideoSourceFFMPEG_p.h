@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "video/HRClipFlashes_p.h"
 #include "video/HRClip_p.h"
 #include "video/HRMutex_p.h"
 #include "video/HRVideoClock_p.h"
@@ -18,6 +19,8 @@ struct HRClipStatus
     HRClipFacts facts;
     double progress = 0.0; // of decoding, 0 to 1
     bool open = false;
+    bool flashing = false; // when it is played once
+    bool flashingRepeated = false;
 };
 
 struct HRVideoSourceFFMPEGPrivate
@@ -32,6 +35,7 @@ struct HRVideoSourceFFMPEGPrivate
     HRClip clip; // guarded by decoderMutex
     QString path; // of that clip; guarded by decoderMutex
     HRVideoClock clock; // guarded by decoderMutex
+    HRClipFlashes flashes; // of the source's thread only
     HRMutex statusMutex{ HRLock::status };
     HRClipStatus status; // guarded by statusMutex
     std::atomic<bool> decodingPaused{ false };
@@ -42,6 +46,9 @@ struct HRVideoSourceFFMPEGPrivate
     /// While the clip is open.
     void publishFacts();
     void publishProgress(double pts);
+    double period(); // seconds; 0 where it is not known
+    /// @return whether more is known now than before
+    bool publishFlashes();
     /// Closes the clip. Its rates and its progress stay known; its size does not.
     void release();
 };

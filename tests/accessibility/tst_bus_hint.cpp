@@ -98,6 +98,13 @@ void tst_bus_hint::hint_isReadOnceAndInOrder_data()
         << penOnTheBus("Control زائد Shift زائد L",
                figuresOnTheBus("نصيحة", "6 ث, متوقف مؤقتًا", "تشغيل", "الموضع في المقطع"),
                "إبقاء مفتوحًا في نافذة");
+    QTest::newRow("clip that flashes")
+        << QByteArray("en_US") << penWith("", "<video source='blinking.mp4' alt='A lamp'/>")
+        << penOnTheBus(english,
+               { "animation \"A lamp\" "
+                 "\"6 s, Paused, Flashes quickly, so it does not play by itself\"",
+                   " push button \"Play\"", " slider \"Position in the clip\"" },
+               pin);
 }
 
 void tst_bus_hint::hint_isReadOnceAndInOrder()
@@ -111,6 +118,8 @@ void tst_bus_hint::hint_isReadOnceAndInOrder()
     clip.pictures = 60;
     clip.rate = 10;
     clip.write(fixture.packages.path() + "/Test.hintreels/Resources/clip.mp4");
+    clip.write(
+        fixture.packages.path() + "/Test.hintreels/Resources/blinking.mp4", &TestClip::blinking);
     fixture.packages.write(
         "Test.hintreels/Resources/clip.vtt", "WEBVTT\n\n00:00.000 --> 00:06.000\nFirst a dot\n");
     QWidget window;

@@ -171,6 +171,13 @@ QImage TestClip::numbered(const QSize &size, int number)
     return picture;
 }
 
+QImage TestClip::blinking(const QSize &size, int number)
+{
+    QImage picture(size, QImage::Format_RGB32);
+    picture.fill(number % 2 == 0 ? Qt::black : Qt::white);
+    return picture;
+}
+
 int TestClip::numberOf(const QImage &picture)
 {
     return qRound((qGreen(picture.pixel(picture.rect().center())) - darkest) / double(step));

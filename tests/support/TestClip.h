@@ -36,6 +36,8 @@ struct TestClip
 
     /// A picture of one colour that tells its number, 0 to 59, also after lossy coding.
     static QImage numbered(const QSize &size, int number);
+    /// A picture that is black, or white where its number is odd.
+    static QImage blinking(const QSize &size, int number);
     /// The number that a picture's colour tells.
     static int numberOf(const QImage &picture);
 };

@@ -359,8 +359,8 @@ void tst_HRVideoComponent::metaObject_keepsItsOrder()
             "contentHeightChanged()", "contentWidthChanged()", "loadProgressChanged()",
             "timeChanged()", "decodedChanged()", "endedChanged()", "keepPlayingChanged()",
             "loopChanged()", "finished()", "lengthChanged()", "timingChanged()", "colorsChanged()",
-            "uprightChanged()", "failedChanged()", "frameReady()", "play()", "pause()",
-            "sourceChangedState()", "rewindToStart()", "controllerPositionChanged()",
+            "uprightChanged()", "failedChanged()", "flashingChanged()", "frameReady()", "play()",
+            "pause()", "sourceChangedState()", "rewindToStart()", "controllerPositionChanged()",
             "pictureTime()", "positionAt(double)" }));
     QStringList properties;
     for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i)
@@ -368,7 +368,8 @@ void tst_HRVideoComponent::metaObject_keepsItsOrder()
     QCOMPARE(properties,
         (QStringList{ "source", "state", "position", "progress", "searchPath", "scrubbing",
             "contentHeight", "contentWidth", "loadProgress", "time", "decoded", "ended",
-            "keepPlaying", "loop", "length", "timing", "colors", "upright", "failed" }));
+            "keepPlaying", "loop", "length", "timing", "colors", "upright", "failed",
+            "flashing" }));
 }
 
 QTEST_MAIN(tst_HRVideoComponent)

@@ -23,6 +23,10 @@ private Q_SLOTS:
     void colors_areTheFiles_whenAskedFor();
     void upright_turnsThePicture_data();
     void upright_turnsThePicture();
+    void flashing_isKnown_onceDecoded_data();
+    void flashing_isKnown_onceDecoded();
+    void flashing_isThatOfTheClipOnShow();
+    void flashing_isKnown_beforeThePictureShows();
 
 private:
     QString path(const QString &name) const { return m_directory.filePath(name); }
@@ -39,6 +43,14 @@ qint64 indexOf(ItemStage *stage, double seconds)
     QMetaObject::invokeMethod(
         stage->item, "positionAt", Q_RETURN_ARG(qint64, index), Q_ARG(double, seconds));
     return index;
+}
+
+QString writeBlinking(const QString &path, int pictures, int rate)
+{
+    TestClip clip;
+    clip.pictures = pictures;
+    clip.rate = rate;
+    return clip.write(path, &TestClip::blinking);
 }
 
 } // namespace
@@ -242,6 +254,74 @@ void tst_HRVideoComponentFile::upright_turnsThePicture()
     QCOMPARE(QSizeF(stage.item->implicitWidth(), stage.item->implicitHeight()), QSizeF(40, 20));
     QVERIFY(qGray(stage.painted().pixel(10, 5)) > 128);
     QCOMPARE(upright.count(), 2);
+}
+
+void tst_HRVideoComponentFile::flashing_isKnown_onceDecoded_data()
+{
+    QTest::addColumn<int>("pictures");
+    QTest::addColumn<int>("rate");
+    QTest::addColumn<bool>("loop");
+    QTest::addColumn<bool>("flashes");
+    QTest::newRow("three times a second") << 30 << 6 << true << false;
+    QTest::newRow("five times a second") << 30 << 10 << false << true;
+    QTest::newRow("once") << 2 << 10 << false << false;
+    QTest::newRow("once, over and over") << 2 << 10 << true << true;
+    QTest::newRow("a single picture") << 1 << 10 << true << false;
+}
+
+void tst_HRVideoComponentFile::flashing_isKnown_onceDecoded()
+{
+    QFETCH(int, pictures);
+    QFETCH(int, rate);
+    QFETCH(bool, loop);
+    QFETCH(bool, flashes);
+    ItemStage stage;
+    stage.item->setLooping(loop);
+    SignalCounter told(stage.item, &HRVideoComponent::flashingChanged);
+    stage.setFile(writeBlinking(path("blinking.mp4"), pictures, rate));
+
+    QTRY_VERIFY(stage.item->isDecoded());
+
+    QCOMPARE(stage.item->isFlashing(), flashes);
+    QCOMPARE(told.count(), flashes ? 1 : 0);
+}
+
+void tst_HRVideoComponentFile::flashing_isThatOfTheClipOnShow()
+{
+    ItemStage stage;
+    stage.setFile(writeBlinking(path("blinking.mp4"), 2, 10));
+    QTRY_VERIFY(stage.item->isDecoded());
+    QVERIFY(!stage.item->isFlashing());
+    stage.item->setLooping(true);
+    QVERIFY(stage.item->isFlashing());
+
+    stage.setFile(varyingClip());
+    QVERIFY(!stage.item->isFlashing());
+    QTRY_VERIFY(stage.item->isDecoded());
+    QVERIFY(!stage.item->isFlashing());
+}
+
+/// The fourth flash ends with the ninth picture.
+void tst_HRVideoComponentFile::flashing_isKnown_beforeThePictureShows()
+{
+    ItemStage stage;
+    stage.item->setTiming("file");
+    bool isTold = false;
+    double latest = 0.0;
+    QObject::connect(stage.item, &HRVideoComponent::flashingChanged, stage.item, [&] {
+        isTold = stage.item->isFlashing();
+        stage.item->setKeepPlaying(false);
+    });
+    QObject::connect(stage.item, &HRVideoComponent::timeChanged, stage.item,
+        [&] { latest = qMax(latest, stage.item->pictureTime()); });
+    stage.item->setKeepPlaying(true);
+    stage.setFile(writeBlinking(path("blinking.mp4"), 58, 10));
+    stage.view.show();
+
+    QTRY_VERIFY(stage.item->isDecoded());
+    QTRY_COMPARE(stage.item->state(), HRVideoComponent::pausedState);
+    QVERIFY(isTold);
+    QVERIFY2(latest < 0.75, qPrintable(QString::number(latest)));
 }
 
 QTEST_MAIN(tst_HRVideoComponentFile)

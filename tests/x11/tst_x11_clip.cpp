@@ -127,6 +127,7 @@ private Q_SLOTS:
     void init();
     void clip_playsToItsLastPicture();
     void clip_waitsAtItsFirstPicture_whenMotionIsReduced();
+    void clip_waitsAtItsFirstPicture_whenItFlashes();
     void press_pausesAndGoesOn_data();
     void press_pausesAndGoesOn();
     void line_leadsToItsPicture_whenPressedAndDragged();
@@ -168,6 +169,24 @@ void tst_x11_clip::clip_waitsAtItsFirstPicture_whenMotionIsReduced()
 
     RealInput::click(host.pointOf("clipButton", 0.5, 0.5));
     QTRY_VERIFY_WITH_TIMEOUT(host.isMoving(), longTime);
+}
+
+void tst_x11_clip::clip_waitsAtItsFirstPicture_whenItFlashes()
+{
+    ClipHost host;
+    TestClip blinking;
+    blinking.size = QSize(320, 180);
+    blinking.pictures = lastPicture + 1;
+    blinking.rate = picturesPerSecond;
+    blinking.write(host.clip, &TestClip::blinking);
+    QVERIFY(host.hover());
+    QTRY_VERIFY_WITH_TIMEOUT(host.hasItem("clip"), longTime);
+    QTRY_VERIFY_WITH_TIMEOUT(host.item("flashing")->isVisible(), longTime);
+    QTRY_COMPARE_WITH_TIMEOUT(host.item("clip")->property("time").toReal(), 0.0, longTime);
+    QTRY_VERIFY_WITH_TIMEOUT(host.picture() < 0 && host.standsStill(), longTime); // black
+
+    RealInput::click(host.pointOf("clipButton", 0.5, 0.5));
+    QTRY_VERIFY_WITH_TIMEOUT(host.item("clip")->property("time").toReal() > 1.0, longTime);
 }
 
 void tst_x11_clip::press_pausesAndGoesOn_data()

@@ -30,6 +30,10 @@
         <translation>الموضع في المقطع</translation>
     </message>
     <message>
+        <source>Flashes quickly, so it does not play by itself</source>
+        <translation>يومض بسرعة، لذلك لا يُشغَّل تلقائيًا</translation>
+    </message>
+    <message>
         <source>Tip</source>
         <translation>نصيحة</translation>
     </message>

@@ -30,6 +30,10 @@
         <translation>Място в клипа</translation>
     </message>
     <message>
+        <source>Flashes quickly, so it does not play by itself</source>
+        <translation>Премигва бързо, затова не се възпроизвежда само</translation>
+    </message>
+    <message>
         <source>Tip</source>
         <translation>Съвет</translation>
     </message>

@@ -30,6 +30,10 @@
         <translation>Místo v klipu</translation>
     </message>
     <message>
+        <source>Flashes quickly, so it does not play by itself</source>
+        <translation>Rychle bliká, proto se nepřehrává samo</translation>
+    </message>
+    <message>
         <source>Tip</source>
         <translation>Tip</translation>
     </message>

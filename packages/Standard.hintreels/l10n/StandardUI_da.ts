@@ -30,6 +30,10 @@
         <translation>Sted i klippet</translation>
     </message>
     <message>
+        <source>Flashes quickly, so it does not play by itself</source>
+        <translation>Blinker hurtigt og afspilles derfor ikke af sig selv</translation>
+    </message>
+    <message>
         <source>Tip</source>
         <translation>Tip</translation>
     </message>

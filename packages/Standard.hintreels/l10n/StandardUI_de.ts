@@ -30,6 +30,10 @@
         <translation>Stelle im Clip</translation>
     </message>
     <message>
+        <source>Flashes quickly, so it does not play by itself</source>
+        <translation>Blinkt schnell und läuft deshalb nicht von selbst</translation>
+    </message>
+    <message>
         <source>Tip</source>
         <translation>Tipp</translation>
     </message>

@@ -30,6 +30,10 @@
         <translation>Θέση στο κλιπ</translation>
     </message>
     <message>
+        <source>Flashes quickly, so it does not play by itself</source>
+        <translation>Αναβοσβήνει γρήγορα, γι’ αυτό δεν αναπαράγεται μόνο του</translation>
+    </message>
+    <message>
         <source>Tip</source>
         <translation>Συμβουλή</translation>
     </message>

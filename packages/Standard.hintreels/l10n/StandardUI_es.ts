@@ -30,6 +30,10 @@
         <translation>Posición en el clip</translation>
     </message>
     <message>
+        <source>Flashes quickly, so it does not play by itself</source>
+        <translation>Parpadea rápidamente, por eso no se reproduce solo</translation>
+    </message>
+    <message>
         <source>Tip</source>
         <translation>Consejo</translation>
     </message>

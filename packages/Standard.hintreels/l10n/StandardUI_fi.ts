@@ -30,6 +30,10 @@
         <translation>Kohta leikkeessä</translation>
     </message>
     <message>
+        <source>Flashes quickly, so it does not play by itself</source>
+        <translation>Välkkyy nopeasti, joten sitä ei toisteta itsestään</translation>
+    </message>
+    <message>
         <source>Tip</source>
         <translation>Vinkki</translation>
     </message>

@@ -30,6 +30,10 @@
         <translation>Position dans le clip</translation>
     </message>
     <message>
+        <source>Flashes quickly, so it does not play by itself</source>
+        <translation>Clignote rapidement et ne démarre donc pas tout seul</translation>
+    </message>
+    <message>
         <source>Tip</source>
         <translation>Astuce</translation>
     </message>

@@ -30,6 +30,10 @@
         <translation>מיקום בקטע</translation>
     </message>
     <message>
+        <source>Flashes quickly, so it does not play by itself</source>
+        <translation>מהבהב במהירות, ולכן אינו מופעל מעצמו</translation>
+    </message>
+    <message>
         <source>Tip</source>
         <translation>עצה</translation>
     </message>

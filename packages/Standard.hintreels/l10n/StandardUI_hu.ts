@@ -30,6 +30,10 @@
         <translation>Hely a klipben</translation>
     </message>
     <message>
+        <source>Flashes quickly, so it does not play by itself</source>
+        <translation>Gyorsan villog, ezért nem indul el magától</translation>
+    </message>
+    <message>
         <source>Tip</source>
         <translation>Tipp</translation>
     </message>

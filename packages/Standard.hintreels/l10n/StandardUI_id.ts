@@ -30,6 +30,10 @@
         <translation>Posisi dalam klip</translation>
     </message>
     <message>
+        <source>Flashes quickly, so it does not play by itself</source>
+        <translation>Berkedip cepat, jadi tidak diputar dengan sendirinya</translation>
+    </message>
+    <message>
         <source>Tip</source>
         <translation>Tips</translation>
     </message>

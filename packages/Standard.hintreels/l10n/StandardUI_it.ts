@@ -30,6 +30,10 @@
         <translation>Posizione nella clip</translation>
     </message>
     <message>
+        <source>Flashes quickly, so it does not play by itself</source>
+        <translation>Lampeggia rapidamente, perciò non parte da solo</translation>
+    </message>
+    <message>
         <source>Tip</source>
         <translation>Suggerimento</translation>
     </message>

@@ -30,6 +30,10 @@
         <translation>クリップ内の位置</translation>
     </message>
     <message>
+        <source>Flashes quickly, so it does not play by itself</source>
+        <translation>速く点滅するため、自動では再生されません</translation>
+    </message>
+    <message>
         <source>Tip</source>
         <translation>ヒント</translation>
     </message>

@@ -30,6 +30,10 @@
         <translation>클립에서의 위치</translation>
     </message>
     <message>
+        <source>Flashes quickly, so it does not play by itself</source>
+        <translation>빠르게 깜박이므로 자동으로 재생되지 않습니다</translation>
+    </message>
+    <message>
         <source>Tip</source>
         <translation>팁</translation>
     </message>

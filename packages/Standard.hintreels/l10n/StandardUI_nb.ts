@@ -30,6 +30,10 @@
         <translation>Sted i klippet</translation>
     </message>
     <message>
+        <source>Flashes quickly, so it does not play by itself</source>
+        <translation>Blinker raskt og spilles derfor ikke av seg selv</translation>
+    </message>
+    <message>
         <source>Tip</source>
         <translation>Tips</translation>
     </message>

@@ -30,6 +30,10 @@
         <translation>Plaats in de clip</translation>
     </message>
     <message>
+        <source>Flashes quickly, so it does not play by itself</source>
+        <translation>Knippert snel en speelt daarom niet vanzelf</translation>
+    </message>
+    <message>
         <source>Tip</source>
         <translation>Tip</translation>
     </message>

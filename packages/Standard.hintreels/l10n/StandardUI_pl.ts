@@ -30,6 +30,10 @@
         <translation>Miejsce w klipie</translation>
     </message>
     <message>
+        <source>Flashes quickly, so it does not play by itself</source>
+        <translation>Szybko miga, więc nie odtwarza się sam</translation>
+    </message>
+    <message>
         <source>Tip</source>
         <translation>Wskazówka</translation>
     </message>

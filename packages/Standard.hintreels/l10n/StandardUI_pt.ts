@@ -30,6 +30,10 @@
         <translation>Posição no clipe</translation>
     </message>
     <message>
+        <source>Flashes quickly, so it does not play by itself</source>
+        <translation>Pisca rapidamente, por isso não é reproduzido sozinho</translation>
+    </message>
+    <message>
         <source>Tip</source>
         <translation>Dica</translation>
     </message>

@@ -30,6 +30,10 @@
         <translation>Poziția în clip</translation>
     </message>
     <message>
+        <source>Flashes quickly, so it does not play by itself</source>
+        <translation>Pâlpâie rapid, de aceea nu pornește singur</translation>
+    </message>
+    <message>
         <source>Tip</source>
         <translation>Sfat</translation>
     </message>

@@ -30,6 +30,10 @@
         <translation>Место в ролике</translation>
     </message>
     <message>
+        <source>Flashes quickly, so it does not play by itself</source>
+        <translation>Быстро мигает, поэтому не воспроизводится сам</translation>
+    </message>
+    <message>
         <source>Tip</source>
         <translation>Совет</translation>
     </message>

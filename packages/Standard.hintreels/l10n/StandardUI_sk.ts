@@ -30,6 +30,10 @@
         <translation>Miesto v klipe</translation>
     </message>
     <message>
+        <source>Flashes quickly, so it does not play by itself</source>
+        <translation>Rýchlo bliká, preto sa neprehráva sám</translation>
+    </message>
+    <message>
         <source>Tip</source>
         <translation>Tip</translation>
     </message>

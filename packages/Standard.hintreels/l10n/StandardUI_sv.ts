@@ -30,6 +30,10 @@
         <translation>Plats i klippet</translation>
     </message>
     <message>
+        <source>Flashes quickly, so it does not play by itself</source>
+        <translation>Blinkar snabbt och spelas därför inte av sig själv</translation>
+    </message>
+    <message>
         <source>Tip</source>
         <translation>Tips</translation>
     </message>

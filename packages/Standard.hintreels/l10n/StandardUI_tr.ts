@@ -30,6 +30,10 @@
         <translation>Klipteki konum</translation>
     </message>
     <message>
+        <source>Flashes quickly, so it does not play by itself</source>
+        <translation>Hızlı yanıp söner, bu yüzden kendiliğinden oynatılmaz</translation>
+    </message>
+    <message>
         <source>Tip</source>
         <translation>İpucu</translation>
     </message>

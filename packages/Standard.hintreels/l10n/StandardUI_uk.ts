@@ -30,6 +30,10 @@
         <translation>Місце в ролику</translation>
     </message>
     <message>
+        <source>Flashes quickly, so it does not play by itself</source>
+        <translation>Швидко блимає, тому не відтворюється сам</translation>
+    </message>
+    <message>
         <source>Tip</source>
         <translation>Порада</translation>
     </message>

@@ -30,6 +30,10 @@
         <translation>Vị trí trong đoạn phim</translation>
     </message>
     <message>
+        <source>Flashes quickly, so it does not play by itself</source>
+        <translation>Nhấp nháy nhanh nên không tự phát</translation>
+    </message>
+    <message>
         <source>Tip</source>
         <translation>Mẹo</translation>
     </message>

@@ -30,6 +30,10 @@
         <translation>片段中的位置</translation>
     </message>
     <message>
+        <source>Flashes quickly, so it does not play by itself</source>
+        <translation>闪烁较快，因此不会自动播放</translation>
+    </message>
+    <message>
         <source>Tip</source>
         <translation>提示</translation>
     </message>

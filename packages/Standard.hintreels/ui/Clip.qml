@@ -16,8 +16,11 @@ Item {
     property bool wanted: false
     property bool watched: true
     property bool scrubbing: false
+    // What nobody has asked for does not flash (WCAG 2.3.1).
+    property bool asked: false
     readonly property alias ended: video.ended
     readonly property alias failed: video.failed
+    readonly property alias flashing: video.flashing
     readonly property alias time: video.time
     readonly property alias length: video.length
     readonly property bool shown: video.implicitWidth > 0
@@ -35,7 +38,15 @@ Item {
     }
 
     function toggle() {
+        asked = true
         wanted = !wanted
+    }
+
+    function holdWhereItFlashes() {
+        if (!flashing || asked)
+            return
+        wanted = false
+        video.position = 0
     }
 
     function scrubTo(fraction) {
@@ -51,6 +62,7 @@ Item {
     }
 
     // The clip is found through the view, so it is set when the item has come into its window.
+    onFlashingChanged: holdWhereItFlashes()
     onHostWindowChanged: {
         if (hostWindow)
             video.source = source

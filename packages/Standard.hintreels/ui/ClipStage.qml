@@ -12,11 +12,12 @@ Item {
     property var block
     property bool watched: true
     readonly property alias failed: player.failed
+    readonly property alias flashing: player.flashing
     readonly property var spoken: hint.words.spoken
     readonly property string spokenState: spoken.seconds ? [
         spoken.seconds.arg(Math.round(player.length)),
         player.ended ? spoken.ended : player.wanted ? spoken.playing : spoken.paused
-    ].join(", ") : ""
+    ].concat(flashing ? hint.words.flashing : []).join(", ") : ""
 
     Clip {
         id: player

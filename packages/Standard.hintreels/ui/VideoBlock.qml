@@ -18,6 +18,7 @@ Column {
     readonly property var header: reader.measured, reader.clip(path)
     // A header may promise pictures that never come.
     property bool failed: false
+    property bool flashing: false
     readonly property bool shown: header.width !== undefined && !failed
 
     visible: shown
@@ -48,6 +49,7 @@ Column {
                 look: figure.slot.look
                 hint: figure.slot.hint
                 block: figure.slot.block
+                onFlashingChanged: figure.flashing = flashing
                 onSpokenStateChanged: frame.spokenState = spokenState
                 // Half of it, or half of what the popup shows, is enough to follow it.
                 watched: frame.seenHeight
@@ -58,6 +60,14 @@ Column {
         RoundedCorners {
             look: figure.slot.look
         }
+    }
+
+    Caption {
+        objectName: "flashing"
+        look: figure.slot.look
+        width: figure.width
+        text: figure.flashing ? figure.slot.hint.words.flashing : ""
+        Accessible.ignored: true // said with the state of the clip
     }
 
     Caption {

@@ -20,6 +20,7 @@ QtObject {
     readonly property string pause: own("Pause")
     readonly property string playAgain: own("Play again")
     readonly property string position: own("Position in the clip")
+    readonly property string flashing: own("Flashes quickly, so it does not play by itself")
     readonly property var noteTitles: ({
         "tip": own("Tip"), "note": own("Note"), "warning": own("Warning")
     })
