@@ -3,9 +3,12 @@
 
 #include "widgets/HRRestWatch_p.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QCursor>
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
+#include <QStyle>
 
 #include <utility>
 
@@ -20,7 +23,6 @@ bool endsRest(QEvent::Type type)
     case QEvent::ActivationChange:
     case QEvent::FocusIn:
     case QEvent::FocusOut:
-    case QEvent::KeyPress:
     case QEvent::KeyRelease:
     case QEvent::Leave:
     case QEvent::MouseButtonDblClick:
@@ -45,8 +47,9 @@ bool mayHaveToolTip(const QWidget &widget)
 
 } // namespace
 
-HRRestWatch::HRRestWatch(Delay delay)
+HRRestWatch::HRRestWatch(Delay delay, WaitsForCtrl waitsForCtrl)
     : m_delay(std::move(delay))
+    , m_waitsForCtrl(std::move(waitsForCtrl))
 {
 }
 
@@ -59,6 +62,9 @@ bool HRRestWatch::holdsBack(const QEvent &event)
     case QEvent::ToolTip:
         m_known.reset();
         return m_timer.isActive();
+    case QEvent::KeyPress:
+        followKey(static_cast<const QKeyEvent &>(event));
+        return false;
     default:
         if (endsRest(event.type()))
             m_timer.stop();
@@ -89,6 +95,28 @@ void HRRestWatch::follow(QObject *watched, const QMouseEvent &event)
         m_position = event.pos();
     }
     m_timer.start(*m_known, this);
+}
+
+/// Ctrl that goes on with another key is a shortcut of the host's.
+void HRRestWatch::followKey(const QKeyEvent &event)
+{
+    m_timer.stop();
+    const bool isCtrlAlone = event.key() == Qt::Key_Control
+        && !(event.modifiers() & ~Qt::KeyboardModifiers(Qt::ControlModifier));
+    if (isCtrlAlone && m_waitsForCtrl())
+        restUnderPointer();
+}
+
+void HRRestWatch::restUnderPointer()
+{
+    const QPoint pointer = QCursor::pos();
+    m_widget = QApplication::widgetAt(pointer);
+    if (!m_widget)
+        return;
+    m_position = m_widget->mapFromGlobal(pointer);
+    const int delay = m_delay();
+    const int desktops = m_widget->style()->styleHint(QStyle::SH_ToolTip_WakeUpDelay);
+    m_timer.start(delay < 0 ? desktops : delay, this);
 }
 
 /// The host may do anything when it is told.

@@ -13,6 +13,7 @@
 #include <optional>
 
 QT_BEGIN_NAMESPACE
+class QKeyEvent;
 class QMouseEvent;
 QT_END_NAMESPACE
 
@@ -29,7 +30,10 @@ public:
     using Delay = std::function<int()>;
     static constexpr int desktopsDelay = -1;
 
-    explicit HRRestWatch(Delay delay);
+    /// Whether the reader holds Ctrl for a hint, also where the pointer has come before.
+    using WaitsForCtrl = std::function<bool()>;
+
+    HRRestWatch(Delay delay, WaitsForCtrl waitsForCtrl);
 
     /// Follows a move of the mouse that an object gets.
     void follow(QObject *watched, const QMouseEvent &event);
@@ -43,9 +47,12 @@ protected:
     void timerEvent(QTimerEvent *event) override;
 
 private:
+    void followKey(const QKeyEvent &event);
+    void restUnderPointer();
     void tell();
 
     Delay m_delay;
+    WaitsForCtrl m_waitsForCtrl;
     std::optional<int> m_known; // what it said at the first of these moves
     QBasicTimer m_timer;
     QPointer<QWidget> m_widget; // that the pointer is over

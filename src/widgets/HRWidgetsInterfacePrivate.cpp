@@ -42,10 +42,15 @@ QPoint cornerOf(const HRPart &part)
 
 HRWidgetsInterfacePrivate::HRWidgetsInterfacePrivate(HRWidgetsInterface *interface)
     : q(interface)
-    , m_rest([this] {
-        const HRReaderSettings *reader = q->readerSettings();
-        return reader ? reader->delay() : HRRestWatch::desktopsDelay;
-    })
+    , m_rest(
+          [this] {
+              const HRReaderSettings *reader = q->readerSettings();
+              return reader ? reader->delay() : HRRestWatch::desktopsDelay;
+          },
+          [this] {
+              const HRReaderSettings *reader = q->readerSettings();
+              return reader && reader->occasion() == HRReaderSettings::occasionModifier;
+          })
     , m_keyHints(
           interface->manager(), [this](QWidget *focused) { return partOf(focused, &partInFocus); },
           [this](const HRPart &part) { return showWithoutPointer(part, cornerOf(part)); })

@@ -44,6 +44,10 @@ struct Fixture
         const QMouseEvent event(QEvent::MouseMove, position, Qt::NoButton, buttons, {});
         watch.follow(&widget, event);
     }
+    void type(int key, Qt::KeyboardModifiers modifiers = {})
+    {
+        watch.holdsBack(QKeyEvent(QEvent::KeyPress, key, modifiers));
+    }
     /// What the desktop says.
     bool holdsToolTipBack()
     {
@@ -54,10 +58,12 @@ struct Fixture
     int delay = farOff;
     Window window;
     int asked = 0;
+    bool waitsForCtrl = false;
     HRRestWatch watch{ [this] {
-        ++asked;
-        return delay;
-    } };
+                          ++asked;
+                          return delay;
+                      },
+        [this] { return waitsForCtrl; } };
 };
 
 } // namespace
@@ -75,6 +81,8 @@ private Q_SLOTS:
     void rest_isWhereThePointerIs();
     void rest_ends_data();
     void rest_ends();
+    void ctrl_bringsNone_data();
+    void ctrl_bringsNone();
     void window_mayGoMeanwhile();
 };
 
@@ -150,7 +158,10 @@ void tst_HRRestWatch::rest_ends()
     QFETCH(QEvent::Type, type);
     Fixture f;
     f.move(f.window, QPoint(5, 5));
-    QVERIFY(!f.watch.holdsBack(QEvent(type)));
+    if (type == QEvent::KeyPress)
+        f.type(Qt::Key_A);
+    else
+        QVERIFY(!f.watch.holdsBack(QEvent(type)));
     QVERIFY(!f.holdsToolTipBack());
 
     f.move(f.window, QPoint(5, 5));
@@ -158,10 +169,41 @@ void tst_HRRestWatch::rest_ends()
     QVERIFY(!f.holdsToolTipBack());
 }
 
+void tst_HRRestWatch::ctrl_bringsNone_data()
+{
+    QTest::addColumn<bool>("waitsForCtrl");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+    const Qt::KeyboardModifiers ctrl = Qt::ControlModifier;
+    QTest::newRow("where the reader does not ask so") << false << int(Qt::Key_Control) << ctrl;
+    QTest::newRow("with Shift") << true << int(Qt::Key_Control) << (ctrl | Qt::ShiftModifier);
+    QTest::newRow("with a letter") << true << int(Qt::Key_C) << ctrl;
+}
+
+// Nothing comes later where no time runs; a tooltip of the desktop's would be held back then.
+void tst_HRRestWatch::ctrl_bringsNone()
+{
+    QFETCH(bool, waitsForCtrl);
+    QFETCH(int, key);
+    QFETCH(Qt::KeyboardModifiers, modifiers);
+    Fixture f;
+    f.waitsForCtrl = waitsForCtrl;
+    f.window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&f.window));
+    QCursor::setPos(f.window.mapToGlobal(QPoint(3, 4)));
+    QTRY_COMPARE(QCursor::pos(), f.window.mapToGlobal(QPoint(3, 4)));
+    f.type(Qt::Key_Control, waitsForCtrl ? Qt::ControlModifier : Qt::NoModifier);
+    QCOMPARE(f.holdsToolTipBack(), waitsForCtrl);
+
+    f.type(key, modifiers);
+
+    QVERIFY(!f.holdsToolTipBack());
+}
+
 void tst_HRRestWatch::window_mayGoMeanwhile()
 {
     int delay = 1;
-    HRRestWatch watch([&delay] { return delay; });
+    HRRestWatch watch([&delay] { return delay; }, [] { return false; });
     auto gone = std::make_unique<Window>();
     Window stays;
     const QMouseEvent move(QEvent::MouseMove, QPoint(5, 5), Qt::NoButton, {}, {});

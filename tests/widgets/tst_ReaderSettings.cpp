@@ -81,6 +81,7 @@ private Q_SLOTS:
     void hint_goes_whenTheReaderTurnsThemOff();
     void occasion_isFollowed_data();
     void occasion_isFollowed();
+    void hint_comesByCtrl_whereThePointerRestsAlready();
     void duration_isTheReaders_data();
     void duration_isTheReaders();
     void delay_isTheReaders();
@@ -175,6 +176,24 @@ void tst_ReaderSettings::occasion_isFollowed()
     f.reader.settings.setOccasion(HRReaderSettings::Occasion(occasion));
     hold(held);
     QTEST(f.hover(), "shown");
+    hold(Qt::NoModifier);
+}
+
+void tst_ReaderSettings::hint_comesByCtrl_whereThePointerRestsAlready()
+{
+    Fixture f;
+    f.reader.settings.setOccasion(HRReaderSettings::occasionModifier);
+    f.reader.settings.setDelay(1);
+    f.button.setAttribute(Qt::WA_AlwaysShowToolTips);
+    f.button.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&f.button));
+    QCursor::setPos(f.button.mapToGlobal(QPoint(5, 5)));
+    QTRY_COMPARE(QCursor::pos(), f.button.mapToGlobal(QPoint(5, 5)));
+    QVERIFY(!f.isShown());
+
+    QTest::keyPress(f.button.windowHandle(), Qt::Key_Control, Qt::ControlModifier);
+
+    QTRY_VERIFY(f.isShown());
     hold(Qt::NoModifier);
 }
 
