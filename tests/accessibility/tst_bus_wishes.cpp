@@ -7,6 +7,7 @@
 #include "ui/PaintedContrast.h"
 
 #include <QPalette>
+#include <QRegularExpression>
 
 using namespace Hintreels;
 
@@ -20,6 +21,27 @@ const HRPortalSettings lessMotion{ { "org.gnome.desktop.interface",
 QPalette palette(const QColor &ground, const QColor &text)
 {
     return QPalette(text, ground, ground, ground, ground, text, text, ground, ground);
+}
+
+/// What has to have a frame in high contrast: the popup, notes, and the caps of keys.
+QList<QQuickItem *> framesBelow(QQuickItem *root)
+{
+    QList<QQuickItem *> frames{ root };
+    for (QQuickItem *item : itemsBelow(root)) {
+        if (QString(item->metaObject()->className())
+                .contains(QRegularExpression("^(KeyCap|NoteBlock)_")))
+            frames.append(item);
+    }
+    return frames;
+}
+
+/// Where an item begins between two pixels, its frame does.
+qreal contrastOfEdge(const QImage &picture, const QColor &ground)
+{
+    qreal most = 1;
+    for (int x = 0; x < 3; ++x)
+        most = qMax(most, contrastRatio(picture.pixelColor(x, picture.height() / 2), ground));
+    return most;
 }
 
 } // namespace
@@ -99,6 +121,12 @@ void tst_bus_wishes::contrast_isHigh_atOnce()
         QVERIFY2(painted.contrast() >= 7, qPrintable(painted.described(text)));
     }
     QVERIFY(words.size() > 20);
+    const auto frames = framesBelow(fixture.root());
+    for (QQuickItem *item : frames) {
+        const qreal contrast = contrastOfEdge(pictureOf(fixture, *item), ground);
+        QVERIFY2(contrast >= 3, item->metaObject()->className());
+    }
+    QVERIFY(frames.size() > 6);
     QGuiApplication::setPalette(before);
 }
 

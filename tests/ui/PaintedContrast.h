@@ -55,11 +55,16 @@ inline QRect placeOf(const QQuickItem &item)
     return item.mapRectToScene(QRectF(0, 0, item.width(), item.height())).toAlignedRect();
 }
 
-/// An item as the popup shows it, after it has been scrolled into sight.
-inline QImage pictureOf(const StandardUiFixture &fixture, QQuickItem &item)
+inline void scrollTo(const StandardUiFixture &fixture, QQuickItem &item)
 {
     QMetaObject::invokeMethod(
         fixture.item("page"), "reveal", Q_ARG(QVariant, QVariant::fromValue(&item)));
+}
+
+/// An item as the popup shows it, after it has been scrolled into sight.
+inline QImage pictureOf(const StandardUiFixture &fixture, QQuickItem &item)
+{
+    scrollTo(fixture, item);
     return fixture.view()->grabWindow().copy(placeOf(item));
 }
 

@@ -32,7 +32,7 @@ Pressable {
         anchors.fill: parent
         radius: width / 2
         color: button.look.veil(button.hovered ? 0.82 : 0.63)
-        border.width: button.look.highContrast ? 1 : 0
+        border.width: button.look.highContrast ? button.look.lineWidth : 0
         border.color: "#ffffff"
         opacity: button.offered ? 1 : 0
 

@@ -14,7 +14,7 @@ Rectangle {
     visible: look.hasFocus(parent)
     color: "transparent"
     radius: look.radius
-    border.width: look.scaled(look.highContrast ? 3 : 2)
+    border.width: look.scaled(look.lineWidth + 1)
     border.color: look.focus
     z: 1
 

@@ -123,7 +123,7 @@ Rectangle {
         anchors.fill: parent
         visible: !root.detached
         color: "transparent"
-        border.width: root.pageFocused ? look.scaled(2) : 1
+        border.width: root.pageFocused ? look.scaled(look.lineWidth + 1) : look.lineWidth
         border.color: root.pageFocused ? look.focus : look.line
     }
 

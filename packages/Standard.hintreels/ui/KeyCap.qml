@@ -17,9 +17,9 @@ Rectangle {
 
     Rectangle {
         anchors.fill: parent
-        anchors.margins: 1
+        anchors.margins: cap.look.lineWidth
         anchors.bottomMargin: cap.look.scaled(2)
-        radius: cap.radius - 1
+        radius: cap.radius - cap.look.lineWidth
         color: cap.look.cap
 
         Text {

@@ -25,11 +25,14 @@ QtObject {
     readonly property color code: shade(palette.windowText, 0.07)
     // What is no text, but has to be seen (WCAG 1.4.11).
     readonly property color control: reader.readable(capEdge, background, 3)
+    readonly property color selection: highContrast ? text : palette.highlight
     // On a veil over white, the brightest that it can be.
     readonly property color passed: reader.readable(palette.highlight, "#5f5f5f", 3)
     readonly property bool dark: isDark(palette.window)
     // Where the desktop asks for it: no tints, and lines around what they would tell.
     readonly property bool highContrast: reader.highContrast
+    // Between two pixels, a line of one would fade.
+    readonly property int lineWidth: highContrast ? 2 : 1
     readonly property real textContrast: highContrast ? 7 : 4.5
     readonly property var noteColors: ({
         "tip": "#2e9e5b", "note": palette.highlight, "warning": "#d98a00"

@@ -35,8 +35,8 @@ TextEdit {
     readOnly: true
     activeFocusOnPress: hint.focusable
     selectByMouse: hint.focusable
-    selectionColor: look.palette.highlight
-    selectedTextColor: look.readable(look.palette.highlightedText, look.palette.highlight)
+    selectionColor: look.selection
+    selectedTextColor: look.readable(look.palette.highlightedText, look.selection)
 
     // What is selected, or all of the hint.
     Keys.onPressed: event => {

@@ -17,7 +17,7 @@ Rectangle {
     implicitHeight: text.y + text.height + 2 * look.step
     radius: look.radius
     color: look.shade(accent, 0.10)
-    border.width: look.highContrast ? 1 : 0
+    border.width: look.highContrast ? look.lineWidth : 0
     border.color: look.line
     Accessible.role: Accessible.Note
     Accessible.name: title.text

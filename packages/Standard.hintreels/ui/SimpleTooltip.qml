@@ -14,7 +14,7 @@ Rectangle {
     implicitWidth: title.width + 6 * look.step
     implicitHeight: Math.ceil(title.height) + 4 * look.step
     color: look.background
-    border.width: hintreelView.reserved ? 0 : focused ? look.scaled(2) : 1
+    border.width: hintreelView.reserved ? 0 : focused ? look.scaled(look.lineWidth + 1) : look.lineWidth
     border.color: focused ? look.focus : look.line
     focus: true
     Keys.onPressed: event => {
