@@ -32,6 +32,9 @@ public:
     /// What the reader has not taken yet.
     QStringView unread() const { return QStringView(m_next, m_text.cend()); }
 
+    /// What the reader has taken.
+    QStringView taken() const { return QStringView(m_text.cbegin(), m_next); }
+
     /// Called from a handler at a tag: nobody asks for the text that follows, up to the next tag.
     void skipText();
 

@@ -197,6 +197,11 @@ QList<QObject *> HRXmlParser::read(const QByteArray &document)
     return readDocument(std::make_unique<HRXmlDocument>(document));
 }
 
+QStringView HRXmlParser::readText() const
+{
+    return d->document ? d->document->taken() : QStringView();
+}
+
 int HRXmlParser::errorLine() const
 {
     return d->errorLine;

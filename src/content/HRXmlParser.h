@@ -7,6 +7,7 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QStringView>
 #include <QXmlAttributes>
 #include <QXmlDefaultHandler>
 #include <QXmlInputSource>
@@ -79,6 +80,11 @@ public:
     /// Reads a document that is in memory whole, which is much quicker than from a source. The
     /// encoding is found as for a source.
     QList<QObject *> read(const QByteArray &document);
+
+    /// The document, decoded, as far as it is read. Asked from a filter, that is to the end of the
+    /// element's start tag, unless it stands in an entity; of an empty element, up to its slash.
+    /// After an error, it is to where that was found. Valid until the next reading.
+    QStringView readText() const;
 
     /// The line, counted from 1, of the error that ended the last reading; 0 where there was none.
     int errorLine() const;

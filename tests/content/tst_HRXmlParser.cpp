@@ -93,6 +93,8 @@ private Q_SLOTS:
     void read_obeysFilter_data();
     void read_obeysFilter();
     void filter_seesNamesAndAttributes();
+    void readText_endsBehindTag_inFilter();
+    void readText_endsAtError();
     void read_choosesClassByLocalName();
     void read_usesDefault_whenRegisteredClassIsNull();
     void read_writesProperties_whenClassTakesNoAttributes();
@@ -206,6 +208,37 @@ void tst_HRXmlParser::filter_seesNamesAndAttributes()
     HRXmlParser parser(Answers::give, &answers);
     const Objects objects(parser, "<x:a xmlns:x='urn:a' b='1' x:c='2'/>");
     QCOMPARE(answers.asked, (QStringList{ "x:a", "b=1", "x:c=2" }));
+}
+
+void tst_HRXmlParser::readText_endsBehindTag_inFilter()
+{
+    struct Reading
+    {
+        static int note(const QString &, const QXmlAttributes &, void *reading)
+        {
+            auto *self = static_cast<Reading *>(reading);
+            self->texts.append(self->parser.readText().toString());
+            return 0;
+        }
+        QStringList texts;
+        HRXmlParser parser{ &Reading::note, this };
+    } reading;
+    QVERIFY(reading.parser.readText().isEmpty());
+
+    qDeleteAll(reading.parser.read(QByteArray("<a>\n<b c='>'>\xc3\xb6</b><d/></a>")));
+
+    const QString whole = QString::fromUtf8("<a>\n<b c='>'>\xc3\xb6</b><d/></a>");
+    QCOMPARE(reading.texts, QStringList({ "<a>", "<a>\n<b c='>'>", whole.chopped(5) }));
+    QCOMPARE(reading.parser.readText().toString(), whole);
+}
+
+void tst_HRXmlParser::readText_endsAtError()
+{
+    HRXmlParser parser;
+
+    parser.read(QByteArray("<a><b></c>\n</a>"));
+
+    QCOMPARE(parser.readText().toString(), QString("<a><b></c>"));
 }
 
 void tst_HRXmlParser::read_choosesClassByLocalName()

@@ -48,12 +48,10 @@ void refuse(const QString &problem)
     std::exit(couldNotRun);
 }
 
-QStringList readableDirectories(const QCommandLineParser &parser, const QCommandLineOption &option)
+QStringList readableDirectories(QStringList paths)
 {
-    QStringList directories = parser.values(option);
-    std::transform(
-        directories.cbegin(), directories.cend(), directories.begin(), readableDirectory);
-    return directories;
+    std::transform(paths.cbegin(), paths.cend(), paths.begin(), readableDirectory);
+    return paths;
 }
 
 } // namespace Hintreels

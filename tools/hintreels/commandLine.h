@@ -15,8 +15,7 @@ void readOptions(QCommandLineParser &parser);
 /// Ends the command with a message on the standard error output.
 [[noreturn]] void refuse(const QString &problem);
 
-/// The values of an option that names directories which can be read, as absolute paths; anything
-/// else ends the command.
-QStringList readableDirectories(const QCommandLineParser &parser, const QCommandLineOption &option);
+/// Directories that can be read, as absolute paths; anything else ends the command.
+QStringList readableDirectories(QStringList paths);
 
 } // namespace Hintreels

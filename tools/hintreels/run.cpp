@@ -4,7 +4,7 @@
 #include "commandLine.h"
 #include "verbs.h"
 
-#include <Hintreels/HRInterface>
+#include "interface/HRInterface.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -93,9 +93,10 @@ int run(int argc, char *argv[])
     if (parser.positionalArguments().isEmpty())
         refuse(QStringLiteral("names no program"));
 
-    const QStringList dataPaths = packagesAnd(readableDirectories(parser, packages));
+    const QStringList plugins = pluginDirectories();
+    const QStringList dataPaths = packagesAnd(readableDirectories(parser.values(packages)));
     prepend("HINTREELS_PACKAGES", dataPaths, QDir::listSeparator());
-    prepend("QT_PLUGIN_PATH", pluginDirectories(), QDir::listSeparator());
+    prepend("QT_PLUGIN_PATH", plugins, QDir::listSeparator());
     prepend("QT_QPA_GENERIC_PLUGINS", { QStringLiteral("hintreels-attach") }, u',');
     // As they came, whatever their encoding.
     char **program = argv + argc - parser.positionalArguments().size();

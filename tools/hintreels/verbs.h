@@ -10,6 +10,7 @@ namespace Hintreels {
 /// returns the command's exit status.
 using Verb = int (*)(int argc, char *argv[]);
 
+int check(int argc, char *argv[]);
 int run(int argc, char *argv[]);
 
 struct NamedVerb
@@ -21,6 +22,7 @@ struct NamedVerb
 
 /// In the order of the help.
 constexpr NamedVerb verbs[] = {
+    { "check", "find what keeps hints from showing as they were written", check },
     { "run", "start a program of Qt Widgets with your hints in it", run },
 };
 
