@@ -219,6 +219,44 @@ shoot_keyboard() {
     shoot_keys "$1keys-menu" "$2the pin in the hint of a menu's entry" Tab
 }
 
+# The same hint at first, and in full; the settings of the reader are Sketchpad's.
+shoot_small() {
+    step "Small style"
+    begin_section "A hint that starts small, and in full"
+    mkdir -p "$XDG_CONFIG_HOME/Hintreels"
+    printf '[Hintreels]\nstartsSmall=1\n' >"$XDG_CONFIG_HOME/Hintreels/Sketchpad.conf"
+    start_sketchpad
+    rest_on toolPen
+    find_popup toolPen
+    wait_until 8 popup_is_painted || fail "the popup for toolPen stayed blank"
+    picture_with_pointer "$shots/small-toolPen.png"
+    add_figure small-toolPen "toolPen, small at first"
+    wait_until 10 popup_is_higher_than "$popup_height" || fail "the rest of the hint did not come"
+    show_hint toolPen
+    picture_with_pointer "$shots/full-toolPen.png"
+    add_figure full-toolPen "toolPen in full, after a rest"
+    stop_sketchpad
+    rm "$XDG_CONFIG_HOME/Hintreels/Sketchpad.conf"
+    end_section
+}
+
+popup_is_higher_than() { measure_popup && ((popup_height > $1)); }
+
+# shoot_settings LOCALE: the settings of the reader, on the whole screen.
+shoot_settings() {
+    start_sketchpad --locale "$1"
+    xdotool key alt+h
+    wait_until 5 area_is_known menu/helpHints || fail "no menu opened"
+    center_of menu/helpHints
+    xdotool mousemove "$x" "$y" click 1
+    wait_until 5 area_is_known hintSettings || fail "no settings opened"
+    take_screen
+    wait_until 3 screen_is_still || true
+    cp "$temporary_directory/screen.png" "$shots/settings-$1.png"
+    add_figure "settings-$1" "The settings of the reader, $1"
+    stop_sketchpad
+}
+
 shoot_menu() {
     step "Menu"
     xdotool key alt+t
@@ -301,6 +339,7 @@ take_shots() {
     # shellcheck source-path=SCRIPTDIR source=shots-wayland.sh
     source "$root/scripts/shots-$3.sh"
     start_shots_display "$scale"
+    export XDG_CONFIG_HOME=$temporary_directory/config # a reader who has decided nothing yet
     shoot_everything
     stop_started
     if [[ $3 == wayland ]]; then
@@ -313,6 +352,7 @@ take_shots() {
 }
 
 shoot_everything() {
+    local locale theme
     start_sketchpad
     shoot_all "Tools" "${tools[@]}"
     shoot_all "Tool bar" "${tool_bar[@]}"
@@ -327,6 +367,23 @@ shoot_everything() {
     shoot_keyboard "" ""
     end_section
     stop_sketchpad
+
+    shoot_small
+    begin_section "What the reader decides"
+    for locale in en_US de_DE ar_EG; do
+        shoot_settings "$locale"
+    done
+    end_section
+
+    begin_section "High contrast"
+    for theme in contrast dark-contrast; do
+        start_sketchpad --theme "$theme"
+        shoot toolPen "$theme-toolPen" "toolPen, theme $theme"
+        shoot viewZoomFit "$theme-viewZoomFit" "viewZoomFit, theme $theme"
+        shoot_keyboard "$theme-" "Theme $theme: "
+        stop_sketchpad
+    done
+    end_section
 
     begin_section "Dark theme and German"
     start_sketchpad --theme dark

@@ -6,6 +6,7 @@
 #include "hints/IndexChoice.h"
 
 #include <QCommandLineParser>
+#include <QMap>
 
 #include <cstdlib>
 
@@ -26,11 +27,13 @@ QString tr(const char *text)
 
 Theme themeNamed(const QString &name)
 {
-    if (name == QLatin1String("light"))
-        return Theme::Light;
-    if (name == QLatin1String("dark"))
-        return Theme::Dark;
-    refuse(tr("There is no theme \"%1\"; use light or dark.").arg(name));
+    const QMap<QString, Theme> themes{ { QStringLiteral("light"), Theme::Light },
+        { QStringLiteral("dark"), Theme::Dark }, { QStringLiteral("contrast"), Theme::Contrast },
+        { QStringLiteral("dark-contrast"), Theme::DarkContrast } };
+    if (!themes.contains(name))
+        refuse(tr("There is no theme \"%1\"; use one of %2.")
+                   .arg(name, QStringList(themes.keys()).join(QLatin1String(", "))));
+    return themes.value(name);
 }
 
 QString knownIndex(const QString &name)
@@ -46,8 +49,9 @@ QString knownIndex(const QString &name)
 
 Options readOptions(const QCoreApplication &application)
 {
-    const QCommandLineOption theme(QStringLiteral("theme"), tr("light or dark."),
-        QStringLiteral("theme"), QStringLiteral("light"));
+    const QCommandLineOption theme(QStringLiteral("theme"),
+        tr("light, dark, contrast or dark-contrast."), QStringLiteral("theme"),
+        QStringLiteral("light"));
     const QCommandLineOption locale(QStringLiteral("locale"),
         tr("The language of the hints, such as de_DE."), QStringLiteral("name"),
         QStringLiteral("en_US"));

@@ -17,7 +17,9 @@ HintSettings::HintSettings(
     Hintreels::HRReaderSettings *settings, const QString &locale, QWidget *parent)
     : QDialog(parent)
 {
+    setObjectName(QStringLiteral("hintSettings"));
     setWindowTitle(tr("Hints"));
+    setLayoutDirection(QLocale(locale).textDirection());
     setAttribute(Qt::WA_DeleteOnClose);
     auto *box = new Hintreels::HRReaderSettingsWidget(settings, this);
     box->setLocale(QLocale(locale));

@@ -8,7 +8,9 @@ namespace Sketchpad {
 enum class Theme
 {
     Light,
-    Dark
+    Dark,
+    Contrast, ///< black on white, as desktops have it for high contrast
+    DarkContrast ///< white on black
 };
 
 /// Gives the whole application Qt's Fusion style with light or dark colours.
