@@ -84,8 +84,6 @@ ReaderControl HRReaderSettingsWidgetPrivate::makeControl(
     }
     control.label = new QLabel(q);
     control.list = new QComboBox(q);
-    // Kerning is lost beside the underlined letter, which makes the text wider than it is measured.
-    control.label->setMargin(1);
     control.label->setBuddy(control.list);
     layout->addRow(control.label, control.list);
     QObject::connect(control.list, QOverload<int>::of(&QComboBox::currentIndexChanged), q,
@@ -115,6 +113,10 @@ void HRReaderSettingsWidgetPrivate::setTexts(const ReaderControl &control, const
 {
     const QSignalBlocker isOurs(control.list);
     control.label->setText(label);
+    // Beside the underlined letter kerning is lost, and joined letters part: the text is painted
+    // wider than Qt measures it.
+    const int room = 2 * q->fontMetrics().averageCharWidth();
+    control.label->setMinimumWidth(control.label->sizeHint().width() + room);
     control.list->clear();
     for (const HRReaderOption &option : control.row.options)
         control.list->addItem(textOf(option), option.value);
