@@ -100,7 +100,7 @@ private:
 
 HRCoveredPart covered(const HRPart &part, const QStringList &keys)
 {
-    return { part.widget, part.area, part.text, keys };
+    return { part.widget, part.widget->isVisible() ? part.area : QRect(), part.text, keys };
 }
 
 /// The keys that are shared by parts of more than one action, or of none.

@@ -11,6 +11,7 @@
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QStandardItemModel>
+#include <QTabWidget>
 #include <QTableView>
 #include <QTableWidget>
 #include <QtTest>
@@ -83,6 +84,7 @@ private Q_SLOTS:
     void content_ofOneAction_isNot();
     void content_thatNobodyShows_isTold();
     void window_isWalkedWhole();
+    void area_isThatOfWhatIsOpen();
     void pieces_areNoParts();
     void cell_isTold_whereItHasAKey();
     void interface_looksAtOpenWindows_inSilence();
@@ -155,6 +157,24 @@ void tst_coverage::window_isWalkedWhole()
         QVERIFY2(tells(coverage.withoutHint, key), key);
     for (const char *key : { "PartsWindow/tabs", "PartsWindow/zoom", "ink" })
         QVERIFY2(!tells(coverage.withoutHint, key), key);
+}
+
+void tst_coverage::area_isThatOfWhatIsOpen()
+{
+    QTabWidget window;
+    auto *hidden = new QTabWidget;
+    hidden->addTab(new QWidget, "Inside");
+    window.addTab(new QWidget, "Before");
+    window.addTab(hidden, "Behind");
+    window.show();
+    const HRCoverage coverage = coverageOf(walkParts(&window), {});
+    QMap<QString, QRect> areas;
+    for (const HRCoveredPart &part : coverage.nameless)
+        areas[part.text] = part.area;
+    QCOMPARE(areas.keys(), QStringList({ "Before", "Behind", "Inside" }));
+    QVERIFY(!areas["Before"].isNull());
+    QVERIFY(!areas["Behind"].isNull());
+    QVERIFY(areas["Inside"].isNull());
 }
 
 void tst_coverage::pieces_areNoParts()
