@@ -7,7 +7,9 @@
 #include "x11/HintHost.h"
 #include "x11/RealInput.h"
 
+#include <QDrag>
 #include <QMenu>
+#include <QMimeData>
 #include <QShortcut>
 #include <QtTest>
 
@@ -62,6 +64,44 @@ public:
     QVector<int> released;
 };
 
+/// A widget that the pointer drags, and drops as soon as the drag is over it.
+class Handle : public QWidget
+{
+public:
+    explicit Handle(HintHost &host)
+        : QWidget(&host.window)
+        , m_host(host)
+    {
+        setGeometry(host.plain.geometry());
+        setAcceptDrops(true);
+        show();
+        raise();
+    }
+
+    bool isPressed = false;
+    QVector<bool> popupShown; ///< whether a popup showed when a drag came
+
+private:
+    void mousePressEvent(QMouseEvent *) override { isPressed = true; }
+
+    void mouseMoveEvent(QMouseEvent *) override
+    {
+        auto *drag = new QDrag(this);
+        drag->setMimeData(new QMimeData);
+        drag->mimeData()->setText("text");
+        drag->exec(Qt::CopyAction);
+    }
+
+    void dragEnterEvent(QDragEnterEvent *event) override
+    {
+        popupShown.append(m_host.showsPopup());
+        event->acceptProposedAction();
+        RealInput::release();
+    }
+
+    HintHost &m_host;
+};
+
 using Deed = std::function<void(Host &)>;
 
 const QMap<QString, Deed> deeds{
@@ -94,6 +134,8 @@ private Q_SLOTS:
     void popup_goes_withItsMenu();
     void popup_stays_whenAnotherMenuCloses();
     void popup_goes_withADeletedPart();
+    void popup_goes_forADrag_data();
+    void popup_goes_forADrag();
 };
 
 void tst_x11_dismissal::init()
@@ -206,6 +248,29 @@ void tst_x11_dismissal::popup_goes_withADeletedPart()
     QVERIFY(host.popup().isVisible());
     delete part;
     QVERIFY(!host.popup().isVisible());
+}
+
+void tst_x11_dismissal::popup_goes_forADrag_data()
+{
+    QTest::addColumn<bool>("isNative");
+    QTest::newRow("as native tool tips") << true;
+    QTest::newRow("not without the setting") << false;
+}
+
+void tst_x11_dismissal::popup_goes_forADrag()
+{
+    QFETCH(bool, isNative);
+    Host host(isNative);
+    Handle handle(host);
+    const QPoint middle = handle.mapToGlobal(handle.rect().center());
+    RealInput::movePointer(middle);
+    RealInput::press();
+    QTRY_VERIFY(handle.isPressed);
+    host.show(host.red, host.window.geometry().topRight() + QPoint(20, 0));
+    QVERIFY(host.showsPopup());
+    RealInput::movePointer(middle + QPoint(20, 0));
+    QTRY_COMPARE(handle.popupShown, QVector<bool>{ !isNative });
+    QCOMPARE(host.showsPopup(), !isNative);
 }
 
 QTEST_MAIN(tst_x11_dismissal)
