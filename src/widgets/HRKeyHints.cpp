@@ -12,6 +12,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QMenuBar>
 
 #include <utility>
 
@@ -34,6 +35,30 @@ bool isSame(const HRPart &a, const HRPart &b)
 {
     return a.widget == b.widget && a.area == b.area && a.action == b.action && a.key == b.key
         && a.names == b.names;
+}
+
+/// As Escape does it: what had the focus before a menu bar has it again.
+void closeMenus()
+{
+    QWidget *menu = nullptr;
+    while ((menu = QApplication::activePopupWidget()) && menu->close())
+        continue;
+    auto *bar = qobject_cast<QMenuBar *>(QApplication::focusWidget());
+    if (!bar)
+        return;
+    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QCoreApplication::sendEvent(bar, &escape);
+}
+
+/// Qt takes no notice of a window that becomes active while a menu is open.
+void goTo(QWidget &window)
+{
+    const QPointer<QWidget> guarded = &window;
+    closeMenus();
+    if (!guarded)
+        return;
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.activateWindow();
 }
 
 bool isPress(const QEvent &event)
@@ -158,7 +183,9 @@ bool HRKeyHints::takePress(QKeyEvent &event)
         && !setting(m_manager->context(), dismissalByEscapeKey, false);
     if (isOff || (!isOverride && std::exchange(m_isRefused, false)))
         return false;
-    m_taken = 0;
+    // Assistive technology at work has presses come late: Shift, behind the news of F1.
+    if (event.key() == m_taken)
+        m_taken = 0;
     if (deed == HRKeyDeed::scene && isOverride) {
         event.accept();
         return true;
@@ -240,9 +267,7 @@ bool HRKeyHints::goToPinned(const HRPart &part) const
         HRWidget *pinned = manager->reservedPopups.popup(key);
         if (!pinned || !pinned->isVisible())
             continue;
-        QWidget *window = pinned->window();
-        window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
-        window->activateWindow();
+        goTo(*pinned->window());
         return true;
     }
     return false;

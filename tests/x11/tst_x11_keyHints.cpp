@@ -40,6 +40,7 @@ private Q_SLOTS:
     void escape_isUsedUp_whileItIsHeldDown();
     void whatsThis_isReplaced_whereThereIsContent();
     void ctrl_takesTheHintAway_whenItIsPressedAlone();
+    void hint_isNotEntered_whenPressesComeLate();
     void nothingHappens_withoutTheShortcut();
 };
 
@@ -265,6 +266,21 @@ void tst_x11_keyHints::ctrl_takesTheHintAway_whenItIsPressedAlone()
     f.send(QEvent::KeyRelease, Qt::Key_Control);
     QVERIFY(f.showsPopup());
     f.key(Qt::Key_Control);
+    QVERIFY(!f.showsPopup());
+}
+
+/// Where assistive technology is at work, Qt asks it about each press, but not about the news of it
+/// that comes before.
+void tst_x11_keyHints::hint_isNotEntered_whenPressesComeLate()
+{
+    KeysFixture f;
+    f.send(QEvent::ShortcutOverride, Qt::Key_F1, Qt::ShiftModifier);
+    QTRY_VERIFY(f.isPainted());
+    f.send(QEvent::KeyPress, Qt::Key_Shift, Qt::ShiftModifier);
+    f.send(QEvent::KeyPress, Qt::Key_F1, Qt::ShiftModifier);
+    f.send(QEvent::KeyRelease, Qt::Key_F1, Qt::ShiftModifier);
+    f.key(Qt::Key_A);
+    QCOMPARE(f.typed(), QStringList());
     QVERIFY(!f.showsPopup());
 }
 

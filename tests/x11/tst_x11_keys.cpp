@@ -15,7 +15,7 @@
 #include <QClipboard>
 #include <QDialog>
 #include <QLineEdit>
-#include <QMenu>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QQmlContext>
 #include <QQuickItem>
@@ -147,6 +147,7 @@ private Q_SLOTS:
     void hint_isCopied();
     void menu_staysOpen_whileItsHintIsWalkedThrough();
     void pinnedHint_givesTheFocusBack();
+    void menu_staysOpen_whenItsHintIsPinned();
     void focus_isSeen();
 };
 
@@ -295,6 +296,38 @@ void tst_x11_keys::pinnedHint_givesTheFocusBack()
     QTRY_VERIFY(f.dialog.isActiveWindow());
     RealInput::type("b");
     QTRY_COMPARE(f.field.text(), QString("ab"));
+}
+
+void tst_x11_keys::menu_staysOpen_whenItsHintIsPinned()
+{
+    Fixture f;
+    QMenuBar bar;
+    f.layout.setMenuBar(&bar);
+    f.menu.setTitle("&Tools");
+    bar.addMenu(&f.menu);
+    RealInput::key("alt+t");
+    QTRY_COMPARE(f.menu.activeAction(), &f.open);
+    QVERIFY(f.show());
+    QVERIFY(f.enter());
+    const QPointer<HRWidget> pinned = f.popup();
+    RealInput::key("Tab");
+    QTRY_COMPARE(f.focusedName(), QString("Keep open in a window"));
+    RealInput::key("space");
+    QTRY_VERIFY(pinned != f.popup());
+    QVERIFY(QTest::qWaitForWindowExposed(pinned->window()));
+    RealInput::key("Down");
+    QTRY_COMPARE(f.menu.activeAction(), &f.close);
+    RealInput::key("Up");
+    QTRY_COMPARE(f.menu.activeAction(), &f.open);
+
+    RealInput::key("shift+F1");
+    QTRY_COMPARE(QApplication::activeWindow(), pinned->window());
+    QVERIFY(!f.menu.isVisible());
+    RealInput::key("Escape");
+    QTRY_VERIFY(!pinned);
+    QTRY_VERIFY(f.dialog.isActiveWindow());
+    RealInput::type("a");
+    QTRY_COMPARE(f.field.text(), QString("a"));
 }
 
 void tst_x11_keys::focus_isSeen()

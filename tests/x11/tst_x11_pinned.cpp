@@ -89,6 +89,7 @@ class tst_x11_pinned : public QObject
 private Q_SLOTS:
     void init() { RealInput::movePointer(farAway); }
     void window_hasTitleAndSizeOfItsHint();
+    void window_hasTheTranslatedTitle();
     void window_closes_forKeys_data();
     void window_closes_forKeys();
     void window_goesWithTheHosts();
@@ -111,6 +112,16 @@ void tst_x11_pinned::window_hasTitleAndSizeOfItsHint()
     host.root()->setHeight(content.height() - 20);
     QTRY_COMPARE(window->size(), content - QSize(0, 20));
     QCOMPARE(host.popup->size(), window->size());
+}
+
+void tst_x11_pinned::window_hasTheTranslatedTitle()
+{
+    PinHost host;
+    QVERIFY(host.showAndPlay());
+    host.host->translations["Pen"] = "Stift %(kind)s";
+    host.host->setGlobalProperty("kind", "2B");
+    QVERIFY(host.pin());
+    QCOMPARE(host.host->window->windowTitle(), QString("Stift 2B"));
 }
 
 void tst_x11_pinned::window_closes_forKeys_data()

@@ -3,6 +3,7 @@
 
 #include "ui/popup/HRPinnedWindow_p.h"
 
+#include "ui/popup/HRSpokenHint_p.h"
 #include "ui/popup/HRView.h"
 #include "ui/popup/HRWidget.h"
 #include "ui/popup/popupFit_p.h"
@@ -21,6 +22,8 @@ HRPinnedWindow::HRPinnedWindow(HRWidget &popup, QWidget *parent)
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setAttribute(Qt::WA_QuitOnClose, false);
+    // A menu that is open stays so. Qt takes no notice of a window that becomes active meanwhile.
+    setAttribute(Qt::WA_ShowWithoutActivating, QApplication::activePopupWidget());
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSizeConstraint(QLayout::SetNoConstraint);
@@ -37,6 +40,29 @@ bool HRPinnedWindow::giveFocusBack() const
         return false;
     parentWidget()->activateWindow();
     return true;
+}
+
+/// Qt closes open menus for any other window than a tool's. To the window system it is none, and
+/// has its place in the task bar.
+void HRPinnedWindow::setVisible(bool visible)
+{
+    if (visible && !isVisible() && !takeTitle())
+        return;
+    const Qt::WindowFlags flags = windowFlags();
+    winId();
+    overrideWindowFlags(flags | Qt::Tool);
+    QWidget::setVisible(visible);
+    overrideWindowFlags(flags);
+}
+
+/// False where the host, asked for a translation, has deleted the window.
+bool HRPinnedWindow::takeTitle()
+{
+    const QPointer<HRPinnedWindow> guarded = this;
+    const QString title = m_popup ? shownTitle(m_popup->view()) : QString();
+    if (guarded && !title.isEmpty())
+        setWindowTitle(title);
+    return guarded;
 }
 
 void HRPinnedWindow::closeEvent(QCloseEvent *event)

@@ -24,12 +24,17 @@ public:
     /// Makes the window that it was pinned from the active one; false where there is none.
     bool giveFocusBack() const;
 
+    /// Under the hint's title, in the reader's language. An open menu, whose hint was pinned, stays
+    /// open.
+    void setVisible(bool visible) override;
+
 protected:
     /// Its reader goes on where the hint was asked for.
     void closeEvent(QCloseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    bool takeTitle();
     void fit();
 
     QPointer<HRWidget> m_popup;

@@ -8,9 +8,9 @@
 #include "ui/popup/sceneContext_p.h"
 
 #include <QAccessible>
-#include <QCoreApplication>
-#include <QGuiApplication>
+#include <QApplication>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QQuickItem>
 
 #include <utility>
@@ -47,6 +47,25 @@ void announce(QObject *focused)
     QAccessible::updateAccessibility(&event);
 }
 
+/// An item that assistive technology does not know, such as a page, stands for all of the popup.
+void announceItem(QQuickItem &item, HRView &view)
+{
+    const bool isKnown = QAccessible::queryAccessibleInterface(&item);
+    QObject *popup = HRViewPrivate::of(view).popup;
+    announce(isKnown ? &item : popup);
+}
+
+/// What the keys go to without a popup: the entry of an open menu, or what has the focus.
+void announceHost()
+{
+    auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    if (!menu || !menu->activeAction())
+        return announce(QGuiApplication::focusObject());
+    QAccessibleEvent event(menu, QAccessible::Focus);
+    event.setChild(menu->actions().indexOf(menu->activeAction()));
+    QAccessible::updateAccessibility(&event);
+}
+
 } // namespace
 
 HRPopupKeyboard::~HRPopupKeyboard()
@@ -73,7 +92,7 @@ void HRPopupKeyboard::leave()
     if (!view)
         return;
     setSceneFocus(*view, nullptr);
-    announce(QGuiApplication::focusObject());
+    announceHost();
 }
 
 void HRPopupKeyboard::type(const QKeyEvent &event)
@@ -96,12 +115,15 @@ void HRPopupKeyboard::type(const QKeyEvent &event)
 /// A key may have led to another item, or out of the popup.
 void HRPopupKeyboard::followFocus()
 {
+    if (m_view && m_view->reserved())
+        return leave(); // its window has the keyboard, or will have
     QQuickItem *item = m_view ? focusedItem(*m_view) : nullptr;
     if (!item || m_item == item)
         return;
     m_item = item;
     setSceneFocus(*m_view, item);
-    announce(m_item);
+    if (m_item && m_view)
+        announceItem(*m_item, *m_view);
 }
 
 } // namespace Hintreels

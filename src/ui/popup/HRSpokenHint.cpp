@@ -44,6 +44,11 @@ QString inOneLine(const HRHintGist &gist)
 
 } // namespace
 
+QString shownTitle(const QPointer<HRView> &view)
+{
+    return gistOf(view).title;
+}
+
 HRSpokenHint::HRSpokenHint(HRWidget &popup)
     : m_popup(popup)
 {

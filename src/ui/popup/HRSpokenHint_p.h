@@ -6,12 +6,19 @@
 #include "ui/popup/HRHostDescription_p.h"
 
 #include <QAccessible>
+#include <QPointer>
 
 class HRContext;
 
 namespace Hintreels {
 
+class HRView;
 class HRWidget;
+
+/// The title of what a view shows, translated and interpolated; empty without one.
+///
+/// The host, which is asked for translations, may delete the view.
+QString shownTitle(const QPointer<HRView> &view);
 
 /// Tells assistive technology of the hint that a popup shows, where the settings say so.
 ///
