@@ -147,6 +147,23 @@ start_window_manager() {
     wait_until 10 window_manager_runs || fail "openbox did not start: $(cat "$temporary_directory/openbox.log")"
 }
 
+# Starts a session bus of our own, on which assistive technology is at work, and points to it.
+start_session_bus() {
+    step "start a session bus"
+    make_temporary_directory
+    local address_file=$temporary_directory/bus-address
+    export XDG_RUNTIME_DIR=$temporary_directory/runtime GSETTINGS_BACKEND=memory
+    export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
+    mkdir --mode=700 "$XDG_RUNTIME_DIR"
+    unset AT_SPI_BUS_ADDRESS
+    dbus-daemon --session --nofork --nopidfile --print-address=3 3>"$address_file" \
+        2>"$temporary_directory/bus.log" &
+    started_processes+=($!)
+    wait_until 10 test -s "$address_file" || fail "no bus started: $(cat "$temporary_directory/bus.log")"
+    DBUS_SESSION_BUS_ADDRESS=$(cat "$address_file")
+    export DBUS_SESSION_BUS_ADDRESS
+}
+
 # start_weston WIDTH HEIGHT SCALE [OPTION...]: starts an X server of our own, and on it a Wayland
 # compositor with two outputs of this size beside each other, and points WAYLAND_DISPLAY to that.
 start_weston() {
