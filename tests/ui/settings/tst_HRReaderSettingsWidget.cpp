@@ -97,6 +97,8 @@ private Q_SLOTS:
     void page_followsItsLanguage();
     void languages_haveEveryWordOfThePage_data();
     void languages_haveEveryWordOfThePage();
+    void labels_areWhole_data() { controls_areNamed_andReachedByKeys_data(); }
+    void labels_areWhole();
     void controls_areNamed_andReachedByKeys_data();
     void controls_areNamed_andReachedByKeys();
 };
@@ -210,6 +212,23 @@ void tst_HRReaderSettingsWidget::languages_haveEveryWordOfThePage()
         QVERIFY2(!said.isEmpty(), qPrintable(word));
         QCOMPARE(said.contains("%1"), word.contains("%1"));
     }
+}
+
+/// Where a label ends, nothing is painted any more.
+void tst_HRReaderSettingsWidget::labels_areWhole()
+{
+    QFETCH(QString, locale);
+    Fixture f{ QLocale(locale) };
+    f.box.setLayoutDirection(f.box.locale().textDirection());
+    f.box.show();
+    const QList<QLabel *> labels = f.box.findChildren<QLabel *>();
+    for (QLabel *label : labels) {
+        const QImage picture = label->grab().toImage();
+        const int end = label->isRightToLeft() ? 0 : picture.width() - 1;
+        for (int y = 0; y < picture.height(); ++y)
+            QVERIFY2(picture.pixel(end, y) == picture.pixel(end, 0), qPrintable(label->text()));
+    }
+    QVERIFY(labels.size() > 5);
 }
 
 void tst_HRReaderSettingsWidget::controls_areNamed_andReachedByKeys_data()
