@@ -142,6 +142,20 @@ int tell(const Report &report, Format format)
     return std::any_of(findings.begin(), findings.end(), keepsFromPassing) ? 1 : 0;
 }
 
+Report checkAll(const QStringList &directories, const QStringList &dataPaths)
+{
+    QStringList packages;
+    const QStringList readable = readableDirectories(directories);
+    for (const QString &directory : readable)
+        packages += packagesAt(QDir::cleanPath(directory));
+    packages.removeDuplicates();
+    const Shelf shelf = shelfFor(packages, readableDirectories(dataPaths));
+    Report report;
+    for (const QString &package : qAsConst(packages))
+        checkPackage(package, shelf, report);
+    return report;
+}
+
 } // namespace
 
 int check(int argc, char *argv[])
@@ -162,17 +176,7 @@ int check(int argc, char *argv[])
         refuse(QStringLiteral("there is no format %1").arg(parser.value(options.format)));
     if (parser.positionalArguments().isEmpty())
         refuse(QStringLiteral("names no directory"));
-
-    QStringList packages;
-    const QStringList directories = readableDirectories(parser.positionalArguments());
-    for (const QString &directory : directories)
-        packages += packagesAt(QDir::cleanPath(directory));
-    packages.removeDuplicates();
-    const Shelf shelf = shelfFor(packages, readableDirectories(parser.values(options.packages)));
-    Report report;
-    for (const QString &package : qAsConst(packages))
-        checkPackage(package, shelf, report);
-    return tell(report, format);
+    return tell(checkAll(parser.positionalArguments(), parser.values(options.packages)), format);
 }
 
 } // namespace Hintreels

@@ -11,8 +11,8 @@ const std::vector<Rule> &allRules()
 {
     static const std::vector<Rule> all = [] {
         std::vector<Rule> rules;
-        for (const auto &list :
-            { fileRules(), shapeRules(), searchRules(), keyRules(), packageRules(), mediaRules() })
+        for (const auto &list : { fileRules(), shapeRules(), searchRules(), keyRules(),
+                 packageRules(), mediaRules(), textRules() })
             rules.insert(rules.end(), list.begin(), list.end());
         return rules;
     }();

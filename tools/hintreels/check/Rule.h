@@ -39,6 +39,7 @@ std::vector<Rule> searchRules(); ///< what is looked for in packages
 std::vector<Rule> keyRules();
 std::vector<Rule> packageRules();
 std::vector<Rule> mediaRules(); ///< pictures, clips, captions
+std::vector<Rule> textRules(); ///< what a reader reads
 
 /// All of them, in the order of the reference.
 const std::vector<Rule> &allRules();

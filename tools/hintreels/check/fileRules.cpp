@@ -9,6 +9,8 @@
 
 #include <QRegularExpression>
 
+#include <iterator>
+
 namespace Hintreels {
 
 namespace {
@@ -94,38 +96,40 @@ void checkSuppressions(const ControlFile &file, const Tell &tell)
     }
 }
 
+constexpr Rule rules[] = {
+    { "xml", Severity::error, "The file is not well-formed XML",
+        "Reading ends at the error. Hints behind it are never shown, and the one in which it "
+        "lies is lost as a whole. Programs say so in their log only.",
+        "Close every element, in the order opposite to that in which they were opened; write "
+        "&lt; and &amp; for < and & in text, or wrap the text in <![CDATA[ and ]]>. Where the "
+        "file ends too early, the error stands at its end: look for the element that is not "
+        "closed.",
+        "<summary>Black &amp; white</summary>", nullptr, checkXml, nullptr },
+    { "encoding", Severity::error, "The file is not UTF-8",
+        "Letters beyond ASCII show as question marks or as other letters.",
+        "Save the file as UTF-8. A file in another encoding has to name it in its first line.",
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>", nullptr, checkEncoding, nullptr },
+    { "root", Severity::error, "The file is not recognised as a control file",
+        "The library looks for its first element line by line, and reads the file only if that "
+        "is hintreels. A tag whose first line ends behind the name is not recognised. No hint "
+        "of the file is ever shown.",
+        "Begin the file with the element hintreels, and write its first attribute into the "
+        "same line. Move other XML files out of the directory Control.",
+        "<hintreels locale=\"en_US\"\n    search=\"Standard\">", nullptr, checkRoot, nullptr },
+    { "suppression", Severity::warning, "A comment to suppress findings has no effect",
+        "A suppression without a reason cannot be judged by whoever reads the file next, so it "
+        "suppresses nothing; nor does one of a rule that does not exist.",
+        "Name the rule by its tag, then a colon and the reason. The comment covers the element "
+        "behind it; before the first element, the whole file.",
+        "<!-- hintreels: ignore unknown-attribute: our host asks for it -->", nullptr,
+        checkSuppressions, nullptr },
+};
+
 } // namespace
 
 std::vector<Rule> fileRules()
 {
-    return {
-        { "xml", Severity::error, "The file is not well-formed XML",
-            "Reading ends at the error. Hints behind it are never shown, and the one in which it "
-            "lies is lost as a whole. Programs say so in their log only.",
-            "Close every element, in the order opposite to that in which they were opened; write "
-            "&lt; and &amp; for < and & in text, or wrap the text in <![CDATA[ and ]]>. Where the "
-            "file ends too early, the error stands at its end: look for the element that is not "
-            "closed.",
-            "<summary>Black &amp; white</summary>", nullptr, checkXml, nullptr },
-        { "encoding", Severity::error, "The file is not UTF-8",
-            "Letters beyond ASCII show as question marks or as other letters.",
-            "Save the file as UTF-8. A file in another encoding has to name it in its first line.",
-            "<?xml version=\"1.0\" encoding=\"UTF-8\"?>", nullptr, checkEncoding, nullptr },
-        { "root", Severity::error, "The file is not recognised as a control file",
-            "The library looks for its first element line by line, and reads the file only if that "
-            "is hintreels. A tag whose first line ends behind the name is not recognised. No hint "
-            "of the file is ever shown.",
-            "Begin the file with the element hintreels, and write its first attribute into the "
-            "same line. Move other XML files out of the directory Control.",
-            "<hintreels locale=\"en_US\"\n    search=\"Standard\">", nullptr, checkRoot, nullptr },
-        { "suppression", Severity::warning, "A comment to suppress findings has no effect",
-            "A suppression without a reason cannot be judged by whoever reads the file next, so it "
-            "suppresses nothing; nor does one of a rule that does not exist.",
-            "Name the rule by its tag, then a colon and the reason. The comment covers the element "
-            "behind it; before the first element, the whole file.",
-            "<!-- hintreels: ignore unknown-attribute: our host asks for it -->", nullptr,
-            checkSuppressions, nullptr },
-    };
+    return { std::begin(rules), std::end(rules) };
 }
 
 } // namespace Hintreels

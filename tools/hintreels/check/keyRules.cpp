@@ -11,6 +11,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <iterator>
 
 namespace Hintreels {
 
@@ -108,25 +109,27 @@ void checkKeySpelling(const Package &package, const Tell &tell)
     }
 }
 
+constexpr Rule rules[] = {
+    { "key-twice", Severity::error, "A file has a key twice", "Neither of the two hints is shown.",
+        "Merge them, or mend the key of one.",
+        "<hintreel key=\"toolPen\" title=\"Pen\"/>\n<hintreel key=\"toolLine\" "
+        "title=\"Line\"/>",
+        nullptr, checkKeyTwice, nullptr },
+    { "key-in-two-files", Severity::warning, "Two files of one locale have the same key",
+        "Which of the hints shows depends on the order in which the files are read.",
+        "Delete one of them.", "<hintreel key=\"toolPen\" title=\"Pen\"/>", nullptr, nullptr,
+        checkKeyInTwoFiles },
+    { "key-spelling", Severity::warning, "A key is spelled otherwise in other locales",
+        "Readers of this locale see the hint in another language, or none.",
+        "Spell the key as the program has it, in each locale.",
+        "<hintreel key=\"toolPen\" title=\"Stift\"/>", nullptr, nullptr, checkKeySpelling },
+};
+
 } // namespace
 
 std::vector<Rule> keyRules()
 {
-    return {
-        { "key-twice", Severity::error, "A file has a key twice",
-            "Neither of the two hints is shown.", "Merge them, or mend the key of one.",
-            "<hintreel key=\"toolPen\" title=\"Pen\"/>\n<hintreel key=\"toolLine\" "
-            "title=\"Line\"/>",
-            nullptr, checkKeyTwice, nullptr },
-        { "key-in-two-files", Severity::warning, "Two files of one locale have the same key",
-            "Which of the hints shows depends on the order in which the files are read.",
-            "Delete one of them.", "<hintreel key=\"toolPen\" title=\"Pen\"/>", nullptr, nullptr,
-            checkKeyInTwoFiles },
-        { "key-spelling", Severity::warning, "A key is spelled otherwise in other locales",
-            "Readers of this locale see the hint in another language, or none.",
-            "Spell the key as the program has it, in each locale.",
-            "<hintreel key=\"toolPen\" title=\"Stift\"/>", nullptr, nullptr, checkKeySpelling },
-    };
+    return { std::begin(rules), std::end(rules) };
 }
 
 } // namespace Hintreels

@@ -11,6 +11,7 @@
 #include <QFileInfo>
 
 #include <cmath>
+#include <iterator>
 
 namespace Hintreels {
 
@@ -88,29 +89,31 @@ void checkCaptions(const Package &package, const Tell &tell)
     }
 }
 
+constexpr Rule rules[] = {
+    { "clip", Severity::error, "A clip is damaged, or is none",
+        "The hint shows without it, or the clip stops before its end.",
+        "Make the file anew; docs/content-format.md has the command that makes one of any "
+        "recording.",
+        "ffmpeg -i recording.mkv -an -vf \"scale=480:-2,fps=30\" -c:v libx264 -crf 26 "
+        "-pix_fmt yuv420p pen.mp4",
+        nullptr, nullptr, checkClips },
+    { "picture", Severity::error, "A picture is damaged, too large, or is none",
+        "The hint shows without it.",
+        "Save it as PNG or JPEG, with at most 64 million pixels. SVG drawings may not refer to "
+        "other files.",
+        "<picture source=\"pen.png\" alt=\"A line\"/>", nullptr, nullptr, checkPictures },
+    { "captions", Severity::warning, "A file beside a clip has no captions in it",
+        "Readers who need captions see none, or those in another language.",
+        "Write the file as WebVTT, in UTF-8 and with at most 100 kB.",
+        "WEBVTT\n\n00:00.000 --> 00:02.500\nPress, drag, and let go.", nullptr, nullptr,
+        checkCaptions },
+};
+
 } // namespace
 
 std::vector<Rule> mediaRules()
 {
-    return {
-        { "clip", Severity::error, "A clip is damaged, or is none",
-            "The hint shows without it, or the clip stops before its end.",
-            "Make the file anew; docs/content-format.md has the command that makes one of any "
-            "recording.",
-            "ffmpeg -i recording.mkv -an -vf \"scale=480:-2,fps=30\" -c:v libx264 -crf 26 "
-            "-pix_fmt yuv420p pen.mp4",
-            nullptr, nullptr, checkClips },
-        { "picture", Severity::error, "A picture is damaged, too large, or is none",
-            "The hint shows without it.",
-            "Save it as PNG or JPEG, with at most 64 million pixels. SVG drawings may not refer to "
-            "other files.",
-            "<picture source=\"pen.png\" alt=\"A line\"/>", nullptr, nullptr, checkPictures },
-        { "captions", Severity::warning, "A file beside a clip has no captions in it",
-            "Readers who need captions see none, or those in another language.",
-            "Write the file as WebVTT, in UTF-8 and with at most 100 kB.",
-            "WEBVTT\n\n00:00.000 --> 00:02.500\nPress, drag, and let go.", nullptr, nullptr,
-            checkCaptions },
-    };
+    return { std::begin(rules), std::end(rules) };
 }
 
 } // namespace Hintreels

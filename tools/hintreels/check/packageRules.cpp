@@ -9,6 +9,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <iterator>
+
 namespace Hintreels {
 
 namespace {
@@ -59,25 +61,27 @@ void checkPlaces(const Package &package, const Tell &tell)
     }
 }
 
+constexpr Rule rules[] = {
+    { "package-suffix", Severity::error, "The name of a package does not end in .hintreels",
+        "The library passes the directory over, or finds nothing in it.",
+        "Rename the directory. Upper and lower case count.", "Painter.hintreels", nullptr, nullptr,
+        checkSuffix },
+    { "control-directory", Severity::error, "A package has no directory Control",
+        "It has no hints, and no other package finds what lies in it.",
+        "Put the control files into a directory of this name. A package that only serves "
+        "others has one with an empty control file.",
+        "Painter.hintreels/Control/en_US.xml", nullptr, nullptr, checkControlDirectory },
+    { "misplaced-file", Severity::error, "A control file lies where the library does not look",
+        "None of its hints is ever shown.",
+        "Move it into the directory Control itself. Links there have to become files.",
+        "Painter.hintreels/Control/en_US.xml", nullptr, nullptr, checkPlaces },
+};
+
 } // namespace
 
 std::vector<Rule> packageRules()
 {
-    return {
-        { "package-suffix", Severity::error, "The name of a package does not end in .hintreels",
-            "The library passes the directory over, or finds nothing in it.",
-            "Rename the directory. Upper and lower case count.", "Painter.hintreels", nullptr,
-            nullptr, checkSuffix },
-        { "control-directory", Severity::error, "A package has no directory Control",
-            "It has no hints, and no other package finds what lies in it.",
-            "Put the control files into a directory of this name. A package that only serves "
-            "others has one with an empty control file.",
-            "Painter.hintreels/Control/en_US.xml", nullptr, nullptr, checkControlDirectory },
-        { "misplaced-file", Severity::error, "A control file lies where the library does not look",
-            "None of its hints is ever shown.",
-            "Move it into the directory Control itself. Links there have to become files.",
-            "Painter.hintreels/Control/en_US.xml", nullptr, nullptr, checkPlaces },
-    };
+    return { std::begin(rules), std::end(rules) };
 }
 
 } // namespace Hintreels

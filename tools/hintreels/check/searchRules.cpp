@@ -14,6 +14,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <iterator>
 
 namespace Hintreels {
 
@@ -109,37 +110,38 @@ void checkPathOutside(const Element &element, const Tell &tell)
             QStringLiteral("%1 lies outside of the package").arg(source));
 }
 
+constexpr Rule rules[] = {
+    { "locale", Severity::error, "The locale of a file is unknown",
+        "The library takes it for another one, so the hints show in the wrong language, or "
+        "never.",
+        "Write language and country as en_US: ISO 639 and ISO 3166, with a low line between "
+        "them.",
+        "<hintreels locale=\"en_GB\" search=\"Standard\">", checkLocale, nullptr, nullptr },
+    { "search", Severity::error, "The list `search` names a package that does not exist",
+        "What lies in that package, such as the user interface, is not found.",
+        "Mend the name, or name the directory that holds the package by --packages.",
+        "<hintreels locale=\"en_US\" search=\"Standard\">", checkSearch, nullptr, nullptr },
+    { "no-ui", Severity::error, "There is no user interface for the hints",
+        "Nothing shows, since the package brings no QML of its own and searches none.",
+        "Search the package with the standard user interface, or bring ui/HintreelUI.qml.",
+        "<hintreels locale=\"en_US\" search=\"Standard\">", checkUi, nullptr, nullptr },
+    { "missing-file", Severity::error, "A picture or a clip does not exist",
+        "The hint shows without it.",
+        "Put the file into the directory Resources of the package, or mend its name: upper and "
+        "lower case count.",
+        "<video source=\"pen.mp4\" alt=\"A line becomes smooth\"/>", checkMissingFile, nullptr,
+        nullptr },
+    { "path-outside", Severity::error, "A path leaves the package",
+        "On other machines the file is not there, and hosts with gates do not open it.",
+        "Copy the file into the directory Resources, and name it by its path in there.",
+        "<picture source=\"tools/pen.png\" alt=\"A line\"/>", checkPathOutside, nullptr, nullptr },
+};
+
 } // namespace
 
 std::vector<Rule> searchRules()
 {
-    return {
-        { "locale", Severity::error, "The locale of a file is unknown",
-            "The library takes it for another one, so the hints show in the wrong language, or "
-            "never.",
-            "Write language and country as en_US: ISO 639 and ISO 3166, with a low line between "
-            "them.",
-            "<hintreels locale=\"en_GB\" search=\"Standard\">", checkLocale, nullptr, nullptr },
-        { "search", Severity::error, "The list `search` names a package that does not exist",
-            "What lies in that package, such as the user interface, is not found.",
-            "Mend the name, or name the directory that holds the package by --packages.",
-            "<hintreels locale=\"en_US\" search=\"Standard\">", checkSearch, nullptr, nullptr },
-        { "no-ui", Severity::error, "There is no user interface for the hints",
-            "Nothing shows, since the package brings no QML of its own and searches none.",
-            "Search the package with the standard user interface, or bring ui/HintreelUI.qml.",
-            "<hintreels locale=\"en_US\" search=\"Standard\">", checkUi, nullptr, nullptr },
-        { "missing-file", Severity::error, "A picture or a clip does not exist",
-            "The hint shows without it.",
-            "Put the file into the directory Resources of the package, or mend its name: upper and "
-            "lower case count.",
-            "<video source=\"pen.mp4\" alt=\"A line becomes smooth\"/>", checkMissingFile, nullptr,
-            nullptr },
-        { "path-outside", Severity::error, "A path leaves the package",
-            "On other machines the file is not there, and hosts with gates do not open it.",
-            "Copy the file into the directory Resources, and name it by its path in there.",
-            "<picture source=\"tools/pen.png\" alt=\"A line\"/>", checkPathOutside, nullptr,
-            nullptr },
-    };
+    return { std::begin(rules), std::end(rules) };
 }
 
 } // namespace Hintreels

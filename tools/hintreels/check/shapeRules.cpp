@@ -6,6 +6,8 @@
 #include "hintreels/check/elementShape.h"
 #include "hintreels/check/nearestWord.h"
 
+#include <iterator>
+
 namespace Hintreels {
 
 namespace {
@@ -94,36 +96,38 @@ void checkValue(const Element &element, const Tell &tell)
     }
 }
 
+constexpr Rule rules[] = {
+    { "unknown-element", Severity::error, "An element has a name that nobody knows",
+        "It is ignored together with its content: what you wrote is missing from the hint.",
+        "Mend the name, or move the element to where it belongs. Hints of a user interface of "
+        "your own may hold any elements.",
+        "<hintreel key=\"toolPen\">\n  <summary>Draws a free line.</summary>\n</hintreel>",
+        checkElementName, nullptr, nullptr },
+    { "element-in-text", Severity::error, "XML elements stand inside of a text",
+        "They are left out with all the words in them, so sentences have holes.",
+        "Write formatting as Markdown: **strong**, *emphasis*, `code`.",
+        "<text>Press **Shift** to keep the proportions.</text>", checkElementInText, nullptr,
+        nullptr },
+    { "unknown-attribute", Severity::error, "An attribute has a name that nobody knows",
+        "It is ignored, so its value shows nowhere.", "Mend the name.",
+        "<picture source=\"pen.png\" alt=\"A line\" width=\"320\"/>", checkAttributeName, nullptr,
+        nullptr },
+    { "missing-attribute", Severity::error, "An element lacks what it cannot do without",
+        "It takes no room in the hint, as if it were not there. An entry without a key is "
+        "never shown.",
+        "Add the attribute.", "<keys press=\"Shift+Drag\">Draws a straight line.</keys>",
+        checkMissingAttribute, nullptr, nullptr },
+    { "unknown-value", Severity::warning, "An attribute has a value that nobody knows",
+        "It counts as if it were not there: a note of an unknown kind is an ordinary note.",
+        "Choose one of the values that the format knows.",
+        "<note kind=\"warning\">This cannot be undone.</note>", checkValue, nullptr, nullptr },
+};
+
 } // namespace
 
 std::vector<Rule> shapeRules()
 {
-    return {
-        { "unknown-element", Severity::error, "An element has a name that nobody knows",
-            "It is ignored together with its content: what you wrote is missing from the hint.",
-            "Mend the name, or move the element to where it belongs. Hints of a user interface of "
-            "your own may hold any elements.",
-            "<hintreel key=\"toolPen\">\n  <summary>Draws a free line.</summary>\n</hintreel>",
-            checkElementName, nullptr, nullptr },
-        { "element-in-text", Severity::error, "XML elements stand inside of a text",
-            "They are left out with all the words in them, so sentences have holes.",
-            "Write formatting as Markdown: **strong**, *emphasis*, `code`.",
-            "<text>Press **Shift** to keep the proportions.</text>", checkElementInText, nullptr,
-            nullptr },
-        { "unknown-attribute", Severity::error, "An attribute has a name that nobody knows",
-            "It is ignored, so its value shows nowhere.", "Mend the name.",
-            "<picture source=\"pen.png\" alt=\"A line\" width=\"320\"/>", checkAttributeName,
-            nullptr, nullptr },
-        { "missing-attribute", Severity::error, "An element lacks what it cannot do without",
-            "It takes no room in the hint, as if it were not there. An entry without a key is "
-            "never shown.",
-            "Add the attribute.", "<keys press=\"Shift+Drag\">Draws a straight line.</keys>",
-            checkMissingAttribute, nullptr, nullptr },
-        { "unknown-value", Severity::warning, "An attribute has a value that nobody knows",
-            "It counts as if it were not there: a note of an unknown kind is an ordinary note.",
-            "Choose one of the values that the format knows.",
-            "<note kind=\"warning\">This cannot be undone.</note>", checkValue, nullptr, nullptr },
-    };
+    return { std::begin(rules), std::end(rules) };
 }
 
 } // namespace Hintreels
