@@ -161,6 +161,9 @@ public:
     /// Draws the picture at its own size, upright where that is wanted, from the item's top left
     /// corner.
     void paint(QPainter *painter) override;
+    /// Draws the picture that is shown @p seconds after the clip's first, as it is to be seen, in a
+    /// size of @p room; nothing where it is not decoded.
+    void paintStill(QPainter *painter, double seconds, const QSizeF &room) const;
 
 Q_SIGNALS:
     // Listeners rely on this order.

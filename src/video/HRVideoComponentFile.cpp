@@ -7,6 +7,8 @@
 
 #include "video/upright_p.h"
 
+#include <QPainter>
+
 namespace Hintreels {
 
 namespace {
@@ -70,6 +72,19 @@ void HRVideoComponent::setUpright(bool upright)
     if (!d->picture.isNull())
         placePicture();
     update();
+}
+
+void HRVideoComponent::paintStill(QPainter *painter, double seconds, const QSizeF &room) const
+{
+    const HRVideoFrame still = d->controller->getFrame(size_t(positionAt(seconds)));
+    if (d->awaitedSources > 0 || still.isNull())
+        return;
+    const QTransform toUpright = d->upright ? d->videoSource->upright() : QTransform();
+    const QSize size = uprightSize(still.size(), toUpright);
+    painter->setRenderHint(QPainter::SmoothPixmapTransform);
+    painter->scale(room.width() / size.width(), room.height() / size.height());
+    painter->setTransform(toUpright, true);
+    painter->drawImage(QPoint(0, 0), still);
 }
 
 void HRVideoComponent::placePicture()

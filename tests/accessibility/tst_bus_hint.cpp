@@ -98,12 +98,13 @@ void tst_bus_hint::hint_isReadOnceAndInOrder_data()
         << penOnTheBus("Control زائد Shift زائد L",
                figuresOnTheBus("نصيحة", "6 ث, متوقف مؤقتًا", "تشغيل", "الموضع في المقطع"),
                "إبقاء مفتوحًا في نافذة");
-    QTest::newRow("clip that flashes")
+    QTest::newRow("clip that flashes, in steps")
         << QByteArray("en_US") << penWith("", "<video source='blinking.mp4' alt='A lamp'/>")
         << penOnTheBus(english,
                { "animation \"A lamp\" "
                  "\"6 s, Paused, Flashes quickly, so it does not play by itself\"",
-                   " push button \"Play\"", " slider \"Position in the clip\"" },
+                   " push button \"Play\"", " slider \"Position in the clip\"", "image \"Dark\"",
+                   "image \"Light\"" },
                pin);
 }
 
@@ -122,6 +123,8 @@ void tst_bus_hint::hint_isReadOnceAndInOrder()
         fixture.packages.path() + "/Test.hintreels/Resources/blinking.mp4", &TestClip::blinking);
     fixture.packages.write(
         "Test.hintreels/Resources/clip.vtt", "WEBVTT\n\n00:00.000 --> 00:06.000\nFirst a dot\n");
+    fixture.packages.write("Test.hintreels/Resources/blinking.vtt",
+        "WEBVTT\n\n00:00.000 --> 00:01.000\nDark\n\n00:01.100 --> 00:02.000\nLight\n");
     QWidget window;
     QPushButton button("draw", &window);
     window.setGeometry(100, 100, 200, 100);

@@ -390,12 +390,14 @@ void tst_StandardUiClips::video_showsTheCaptionOfItsPicture()
     fixture.context.set(reducedMotionKey, true);
     fixture.show();
     const QQuickItem *caption = fixture.item("clipCaption");
-    QTRY_VERIFY(caption->isVisible());
-    QCOMPARE(caption->property("text").toString(), QString("First"));
+    QTRY_VERIFY(fixture.clip()->property("shown").toBool());
+    QTRY_COMPARE(caption->property("text").toString(), QString("First"));
+    QVERIFY(!caption->isVisible()); // it is the first of the steps below
 
     fixture.click(fixture.clip());
     QTRY_VERIFY(fixture.ended());
     QTRY_COMPARE(caption->property("text").toString(), QString("Last"));
+    QVERIFY(caption->isVisible());
 
     fixture.popup->hide();
     fixture.host->context().set(localeKey, "de_DE");

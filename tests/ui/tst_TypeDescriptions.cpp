@@ -8,7 +8,7 @@
 #include "ui/popup/HRView.h"
 #include "ui/popup/serviceTypes_p.h"
 #include "ui/reader/HRContentReader_p.h"
-#include "video/HRVideoComponent.h"
+#include "video/HRClipStill_p.h"
 
 #include <QMetaMethod>
 #include <QQmlComponent>
@@ -32,6 +32,7 @@ struct Type
 QVector<Type> types()
 {
     return {
+        { "HRClipStill", &HRClipStill::staticMetaObject, "QQuickPaintedItem", 1, true },
         { "HRContentReader", &HRContentReader::staticMetaObject, "QObject", 1, false },
         { "HRScrollBar", &HRScrollBarComponent::staticMetaObject, "QQuickPaintedItem", 0, true },
         { "HRStyledRectangle", &HRStyledRectangleComponent::staticMetaObject, "QQuickPaintedItem",

@@ -24,6 +24,7 @@ Item {
     readonly property alias time: video.time
     readonly property alias length: video.length
     readonly property bool shown: video.implicitWidth > 0
+    readonly property HRVideoComponent pictures: video
     // Where the reader has gone by hand, until another picture is shown; below 0 where nowhere.
     property real aim: -1
     // By the clock on which the clip goes, as the captions are.

@@ -12,18 +12,9 @@ Rectangle {
     property string source
     property real time: 0
     property bool shown: false
-    readonly property var captions: find()
+    readonly property var captions: hint.captionsOf(source)
     readonly property string text: captions.filter(c => c.start <= time && time < c.end)
         .map(c => c.text).join("\n")
-
-    function find() {
-        for (const file of hint.reader.captionFiles(source)) {
-            const found = hint.reader.captions(hint.view.findResource(file))
-            if (found.length)
-                return found
-        }
-        return []
-    }
 
     anchors.horizontalCenter: parent.horizontalCenter
     y: parent.height - height - 3 * look.step

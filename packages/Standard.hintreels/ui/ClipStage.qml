@@ -13,6 +13,9 @@ Item {
     property bool watched: true
     readonly property alias failed: player.failed
     readonly property alias flashing: player.flashing
+    readonly property alias pictures: player.pictures
+    // Whether its captions stand below it.
+    property bool inSteps: false
     readonly property var spoken: hint.words.spoken
     readonly property string spokenState: spoken.seconds ? [
         spoken.seconds.arg(Math.round(player.length)),
@@ -46,6 +49,7 @@ Item {
         source: stage.block.source
         time: player.time
         shown: player.shown && stage.hint.reader.showsCaptions
+            && (!stage.inSteps || player.asked || player.time > 0)
     }
 
     ClipButton {

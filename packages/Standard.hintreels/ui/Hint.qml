@@ -46,6 +46,16 @@ QtObject {
         taken()
     }
 
+    // From the best file for the reader that has any.
+    function captionsOf(clip) {
+        for (const file of reader.captionFiles(clip)) {
+            const found = reader.captions(view.findResource(file))
+            if (found.length)
+                return found
+        }
+        return []
+    }
+
     // Where a link leads, unless its text says so, or what stands behind that.
     function unseenTarget(target, text) {
         return target === text || reader.shownTarget(target, text) ? "" : target

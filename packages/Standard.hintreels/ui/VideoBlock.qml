@@ -19,7 +19,15 @@ Column {
     // A header may promise pictures that never come.
     property bool failed: false
     property bool flashing: false
+    property HRVideoComponent pictures
+    readonly property var steps: shown && reader.showsCaptions && reader.reducedMotion()
+        ? stepsOf(slot.hint.captionsOf(slot.block.source)) : []
     readonly property bool shown: header.width !== undefined && !failed
+
+    // One caption says nothing of steps, and of more than this they are none.
+    function stepsOf(captions) {
+        return captions.length > 1 && captions.length <= 24 ? captions : []
+    }
 
     visible: shown
     height: shown ? implicitHeight : 0
@@ -49,7 +57,9 @@ Column {
                 look: figure.slot.look
                 hint: figure.slot.hint
                 block: figure.slot.block
+                inSteps: figure.steps.length > 0
                 onFlashingChanged: figure.flashing = flashing
+                Component.onCompleted: figure.pictures = pictures
                 onSpokenStateChanged: frame.spokenState = spokenState
                 // Half of it, or half of what the popup shows, is enough to follow it.
                 watched: frame.seenHeight
@@ -74,6 +84,16 @@ Column {
         look: figure.slot.look
         width: figure.width
         text: figure.slot.block.text
+    }
+
+    ClipSteps {
+        look: figure.slot.look
+        hint: figure.slot.hint
+        width: figure.width
+        clip: figure.pictures
+        captions: figure.steps
+        stillWidth: frame.width
+        stillHeight: frame.height
     }
 
     Connections {

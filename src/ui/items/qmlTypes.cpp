@@ -6,7 +6,7 @@
 #include "content/HRXmlElement.h"
 #include "ui/items/HRScrollBarComponent.h"
 #include "ui/items/HRStyledRectangleComponent.h"
-#include "video/HRVideoComponent.h"
+#include "video/HRClipStill_p.h"
 
 #include <QtQml>
 
@@ -15,9 +15,9 @@ namespace Hintreels {
 namespace {
 
 template <typename T>
-void registerType(const char *name)
+void registerType(const char *name, int minor = 0)
 {
-    qmlRegisterType<T>("com.zentora.hintreels.qml", 1, 0, name);
+    qmlRegisterType<T>("com.zentora.hintreels.qml", 1, minor, name);
 }
 
 bool registerAllTypes()
@@ -26,6 +26,7 @@ bool registerAllTypes()
     registerType<HRXmlElement>("HRXmlElement");
     registerType<HRStyledRectangleComponent>("HRStyledRectangle");
     registerType<HRScrollBarComponent>("HRScrollBar");
+    registerType<HRClipStill>("HRClipStill", 1);
     return true;
 }
 
