@@ -20,7 +20,7 @@ constexpr float leastLuminance = 0.1F; // as a change
 constexpr float brightest = 0.8F; // that the darker side may be, and is no longer
 constexpr float leastColor = 0.2F; // as a change
 
-constexpr double rounding = 1e-6; // seconds: times are sums of fractions
+constexpr double timeRounding = 1e-6; // seconds: times are sums of fractions
 
 /// Where part @p index of @p count begins, of a length.
 int edge(int index, int count, int length)
@@ -73,7 +73,7 @@ void HRFlashMeter::add(const HRVideoFrame &picture, double seconds)
         if (follow(lightOf(picture, place.pixels), seconds, &place))
             isAnotherChange = true;
     }
-    const double since = seconds - 1.0 + rounding;
+    const double since = seconds - 1.0 + timeRounding;
     while (isAnotherChange
         && (isWide(m_most + 1, &Place::luminance, since) || isWide(m_most + 1, &Place::red, since)))
         ++m_most;

@@ -33,7 +33,8 @@ void tst_HRSwings::follow_countsTurns_data()
     QTest::newRow("up bit by bit") << Values{ 10, 14, 18, 22 } << 1;
     QTest::newRow("on and on up") << Values{ 10, 20, 30, 40, 50 } << 1;
     QTest::newRow("up and down") << Values{ 10, 20, 30, 20, 10 } << 2;
-    QTest::newRow("from the peak, not from where it counted") << Values{ 10, 20, 30, 21, 20 } << 2;
+    QTest::newRow("since the peak, not since where it counted")
+        << Values{ 10, 20, 30, 21, 20 } << 2;
     QTest::newRow("back and forth") << Values{ 10, 90, 10, 90, 10 } << 4;
     QTest::newRow("trembling") << Values{ 50, 55, 50, 55, 50 } << 0;
     QTest::newRow("between high values") << Values{ 80, 95, 80, 95 } << 0;
