@@ -24,8 +24,8 @@ void HRClipFlashes::repeat(const std::function<HRVideoFrame(size_t)> &pictureAt)
     const size_t count = m_times.count();
     const double end = m_times.length();
     for (size_t i = 0; count > 0 && i < mostRepeated; ++i) {
-        const double round = double(i / count + 1);
-        const double seconds = round * end + m_times.start(i % count);
+        const size_t round = i / count + 1;
+        const double seconds = double(round) * end + m_times.start(i % count);
         if (seconds >= end + 1.0)
             return;
         m_meter.add(pictureAt(i % count), seconds);

@@ -39,14 +39,14 @@ int fitting(double whole, double part, int most)
 int mostMarked(const std::vector<int> &marks, const QSize &grid, const QSize &field)
 {
     // Of each corner, the marks above it and to its left.
-    const int stride = grid.width() + 1;
+    const qsizetype stride = grid.width() + 1;
     std::vector<int> sums(size_t(stride) * size_t(grid.height() + 1), 0);
+    const int *mark = marks.data();
     int most = 0;
     for (int y = 1; y <= grid.height(); ++y) {
         for (int x = 1; x <= grid.width(); ++x) {
-            int *corner = &sums[size_t(y * stride + x)];
-            *corner = marks[size_t((y - 1) * grid.width() + x - 1)] + corner[-1] + corner[-stride]
-                - corner[-stride - 1];
+            int *corner = sums.data() + y * stride + x;
+            *corner = *mark++ + corner[-1] + corner[-stride] - corner[-stride - 1];
             if (x < field.width() || y < field.height())
                 continue;
             const int *top = corner - field.height() * stride;

@@ -14,6 +14,7 @@
 #include <QKeyEvent>
 #include <QMenuBar>
 
+#include <algorithm>
 #include <utility>
 
 namespace Hintreels {
@@ -263,14 +264,13 @@ bool HRKeyHints::goToPinned(const HRPart &part) const
 {
     const std::shared_ptr<HRManagerPrivate> manager = HRManagerPrivate::of(*m_manager);
     const QStringList keys = keysOf(part);
-    for (const QString &key : keys) {
+    return std::any_of(keys.begin(), keys.end(), [&](const QString &key) {
         HRWidget *pinned = manager->reservedPopups.popup(key);
-        if (!pinned || !pinned->isVisible())
-            continue;
-        goTo(*pinned->window());
-        return true;
-    }
-    return false;
+        const bool isThere = pinned && pinned->isVisible();
+        if (isThere)
+            goTo(*pinned->window());
+        return isThere;
+    });
 }
 
 bool HRKeyHints::leavePinnedWindow() const

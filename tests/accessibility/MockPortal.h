@@ -32,13 +32,15 @@ public:
     void answer(const QVariant &value)
     {
         m_answer = value;
-        for (const QDBusMessage &question : std::exchange(questions, {}))
+        const auto open = std::exchange(questions, {});
+        for (const QDBusMessage &question : open)
             m_bus.send(question.createReply(m_answer));
     }
 
     void fail()
     {
-        for (const QDBusMessage &question : std::exchange(questions, {}))
+        const auto open = std::exchange(questions, {});
+        for (const QDBusMessage &question : open)
             m_bus.send(question.createErrorReply(QDBusError::Failed, "no settings today"));
     }
 

@@ -72,7 +72,8 @@ inline QImage pictureOf(const StandardUiFixture &fixture, QQuickItem &item)
 inline QList<QQuickItem *> wordsBelow(QQuickItem *root)
 {
     QList<QQuickItem *> words;
-    for (QQuickItem *item : itemsBelow(root)) {
+    const auto items = itemsBelow(root);
+    for (QQuickItem *item : items) {
         const bool isText = item->inherits("QQuickText") || item->inherits("QQuickTextEdit");
         const bool isLink = item->property("place").toMap().contains("href");
         if (item->isVisible()
